@@ -1,0 +1,17 @@
+# The options that every target of the project is compiled with: link to project_options.
+add_library(project_options INTERFACE)
+target_compile_features(project_options INTERFACE cxx_std_20)
+target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
+target_compile_options(project_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  # Designated initializers leave the other members to their defaults on purpose.
+  -Wno-missing-field-initializers)
+# GCC 12 warns of overlapping copies inside std::string operator+ that do not exist.
+target_compile_options(project_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+if(ODMIENNIK_STRICT)
+  target_compile_options(project_options INTERFACE -Werror)
+endif()
+if(ODMIENNIK_SANITIZE)
+  target_compile_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE}
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE})
+endif()

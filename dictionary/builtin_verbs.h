@@ -1,0 +1,20 @@
+// The built-in verbs: 84 irregular and defective ones that no rule covers.
+#pragma once
+
+#include <string_view>
+
+#include "engine/ports.h"
+
+namespace odmiennik::dictionary {
+
+class BuiltinVerbTable final : public engine::BuiltinVerbs {
+ public:
+  // "ensuivre" loads the entry "s'ensuivre", slot 96 with its pronoun; "@" becomes empty, "*"
+  // stays.
+  [[nodiscard]] bool load(std::string_view key, engine::FormTable& forms) const override;
+};
+
+// How many built-in verbs there are, as the string table says: 84.
+[[nodiscard]] int builtinVerbCount();
+
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,31 @@
+// One conjugation: all that the driver reads and writes.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "engine/display.h"
+#include "engine/flags.h"
+#include "engine/form_table.h"
+#include "engine/verb_information.h"
+
+namespace odmiennik::engine {
+
+// Where the forms come from.
+enum class Source : std::uint8_t { none, user, builtin, rule };
+
+// Reused verb after verb for its buffers; not copied, since `shown` holds views of `forms`.
+struct Conjugation {
+  Conjugation() = default;
+  Conjugation(const Conjugation&) = delete;
+  Conjugation& operator=(const Conjugation&) = delete;
+
+  FormTable forms;
+  EngineFlags flags;
+  VerbInformation information;
+  Display shown;
+  Source source = Source::none;
+  std::string_view model;  // the rule that conjugated it (UTF-8), "" for a stored verb
+};
+
+}  // namespace odmiennik::engine

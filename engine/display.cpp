@@ -1,0 +1,36 @@
+// The display step.
+#include "engine/display.h"
+
+namespace odmiennik::engine {
+namespace {
+
+// deliberate: the bound is 89, so that all il forms stay and slot 100 goes with the imperatives.
+constexpr bool staysImpersonal(int slot) {
+  const bool isIlForm = slot % kPersonCount == 2 && slot < 89;
+  return isIlForm || (slot >= slot::kInfinitive && slot <= slot::kPastParticiple);
+}
+
+void dropPersons(FormTable& forms) {
+  for (int slot = 0; slot < kSlotCount; ++slot)
+    if (!staysImpersonal(slot)) forms[slot].clear();
+}
+
+std::string_view boxText(int slot, std::string_view form, bool isPronominal, bool isEditing) {
+  if (form.empty()) return isEditing ? std::string_view{} : kShownMissing;
+  const bool isBare = isPronominal || !mayCarryReflexive(slot, form);
+  return isBare ? form : withoutOwnReflexive(slot, form);
+}
+
+}  // namespace
+
+void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display& shown) {
+  if (flags.isImpersonal) dropPersons(forms);
+  shown.isPronominal = flags.isPronominal;
+  for (int slot = 0; slot < kSlotCount; ++slot)
+    shown.boxes[static_cast<std::size_t>(slot)] =
+        boxText(slot, forms[slot], flags.isPronominal, isEditing);
+  chooseSubjectPronouns(forms, flags.hAspirate, shown.pronouns);
+  chooseSubjunctiveCaptions(forms, shown.captions);
+}
+
+}  // namespace odmiennik::engine

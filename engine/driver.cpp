@@ -1,0 +1,135 @@
+// The driver.
+#include "engine/driver.h"
+
+#include "engine/completion.h"
+#include "engine/compound_tenses.h"
+#include "engine/normalization.h"
+
+namespace odmiennik::engine {
+namespace {
+
+constexpr std::string_view kResetWord = "resetuj";
+
+bool isVerbShown(const Conjugation& conjugation, std::string_view typed) {
+  return conjugation.flags.isConjugationShown &&
+         lookupKey(typed) == conjugation.flags.normalizedInput;
+}
+
+void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
+  if (!isEditing) completeStoredVerb(conjugation.forms, conjugation.flags.auxiliary);
+}
+
+// Reads slot 96 into the flags; a reflexive prefix makes the verb pronominal.
+void readInfinitive(const FormTable& forms, EngineFlags& flags) {
+  flags.hAspirate = flags.isPronominal = flags.isImpersonal = false;
+  normalize(forms[slot::kInfinitive], flags.normalizedInput);
+}
+
+void takeReflexivePrefix(EngineFlags& flags) {
+  const std::string_view bare = withoutReflexivePrefix(flags.normalizedInput);
+  flags.isPronominal = bare.size() != flags.normalizedInput.size();
+  flags.normalizedInput.erase(0, flags.normalizedInput.size() - bare.size());
+}
+
+}  // namespace
+
+Outcome Driver::conjugate(Conjugation& conjugation, std::string_view typed) {
+  conjugation.flags.isConjugationShown = false;
+  setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
+  conjugation.forms[slot::kInfinitive].assign(typed);
+  const Outcome outcome = fill(conjugation, false);
+  if (outcome == Outcome::reset) return outcome;
+  show(conjugation, false);
+  conjugation.flags.isConjugationShown = true;
+  return outcome;
+}
+
+Outcome Driver::conjugateForEditing(Conjugation& conjugation, std::string_view typed) {
+  if (!isVerbShown(conjugation, typed))
+    setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
+  conjugation.flags.isConjugationShown = false;
+  conjugation.forms[slot::kInfinitive].assign(typed);
+  const Outcome outcome = fill(conjugation, true);
+  if (outcome == Outcome::reset) return outcome;
+  show(conjugation, true);
+  conjugation.information.chkZAvoir.isEnabled = true;
+  return outcome;
+}
+
+void Driver::toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEditing) {
+  setAuxiliary(isAvoir ? kAvoir : kEtre, conjugation.flags, conjugation.information);
+  if (isEditing) return;
+  buildCompoundTenses(conjugation.forms, conjugation.flags.auxiliary,
+                      {.keepsEmptySlots = conjugation.flags.isConjugationShown});
+  display(conjugation.forms, conjugation.flags, isEditing, conjugation.shown);
+}
+
+void Driver::show(Conjugation& conjugation, bool isEditing) {
+  EngineFlags& flags = conjugation.flags;
+  if (flags.isPronominal) addReflexivePronouns(conjugation.forms, flags.hAspirate);
+  display(conjugation.forms, flags, isEditing, conjugation.shown);
+  flags.isPronominal = false;
+}
+
+Outcome Driver::fill(Conjugation& conjugation, bool isEditing) {
+  EngineFlags& flags = conjugation.flags;
+  conjugation.source = Source::none;
+  conjugation.model = {};
+  readInfinitive(conjugation.forms, flags);
+  if (flags.normalizedInput == kResetWord) {
+    ports_.shell.resetSettings();
+    return Outcome::reset;
+  }
+  takeReflexivePrefix(flags);
+  const std::string_view record = ports_.index.record(flags.normalizedInput);
+  applyRecord(record, flags, conjugation.information);
+  if (flags.isPronominal) applyPronominal(flags, conjugation.information);
+  if (loadUserVerb(conjugation, isEditing) || loadBuiltinVerb(conjugation, isEditing))
+    return Outcome::conjugated;
+  return conjugateByRule(conjugation, !record.empty(), isEditing);
+}
+
+bool Driver::loadUserVerb(Conjugation& conjugation, bool isEditing) {
+  EngineFlags& flags = conjugation.flags;
+  if (!ports_.userVerbs.load(flags.normalizedInput, conjugation.forms, flags.storedAux))
+    return false;
+  flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
+  flags.isImpersonal = false;
+  applyStoredVerb(flags, conjugation.information);
+  completeUnlessEditing(conjugation, isEditing);
+  conjugation.source = Source::user;
+  return true;
+}
+
+bool Driver::loadBuiltinVerb(Conjugation& conjugation, bool isEditing) {
+  if (!ports_.builtinVerbs.load(conjugation.flags.normalizedInput, conjugation.forms)) return false;
+  completeUnlessEditing(conjugation, isEditing);
+  conjugation.source = Source::builtin;
+  return true;
+}
+
+Outcome Driver::conjugateByRule(Conjugation& conjugation, bool isKnown, bool isEditing) {
+  FormTable& forms = conjugation.forms;
+  const EngineFlags& flags = conjugation.flags;
+  forms.clear();
+  forms[slot::kInfinitive].assign(flags.normalizedInput);
+  const RuleResult result = flags.normalizedInput.ends_with("er")
+                                ? ports_.rules.conjugateFirstGroup(forms, flags.auxiliary)
+                                : ports_.rules.conjugateByEnding(forms, flags.auxiliary, isEditing);
+  if (result.isRefused) {
+    ports_.shell.show(Notice::notConjugable);
+    return Outcome::refused;
+  }
+  conjugation.model = result.model;
+  conjugation.source = result.model.empty() ? Source::none : Source::rule;
+  const bool isNewVerb = isEditing && flags.normalizedInput.empty();
+  if (!isKnown && !isNewVerb) ports_.shell.show(Notice::conjugatedRegularly);
+  buildCompoundTenses(forms, flags.auxiliary, {});
+  return Outcome::conjugated;
+}
+
+std::string_view auxiliaryCaption(std::uint8_t auxiliary) {
+  return auxiliary == kAvoir ? "&se conjugué avec avoir" : "&se conjugué avec être";
+}
+
+}  // namespace odmiennik::engine

@@ -1,0 +1,29 @@
+// What is done to an infinitive before it is looked up or compared.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace odmiennik::engine {
+
+// `text` without leading and trailing blanks; only U+0020 is a blank here.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
+// Windows-1252 lower case: "ÊTRE" -> "être", "ŒUVRER" -> "œuvrer".
+void lowerCase(std::string& text);
+
+// Whether the text begins with "s'" or "se ".
+[[nodiscard]] bool hasReflexivePrefix(std::string_view text);
+
+// The text without that prefix: "se laver" -> "laver", "s'asseoir" -> "asseoir". Both tests look at
+// the text as given, so that at most one prefix is removed.
+[[nodiscard]] std::string_view withoutReflexivePrefix(std::string_view text);
+
+// Sets `out` to the trimmed, lower-cased text with the typographic apostrophe read as "'":
+// "  S’Asseoir " -> "s'asseoir".
+void normalize(std::string_view text, std::string& out);
+
+// The key under which a stored infinitive is found: normalized and without its reflexive prefix.
+[[nodiscard]] std::string lookupKey(std::string_view infinitive);
+
+}  // namespace odmiennik::engine

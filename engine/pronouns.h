@@ -1,0 +1,45 @@
+// Subject and reflexive pronouns, and the elision that both follow.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "engine/form_table.h"
+
+namespace odmiennik::engine {
+
+// Whether a pronoun elides before `form`: it begins with one of "aâèéeêioôuy", or with an h that is
+// not aspirated. Capitals, à, î, û, ë, ï and œ do not elide.
+[[nodiscard]] bool elides(std::string_view form, bool hAspirate);
+
+// Writes reflexive pronouns into the table: "laves" -> "te laves", "lave" -> "lave-toi", "laver" ->
+// "se laver". The impératif passé becomes empty; slot 99, "*", empty slots and slots that already
+// have their pronoun stay as they are.
+void addReflexivePronouns(FormTable& forms, bool hAspirate);
+
+// Whether `form` may carry a reflexive pronoun: "me ", "m'", "nous " and their like end in a blank
+// or an apostrophe at one of three places. A glance that settles most forms; only the imperative's
+// pronoun stands behind.
+[[nodiscard]] inline bool mayCarryReflexive(int slot, std::string_view form) {
+  if (slot >= slot::kImperative && slot < slot::kPastImperative) return true;
+  if (form.size() < 2) return false;
+  const char first = form[0];
+  if (first != 's' && first != 'm' && first != 't' && first != 'n' && first != 'v') return false;
+  return form[1] == '\'' || form.size() < 5 || form[2] == ' ' || form[4] == ' ';
+}
+
+// The form of `slot` without the reflexive pronoun that it carries, as a view of `form`:
+// (0, "me lave") -> "lave", (90, "lave-toi") -> "lave", (96, "se laver") -> "laver".
+[[nodiscard]] std::string_view withoutOwnReflexive(int slot, std::string_view form);
+
+using SubjectPronouns = std::array<std::string_view, kPersonalSlotCount>;
+using SubjunctiveCaptions = std::array<std::string_view, 4>;
+
+// "je" or "j'", "tu", "il", "ns", "vs", "ils" for slots 0 to 89, without a blank behind them.
+void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns);
+
+// The captions above the subjunctive blocks: "Il faut que ...", for falloir "Il ne crois pas que
+// ...".
+void chooseSubjunctiveCaptions(const FormTable& forms, SubjunctiveCaptions& captions);
+
+}  // namespace odmiennik::engine

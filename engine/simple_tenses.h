@@ -1,0 +1,44 @@
+// The builders of the simple tenses: stem and endings, written into fixed slots.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "engine/form_table.h"
+
+namespace odmiennik::engine {
+
+// A stem or base handed to a builder must not be a view of a slot that the builder writes.
+
+// Slots 6-11: "parl" -> parlais … parlaient.
+void buildImperfect(FormTable& forms, std::string_view stem);
+
+// Slots 18-23: "parler" -> parlerai … parleront.
+void buildFuture(FormTable& forms, std::string_view stem);
+
+// Slots 90-92 from slots 1, 3, 4; an s after e, ë or é is dropped: parles -> parle, but vas -> vas.
+void buildImperative(FormTable& forms);
+
+// Slots 48-53 from slot 5, its variants one by one, and from slots 9 and 10 (nous and vous are the
+// imperfect's): payent/paient -> paye/paie.
+void buildPresentSubjunctive(FormTable& forms);
+
+// Slots 72-77 from slot 18, its variants one by one; an empty slot 18 leaves them as they are.
+void buildConditional(FormTable& forms);
+
+// The endings of the passé simple: -ai, -is or -us.
+enum class PastEndings : std::uint8_t { a = 1, i = 2, u = 3 };
+
+// Slots 12-17. Without `endings`: -ai for an infinitive in "er", -is for any other. Without `base`:
+// the infinitive less two letters.
+void buildPastHistoric(FormTable& forms, std::optional<PastEndings> endings = std::nullopt,
+                       std::optional<std::string_view> base = std::nullopt);
+
+// Slot 98 from slot 3: parlons -> parlant; an empty slot 3 leaves it as it is.
+void buildPresentParticiple(FormTable& forms);
+
+// Slots 54-59 from slots 12 and 15; an empty slot 12 leaves them as they are.
+void buildImperfectSubjunctive(FormTable& forms);
+
+}  // namespace odmiennik::engine

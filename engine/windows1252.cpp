@@ -1,0 +1,59 @@
+// Conversion between Windows-1252 and UTF-8, used only at the program's edges.
+#include "engine/windows1252.h"
+
+namespace odmiennik::engine {
+namespace {
+
+// The UTF-8 image of one byte, ready to be copied: at most three bytes ("€").
+struct Utf8Image {
+  char bytes[3];
+  std::uint8_t length;
+};
+
+constexpr Utf8Image imageOf(char32_t codePoint) {
+  const auto tail = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
+  if (codePoint < 0x80) return {{static_cast<char>(codePoint), 0, 0}, 1};
+  if (codePoint < 0x800)
+    return {{static_cast<char>(0xC0 | (codePoint >> 6)), tail(codePoint), 0}, 2};
+  return {{static_cast<char>(0xE0 | (codePoint >> 12)), tail(codePoint >> 6), tail(codePoint)}, 3};
+}
+
+constexpr std::array<Utf8Image, 256> kUtf8Images = [] {
+  std::array<Utf8Image, 256> images{};
+  for (std::size_t byte = 0; byte < 256; ++byte) images[byte] = imageOf(kCodePointOfByte[byte]);
+  return images;
+}();
+
+}  // namespace
+
+void appendUtf8(std::string& out, std::string_view bytes) {
+  for (const char byte : bytes) {
+    const Utf8Image& image = kUtf8Images[static_cast<unsigned char>(byte)];
+    out.append(image.bytes, image.length);
+  }
+}
+
+std::string toUtf8(std::string_view bytes) {
+  std::string utf8;
+  utf8.reserve(bytes.size() + bytes.size() / 4);
+  appendUtf8(utf8, bytes);
+  return utf8;
+}
+
+FromUtf8 fromUtf8(std::string_view utf8) {
+  FromUtf8 result;
+  result.text.reserve(utf8.size());
+  while (result.position < utf8.size()) {
+    const DecodedCodePoint decoded = decodeUtf8(utf8.substr(result.position));
+    const auto byte = decoded.length == 0 ? std::nullopt : byteOfCodePoint(decoded.value);
+    if (!byte) {
+      result.fault = decoded.length == 0 ? Utf8Fault::notUtf8 : Utf8Fault::letterOutside;
+      return result;
+    }
+    result.text.push_back(static_cast<char>(*byte));
+    result.position += static_cast<std::size_t>(decoded.length);
+  }
+  return result;
+}
+
+}  // namespace odmiennik::engine

@@ -1,0 +1,39 @@
+// First group: every infinitive in -er.
+#include <algorithm>
+#include <string_view>
+
+#include "data/first_group.h"
+#include "groups/rule_engine.h"
+#include "groups/rules.h"
+
+namespace odmiennik::groups {
+namespace {
+
+using data::kFirstGroupDispatch;
+using data::kFirstGroupModels;
+
+static_assert(everyRowCanBeReached(kFirstGroupDispatch));
+static_assert(isNumberedTo(kFirstGroupDispatch, 49));
+
+consteval const Model& modelNamed(std::string_view name) {
+  return *std::find_if(std::begin(kFirstGroupModels), std::end(kFirstGroupModels),
+                       [&](const Model& model) { return model.name == name; });
+}
+
+constexpr Dispatch kDispatch{kFirstGroupDispatch};
+constexpr const Model& kRegular = modelNamed("regular");
+constexpr const Model& kConditional = modelNamed("conditional");
+
+}  // namespace
+
+engine::RuleResult VerbGroups::conjugateFirstGroup(engine::FormTable& forms,
+                                                   std::uint8_t auxiliary) const {
+  applyModel(forms, kRegular, {}, auxiliary);
+  const EndingRow* row = kDispatch.find(forms[engine::slot::kInfinitive]);
+  const Model& model = row == nullptr ? kRegular : kFirstGroupModels[row->model];
+  if (&model != &kRegular) applyModel(forms, model, row->group, auxiliary);
+  applyModel(forms, kConditional, {}, auxiliary);
+  return {.model = model.name};
+}
+
+}  // namespace odmiennik::groups

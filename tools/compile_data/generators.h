@@ -1,0 +1,28 @@
+// The generators: each turns some sources in data/ into one C++ file.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace odmiennik::tools {
+
+using Paths = std::vector<std::string>;
+
+// strings.txt, tips.txt, builtin_verbs.txt -> the numbered string table and the built-in verbs'
+// keys.
+void generateStrings(const Paths& sources, std::ostream& out);
+
+// verb_index.tsv -> the general verb index.
+void generateVerbIndex(const Paths& sources, std::ostream& out);
+
+// A dispatch and its models -> a header of constant tables; the first word of the names is given.
+void generateRules(const std::string& group, const Paths& sources, std::ostream& out);
+
+// messages.txt -> a header: an enumeration of the messages and their table.
+void generateMessages(const Paths& sources, std::ostream& out);
+
+// window/main_window.txt -> a header: the table of the main window's controls.
+void generateWindow(const Paths& sources, std::ostream& out);
+
+}  // namespace odmiennik::tools

@@ -1,0 +1,101 @@
+// The numbered string table: small texts, tips and built-in verbs.
+#include <map>
+
+#include "engine/normalization.h"
+#include "engine/string_table.h"
+#include "tools/compile_data/builtin_verbs.h"
+#include "tools/compile_data/emit.h"
+#include "tools/compile_data/generators.h"
+#include "tools/compile_data/source_file.h"
+
+namespace odmiennik::tools {
+namespace {
+
+using Texts = std::map<int, std::string>;
+namespace text_id = engine::text_id;
+
+void addText(Texts& texts, int identifier, std::string text, const SourceFile& file,
+             const SourceLine& line) {
+  if (!texts.emplace(identifier, std::move(text)).second)
+    file.fail(line, "identifier " + std::to_string(identifier) + " stands twice");
+}
+
+// `1 "me " "te "`: texts of consecutive identifiers.
+void addSmallTexts(Texts& texts, const std::string& path) {
+  const SourceFile file = readSource(path);
+  for (const SourceLine& line : file.lines) {
+    const std::vector<std::string> parts = split(line.text, '"');
+    if (parts.size() < 3) file.fail(line, "an identifier and quoted texts are expected");
+    int identifier = std::stoi(parts[0]);
+    std::string_view rest = line.text;
+    for (auto open = rest.find('"'); open != std::string_view::npos; open = rest.find('"')) {
+      const auto close = rest.find('"', open + 1);
+      if (close == std::string_view::npos) file.fail(line, "a quote is not closed");
+      addText(texts, identifier++, french(file, line, rest.substr(open + 1, close - open - 1)),
+              file, line);
+      rest.remove_prefix(close + 1);
+    }
+  }
+}
+
+// A tip a line, kept in UTF-8; the entry before them is their number.
+void addTips(Texts& texts, const std::string& path) {
+  const SourceFile file = readSource(path);
+  int identifier = text_id::kTipCount;
+  texts[identifier] = std::to_string(file.lines.size());
+  for (const SourceLine& line : file.lines) addText(texts, ++identifier, line.text, file, line);
+}
+
+void addBuiltinVerbs(Texts& texts, const std::vector<BuiltinVerb>& verbs) {
+  texts[text_id::kBuiltinCount] = std::to_string(verbs.size());
+  int name = text_id::kBuiltinCount;
+  int entry = text_id::kBuiltinForms;
+  for (const BuiltinVerb& verb : verbs) {
+    texts[++name] = verb.forms[engine::slot::kInfinitive];
+    for (const std::string& form : verb.forms) texts[entry++] = form;
+    texts[entry++] = verb.isAvoir ? "1" : "0";
+  }
+}
+
+// One offset for every identifier from 0 on, so that a text is found without a search.
+void writeTexts(std::ostream& out, const Texts& texts) {
+  if (texts.rbegin()->first != text_id::kLast)
+    throw std::runtime_error("the string table must end at " + std::to_string(text_id::kLast));
+  TextBlock block;
+  for (int identifier = 0; identifier <= text_id::kLast; ++identifier) {
+    const auto text = texts.find(identifier);
+    block.add(text == texts.end() ? std::string_view{} : text->second);
+  }
+  out << "namespace odmiennik::engine::data {\n";
+  block.write(out, "kStringOffsets", "kStringBytes");
+  out << "}\n";
+}
+
+void writeKeys(std::ostream& out, const std::vector<BuiltinVerb>& verbs) {
+  std::vector<std::string> keys;
+  for (const BuiltinVerb& verb : verbs)
+    keys.push_back(engine::lookupKey(verb.forms[engine::slot::kInfinitive]));
+  TextBlock block;
+  for (const std::string& key : keys) block.add(key);
+  const std::vector<std::uint32_t> table = hashTable(keys);
+  out << "namespace odmiennik::dictionary::data {\n";
+  block.write(out, "kBuiltinKeyOffsets", "kBuiltinKeyBytes");
+  writeNumbers(out, "std::uint8_t", "kBuiltinHash", table);
+  out << "const std::uint32_t kBuiltinHashSize = " << table.size() << ";\n}\n";
+}
+
+}  // namespace
+
+void generateStrings(const Paths& sources, std::ostream& out) {
+  Texts texts;
+  addSmallTexts(texts, sources.at(0));
+  addTips(texts, sources.at(1));
+  const std::vector<BuiltinVerb> verbs = readBuiltinVerbs(sources.at(2));
+  addBuiltinVerbs(texts, verbs);
+  out << "#include \"dictionary/builtin_verbs_data.h\"\n"
+         "#include \"engine/string_table_data.h\"\n";
+  writeTexts(out, texts);
+  writeKeys(out, verbs);
+}
+
+}  // namespace odmiennik::tools
