@@ -1,0 +1,105 @@
+// Building the resource script and joining texts.
+#include "dictionary/developer_tools.h"
+
+#include "dictionary/file_names.h"
+#include "dictionary/file_replacement.h"
+#include "dictionary/user_record_reader.h"
+#include "engine/string_table.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace fs = std::filesystem;
+namespace text_id = engine::text_id;
+
+constexpr std::size_t kPrintZone = 14;
+constexpr std::string_view kLineBreak = "\r\n";
+
+// `4000          "vais"`: the text begins in the second print zone.
+void writeEntry(FileReplacement& script, std::string identifier, std::string_view text) {
+  identifier.resize((identifier.size() / kPrintZone + 1) * kPrintZone, ' ');
+  script.write(identifier + '"');
+  script.write(text);
+  script.write("\"\r\n");
+}
+
+// The identifier of infinitive `number`: "3001", and "31000" for the thousandth.
+std::string infinitiveIdentifier(std::int64_t number) {
+  const std::string digits = std::to_string(number);
+  return "3" + std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
+void writeInfinitive(FileReplacement& script, const UserRecordReader& records) {
+  writeEntry(script, infinitiveIdentifier(records.number()), records.outline().infinitive);
+}
+
+void writeForms(FileReplacement& script, const UserRecordReader& records) {
+  engine::FormTable forms;
+  readForms(records.line(), forms);
+  std::int64_t identifier =
+      text_id::kBuiltinForms + text_id::kEntriesPerBuiltin * (records.number() - 1);
+  for (const std::string& form : forms)
+    writeEntry(script, std::to_string(identifier++), form.empty() ? engine::kMissing : form);
+  writeEntry(script, std::to_string(identifier), std::to_string(records.outline().flag));
+}
+
+using WriteRecord = void (*)(FileReplacement&, const UserRecordReader&);
+
+bool writeEach(std::unique_ptr<InputFile> verbs, std::int32_t count, FileReplacement& script,
+               WriteRecord writeRecord) {
+  UserRecordReader records(std::move(verbs));
+  while (records.number() < count) {
+    if (records.next() != RecordRead::record) return false;
+    writeRecord(script, records);
+  }
+  return true;
+}
+
+// False when the file is there and cannot be read.
+bool appendLines(FileSystem& files, const fs::path& source, FileReplacement& joined) {
+  const auto file = files.open(source);
+  if (!file) return false;
+  LineReader lines(*file);
+  Line line;
+  LineRead status;
+  while ((status = lines.next(line)) == LineRead::line) {
+    joined.write(line.text);
+    if (!line.isCut) joined.write(kLineBreak);
+  }
+  if (line.isCut) joined.write(kLineBreak);
+  return status == LineRead::endOfFile;
+}
+
+}  // namespace
+
+fs::path resourceScriptPath([[maybe_unused]] const std::string& prefix) {
+#ifdef _WIN32
+  return pathOf("D:\\PROGRAMY\\PROGRAMOWANIE\\RC\\Czasowniki\\odmiana.rc");
+#else
+  return fileFor(prefix, "odmiana.rc");
+#endif
+}
+
+bool buildResourceScript(const std::string& prefix, std::int32_t count, const fs::path& script,
+                         FileSystem& files) {
+  const auto verbs = existingFile(prefix, "czasowniki.dat");
+  if (!verbs) return false;
+  FileReplacement entries(files, script);
+  writeEntry(entries, std::to_string(text_id::kBuiltinCount), std::to_string(count));
+  return writeEach(files.open(*verbs), count, entries, writeInfinitive) &&
+         writeEach(files.open(*verbs), count, entries, writeForms) && entries.finish() &&
+         entries.swapIn();
+}
+
+bool joinTextFiles(const std::string& prefix, FileSystem& files) {
+  constexpr int kFirstText = 196, kLastText = 252;
+  const std::string texts = prefix + "teksty" + static_cast<char>(fs::path::preferred_separator);
+  FileReplacement joined(files, fileFor(texts, "Połącz.txt"));
+  // deliberate: even numbers only
+  for (int number = kFirstText; number <= kLastText; number += 2)
+    if (const auto source = existingFile(texts, std::to_string(number) + ".txt"))
+      if (!appendLines(files, *source, joined)) return false;
+  return joined.finish() && joined.swapIn();
+}
+
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,143 @@
+// Files by the calls of Windows.
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "dictionary/file_system.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr DWORD kLargestTransfer = 1U << 20;
+
+// A handle that is closed with its owner.
+class Handle {
+ public:
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  Handle(Handle&& other) noexcept : handle_(other.handle_) { other.handle_ = INVALID_HANDLE_VALUE; }
+  Handle& operator=(Handle&&) = delete;
+  ~Handle() { close(); }
+
+  [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  [[nodiscard]] HANDLE get() const { return handle_; }
+  bool close() {
+    const HANDLE closing = handle_;
+    handle_ = INVALID_HANDLE_VALUE;
+    return closing == INVALID_HANDLE_VALUE || CloseHandle(closing) != 0;
+  }
+
+ private:
+  HANDLE handle_;
+};
+
+DWORD transferSize(std::size_t size) {
+  return static_cast<DWORD>(std::min<std::size_t>(size, kLargestTransfer));
+}
+
+class WindowsInput final : public InputFile {
+ public:
+  explicit WindowsInput(Handle file) : file_(std::move(file)) {}
+
+  std::ptrdiff_t read(char* buffer, std::size_t size) override {
+    DWORD got = 0;
+    if (ReadFile(file_.get(), buffer, transferSize(size), &got, nullptr) == 0) return -1;
+    return static_cast<std::ptrdiff_t>(got);
+  }
+
+ private:
+  Handle file_;
+};
+
+class WindowsOutput final : public OutputFile {
+ public:
+  explicit WindowsOutput(Handle file) : file_(std::move(file)) {}
+
+  bool write(std::string_view bytes) override {
+    while (!bytes.empty()) {
+      DWORD put = 0;
+      if (WriteFile(file_.get(), bytes.data(), transferSize(bytes.size()), &put, nullptr) == 0)
+        return false;
+      bytes.remove_prefix(put);
+    }
+    return true;
+  }
+
+  bool finish() override {
+    const bool isFlushed = FlushFileBuffers(file_.get()) != 0;
+    return file_.close() && isFlushed;
+  }
+
+ private:
+  Handle file_;
+};
+
+// Whether something stands under that name that must not be replaced.
+bool isProtected(const fs::path& file) {
+  const DWORD attributes = GetFileAttributesW(file.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
+}
+
+class WindowsFiles final : public FileSystem {
+ public:
+  std::unique_ptr<InputFile> open(const fs::path& file) override {
+    constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    Handle handle(CreateFileW(file.c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING,
+                              FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!handle.isOpen() || GetFileType(handle.get()) != FILE_TYPE_DISK) return nullptr;
+    return std::make_unique<WindowsInput>(std::move(handle));
+  }
+
+  std::unique_ptr<OutputFile> create(const fs::path& file, const fs::path& replaced) override {
+    if (isProtected(replaced)) return nullptr;
+    // Permissions are taken over by ReplaceFileW.
+    Handle handle(CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                              FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!handle.isOpen()) return nullptr;
+    return std::make_unique<WindowsOutput>(std::move(handle));
+  }
+
+  bool keepAs(const fs::path& file, const fs::path& secondName) override {
+    if (CreateHardLinkW(secondName.c_str(), file.c_str(), nullptr) != 0) return true;
+    return GetLastError() != ERROR_ALREADY_EXISTS && copy(file, secondName);
+  }
+
+  bool moveOver(const fs::path& file, const fs::path& target) override {
+    if (ReplaceFileW(target.c_str(), file.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                     nullptr, nullptr) != 0)
+      return true;
+    // There is nothing to replace yet, or the disk's format does not know the call.
+    return MoveFileExW(file.c_str(), target.c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+  }
+
+  bool remove(const fs::path& file) override { return DeleteFileW(file.c_str()) != 0; }
+
+  // Windows has no such call; the names of finished files go to its journal.
+  void syncFolder(const fs::path&) override {}
+
+ private:
+  // For disks whose format knows no second name of a file.
+  bool copy(const fs::path& from, const fs::path& to) {
+    if (CopyFileW(from.c_str(), to.c_str(), TRUE) == 0) return false;
+    const Handle handle(CreateFileW(to.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (handle.isOpen() && FlushFileBuffers(handle.get()) != 0) return true;
+    remove(to);
+    return false;
+  }
+};
+
+}  // namespace
+
+FileSystem& systemFiles() {
+  static WindowsFiles files;
+  return files;
+}
+
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,87 @@
+// The program folder.
+#include "dictionary/program_folder.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
+#endif
+
+#include <cstdlib>
+#include <system_error>
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isInstalled(const fs::path& folder) {
+  std::error_code ignored;
+  return folder.filename() == "bin" &&
+         fs::is_directory(folder.parent_path() / "share" / "odmiennik", ignored);
+}
+
+std::string utf8Of(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+}  // namespace
+
+fs::path programFolder(const fs::path& executable, const fs::path& userData) {
+  const fs::path folder = executable.parent_path();
+  return isInstalled(folder) && !userData.empty() ? userData : folder;
+}
+
+std::string programFolder() {
+  const fs::path folder = programFolder(executablePath(), userDataFolder());
+  return folder.empty() ? "." : utf8Of(folder);
+}
+
+std::string_view withoutTrailingSeparators(std::string_view folder) {
+  const auto last = folder.find_last_not_of("/\\ ");
+  return folder.substr(0, last == std::string_view::npos ? 0 : last + 1);
+}
+
+#if defined(_WIN32)
+
+fs::path executablePath() {
+  std::wstring path(32768, L'\0');
+  const DWORD size = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  path.resize(size < path.size() ? size : 0);
+  return path;
+}
+
+fs::path userDataFolder() {
+  const wchar_t* data = _wgetenv(L"APPDATA");
+  return data == nullptr || *data == L'\0' ? fs::path() : fs::path(data) / "Odmiennik";
+}
+
+#else
+
+fs::path executablePath() {
+#ifdef __APPLE__
+  char path[4096];
+  uint32_t size = sizeof path;
+  if (_NSGetExecutablePath(path, &size) != 0) return {};
+  std::error_code ignored;
+  return fs::canonical(path, ignored);
+#else
+  std::error_code ignored;
+  return fs::read_symlink("/proc/self/exe", ignored);
+#endif
+}
+
+fs::path userDataFolder() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  // A relative folder is to be passed over: it would change with the current one.
+  if (data != nullptr && *data == '/') return fs::path(data) / "odmiennik";
+  const char* home = std::getenv("HOME");
+  if (home == nullptr || *home == '\0') return {};
+  return fs::path(home) / ".local" / "share" / "odmiennik";
+}
+
+#endif
+
+}  // namespace odmiennik::dictionary

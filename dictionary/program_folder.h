@@ -1,0 +1,31 @@
+// Which folder is the program's: where the user's verbs and the settings file are kept.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace odmiennik::dictionary {
+
+// The folder of the executable; but for an installation (the executable in PREFIX/bin with
+// PREFIX/share/odmiennik beside it) `userData`, since users may not write where programs are
+// installed. Nothing is created. Example: "/opt/o/odmien" -> "/opt/o".
+[[nodiscard]] std::filesystem::path programFolder(const std::filesystem::path& executable,
+                                                  const std::filesystem::path& userData);
+
+// The program folder of the running program, UTF-8; the current folder when the system does not
+// tell where its executable is.
+[[nodiscard]] std::string programFolder();
+
+// The running executable; empty when the system does not tell.
+[[nodiscard]] std::filesystem::path executablePath();
+
+// $XDG_DATA_HOME/odmiennik, by default ~/.local/share/odmiennik; on Windows %APPDATA%\Odmiennik.
+// Empty when the user has no home.
+[[nodiscard]] std::filesystem::path userDataFolder();
+
+// A folder as the user named it, without separators and blanks at its end, so that AppFolder does
+// not take it for a drive's root: "/home/ala//" -> "/home/ala", "/" -> "".
+[[nodiscard]] std::string_view withoutTrailingSeparators(std::string_view folder);
+
+}  // namespace odmiennik::dictionary

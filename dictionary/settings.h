@@ -1,0 +1,44 @@
+// The settings file Werbolin.cfg: five lines of numbers.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "dictionary/file_system.h"
+
+namespace odmiennik::dictionary {
+
+// Signed 32-bit values; colours are red + 256 x green + 65536 x blue.
+struct Settings {
+  std::int32_t userVerbCount = 0;
+  std::int32_t moodColour = 0;
+  std::int32_t tenseColour = 0;
+  std::int32_t conjugationCount = 0;
+  std::int32_t runCount = 0;
+};
+
+// Reads the text of a settings file into `settings`, field by field (divided by line ends or
+// commas); false at the first one that is missing or no signed 32-bit number: what stood before it
+// has been taken, the rest is untouched.
+[[nodiscard]] bool parseSettings(std::string_view text, Settings& settings);
+
+// The five lines, each ended by CR LF, the run count encoded.
+[[nodiscard]] std::string settingsText(const Settings& settings);
+
+// The encoding of the fifth line: each character's code less 32 as two hexadecimal digits:
+// encodeRunCount(12) -> "1112".
+[[nodiscard]] std::string encodeRunCount(std::int32_t runCount);
+
+// Whether a settings file could be read: `missing` is no fault.
+enum class SettingsRead : std::uint8_t { read, missing, damaged };
+
+// Reads `prefix` + "Werbolin.cfg"; a damaged or unreadable file fills what it can.
+[[nodiscard]] SettingsRead readSettingsFile(const std::string& prefix, Settings& settings,
+                                            FileSystem& files = systemFiles());
+
+// Replaces `prefix` + "Werbolin.cfg"; false leaves the file as it was.
+[[nodiscard]] bool writeSettingsFile(const std::string& prefix, const Settings& settings,
+                                     FileSystem& files = systemFiles());
+
+}  // namespace odmiennik::dictionary

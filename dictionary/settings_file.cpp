@@ -1,0 +1,47 @@
+// Reading and replacing the settings file.
+#include <optional>
+
+#include "dictionary/file_names.h"
+#include "dictionary/file_replacement.h"
+#include "dictionary/settings.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+constexpr std::string_view kSettingsFile = "Werbolin.cfg";
+// Far more than five numbers take; a longer file is not read to its end.
+constexpr std::size_t kLongestText = 4096;
+
+// The file's text; of one that is too long, its first whole lines.
+std::optional<std::string> readText(InputFile& file) {
+  std::string text(kLongestText, '\0');
+  std::size_t length = 0;
+  std::ptrdiff_t got = 1;
+  while (length < text.size() && got > 0) {
+    got = file.read(text.data() + length, text.size() - length);
+    if (got < 0) return std::nullopt;
+    length += static_cast<std::size_t>(got);
+  }
+  if (length == text.size()) length = text.find_last_of("\r\n") + 1;
+  text.resize(length);
+  return text;
+}
+
+}  // namespace
+
+SettingsRead readSettingsFile(const std::string& prefix, Settings& settings, FileSystem& files) {
+  const auto name = existingFile(prefix, kSettingsFile);
+  if (!name) return SettingsRead::missing;
+  const auto file = files.open(*name);
+  const auto text = file ? readText(*file) : std::nullopt;
+  const bool isRead = text && parseSettings(*text, settings);
+  return isRead ? SettingsRead::read : SettingsRead::damaged;
+}
+
+bool writeSettingsFile(const std::string& prefix, const Settings& settings, FileSystem& files) {
+  const std::filesystem::path file = fileFor(prefix, kSettingsFile);
+  removeUnfinished(files, file);
+  return replaceFile(files, file, settingsText(settings));
+}
+
+}  // namespace odmiennik::dictionary

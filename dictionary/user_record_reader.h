@@ -1,0 +1,48 @@
+// The records of an open user-verbs file, one after the other, damaged ones included.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "dictionary/file_lines.h"
+#include "dictionary/file_replacement.h"
+#include "dictionary/user_record.h"
+
+namespace odmiennik::dictionary {
+
+enum class RecordRead : std::uint8_t { record, damaged, endOfFile, failed };
+
+class UserRecordReader {
+ public:
+  // `file` may be nothing, as FileSystem::open answers it: reading it fails.
+  explicit UserRecordReader(std::unique_ptr<InputFile> file);
+
+  // Reads on to the next line. Every line counts as a record, whatever stands in it.
+  [[nodiscard]] RecordRead next();
+
+  // Of the record read last; a damaged record has no outline.
+  [[nodiscard]] const RecordOutline& outline() const { return outline_; }
+  [[nodiscard]] std::string_view line() const { return line_.text; }
+  [[nodiscard]] std::int64_t number() const { return number_; }
+
+  // Whether a line end stands behind what has been read of the record; the file's last may lack it.
+  [[nodiscard]] bool isLineEnded() const { return !line_.end.empty(); }
+
+  // Appends a damaged record byte for byte, its line end included; false when reading it failed.
+  [[nodiscard]] bool copyDamaged(FileReplacement& target);
+
+  // Whether the file holds anything behind the record read last.
+  [[nodiscard]] bool hasMore();
+
+ private:
+  [[nodiscard]] LineRead readPiece();
+
+  std::unique_ptr<InputFile> file_;
+  std::unique_ptr<LineReader> lines_;
+  Line line_;
+  RecordOutline outline_;
+  std::int64_t number_ = 0;
+};
+
+}  // namespace odmiennik::dictionary

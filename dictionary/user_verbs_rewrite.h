@@ -1,0 +1,50 @@
+// The copying that saving and deleting a user verb have in common.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+#include "dictionary/file_replacement.h"
+#include "dictionary/user_record_reader.h"
+
+namespace odmiennik::dictionary {
+
+// What is written in the place of every record of an infinitive; nothing removes them.
+struct RecordChange {
+  std::string_view infinitive;   // compared exactly with slot 96
+  std::string_view replacement;  // a line of the writer's
+};
+
+struct CopyResult {
+  bool isComplete = false;  // everything could be read
+  std::int64_t changed = 0;
+  std::int64_t firstDamaged = 0;  // the number of the first damaged record, 0 for none
+};
+
+inline constexpr std::int64_t kAllRecords = std::numeric_limits<std::int64_t>::max();
+
+// New content for the user-verbs file, record after record.
+class UserVerbsRewrite {
+ public:
+  UserVerbsRewrite(FileSystem& files, const std::filesystem::path& target)
+      : content_(files, target) {}
+
+  // Copies at most `limit` records in the writer's format, the changed ones changed, and damaged
+  // lines byte for byte.
+  [[nodiscard]] CopyResult copy(UserRecordReader& records, std::int64_t limit,
+                                const RecordChange& change);
+
+  // Writes a line of the writer's, after ending a damaged one that ended with the old file.
+  void append(std::string_view line);
+
+  [[nodiscard]] FileReplacement& content() { return content_; }
+
+ private:
+  [[nodiscard]] bool copyDamaged(UserRecordReader& records, CopyResult& result);
+
+  FileReplacement content_;
+  bool lacksLineEnd_ = false;
+};
+
+}  // namespace odmiennik::dictionary
