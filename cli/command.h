@@ -1,0 +1,14 @@
+// The command `odmien`: what its arguments ask for is done.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "cli/console.h"
+
+namespace odmiennik::cli {
+
+// Answers the arguments, or standard input when they name no verb.
+[[nodiscard]] ExitStatus runCommand(std::span<const std::string> arguments, Console& console);
+
+}  // namespace odmiennik::cli

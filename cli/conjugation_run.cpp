@@ -1,0 +1,87 @@
+// One run over all verbs asked for.
+#include "cli/conjugation_run.h"
+
+namespace odmiennik::cli {
+namespace {
+
+bool wantsColours(const Console& console) {
+  return console.isOnTerminal() && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
+}
+
+std::unique_ptr<Format> formatOf(const Options& options, const Console& console) {
+  switch (options.format) {
+    case OutputFormat::json:
+      return makeJsonFormat();
+    case OutputFormat::tsv:
+      return makeTsvFormat();
+    case OutputFormat::text:
+      break;
+  }
+  return makeTextFormat(wantsColours(console));
+}
+
+// The verb as a message names it: a line of ten thousand letters would hide the message.
+std::string nameOf(std::string_view infinitive) {
+  constexpr std::size_t kLongestName = 60;
+  std::string name = "„";
+  appendPrintable(name, infinitive.substr(0, kLongestName));
+  return name + (infinitive.size() > kLongestName ? "…”" : "”");
+}
+
+}  // namespace
+
+ConjugationRun::ConjugationRun(const Options& options, Console& console)
+    : options_(options),
+      console_(console),
+      files_(findProgramFiles(options.folder, console)),
+      userVerbs_(files_.prefix, files_.userVerbCount, messages_),
+      answerer_(userVerbs_, messages_, {options.isEditing, options.auxiliary}),
+      format_(formatOf(options, console)) {}
+
+ExitStatus ConjugationRun::answerAll() {
+  format_->begin(console_.out().text());
+  if (options_.infinitives.empty())
+    answerInput();
+  else
+    answerArguments();
+  if (files_.hasTrouble || hasInputTrouble_ || messages_.hasFileTrouble())
+    return ExitStatus::fileTrouble;
+  return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
+}
+
+void ConjugationRun::answerArguments() {
+  std::size_t number = 0;
+  for (const std::string_view argument : options_.infinitives) {
+    const InputLine line{++number, argument.substr(0, kLongestLine),
+                         argument.size() > kLongestLine};
+    answer(line, "argument");
+  }
+}
+
+void ConjugationRun::answerInput() {
+  // Whoever waits for an answer before asking on gets it: nothing is held back while waiting.
+  LineReader reader([this](std::span<char> buffer) {
+    console_.out().flush();
+    return readInput(buffer);
+  });
+  InputLine line;
+  while (!console_.out().hasFailed() && reader.next(line)) answer(line, "wiersz");
+  if (!reader.hasFailed()) return;
+  hasInputTrouble_ = true;
+  console_.complain("nie można czytać standardowego wejścia.");
+}
+
+void ConjugationRun::answer(const InputLine& line, std::string_view lineName) {
+  const Question question = questionOf(line);
+  const Answer answered = answerer_.answer(question);
+  format_->append(console_.out().text(), answered);
+  console_.out().flushIfLarge();
+  hasRefused_ = hasRefused_ || answered.isRefused;
+  if (question.fault != QuestionFault::none)
+    console_.complain(std::string(lineName) + " " + std::to_string(line.number),
+                      faultSentence(question));
+  for (const std::string& message : answered.messages)
+    console_.complain(nameOf(question.infinitive), message);
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,39 @@
+// One run over all verbs asked for.
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "cli/answerer.h"
+#include "cli/console.h"
+#include "cli/format.h"
+#include "cli/options.h"
+#include "cli/program_files.h"
+#include "dictionary/user_verbs.h"
+
+namespace odmiennik::cli {
+
+class ConjugationRun {
+ public:
+  ConjugationRun(const Options& options, Console& console);
+
+  // Answers the infinitives of the options, or every line of standard input.
+  [[nodiscard]] ExitStatus answerAll();
+
+ private:
+  void answerArguments();
+  void answerInput();
+  void answer(const InputLine& line, std::string_view lineName);
+
+  const Options& options_;
+  Console& console_;
+  ProgramFiles files_;
+  MessageLog messages_;
+  dictionary::UserVerbsFile userVerbs_;
+  Answerer answerer_;
+  std::unique_ptr<Format> format_;
+  bool hasRefused_ = false;
+  bool hasInputTrouble_ = false;
+};
+
+}  // namespace odmiennik::cli

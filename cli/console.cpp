@@ -1,0 +1,32 @@
+// Where the command speaks.
+#include "cli/console.h"
+
+namespace odmiennik::cli {
+namespace {
+
+// What cannot be said on standard error cannot be said at all.
+void say(const std::string& line) { static_cast<void>(write(Stream::err, line)); }
+
+}  // namespace
+
+void Console::complain(std::string_view subject, std::string_view sentence) {
+  if (isOnTerminal_) out_.flush();
+  std::string line = "odmien: ";
+  line.append(subject).append(": ").append(sentence).append("\n");
+  say(line);
+}
+
+void Console::complain(std::string_view sentence) {
+  if (isOnTerminal_) out_.flush();
+  say("odmien: " + std::string(sentence) + "\n");
+}
+
+ExitStatus Console::finish(ExitStatus status) {
+  out_.flush();
+  if (!out_.hasFailed()) return status;
+  if (out_.result() != WriteResult::closed)
+    complain("nie można zapisać wyniku: brak miejsca albo błąd zapisu.");
+  return ExitStatus::fileTrouble;
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,33 @@
+// Where the command speaks: data to standard output, sentences to standard error.
+#pragma once
+
+#include <string_view>
+
+#include "cli/output.h"
+
+namespace odmiennik::cli {
+
+// What the exit codes of the command mean.
+enum class ExitStatus { allConjugated = 0, verbRefused = 1, wrongUsage = 2, fileTrouble = 3 };
+
+class Console {
+ public:
+  Console() : isOnTerminal_(isTerminal(Stream::out)) {}
+
+  [[nodiscard]] Output& out() { return out_; }
+  [[nodiscard]] bool isOnTerminal() const { return isOnTerminal_; }
+
+  // Writes "odmien: subject: sentence" to standard error; on a terminal behind the data so far.
+  void complain(std::string_view subject, std::string_view sentence);
+  void complain(std::string_view sentence);
+
+  // Writes what is left. Data that could not be written is a file's trouble and is complained of,
+  // but for a reader who has gone away.
+  [[nodiscard]] ExitStatus finish(ExitStatus status);
+
+ private:
+  Output out_;
+  bool isOnTerminal_;
+};
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,61 @@
+// Questions to the verb index and the string table.
+#include "cli/index_queries.h"
+
+#include "dictionary/verb_index.h"
+#include "engine/normalization.h"
+#include "engine/string_table.h"
+#include "engine/windows1252.h"
+
+namespace odmiennik::cli {
+namespace {
+
+bool appendLine(std::string& out, std::string_view french) {
+  if (french.empty()) return false;
+  engine::appendUtf8(out, french);
+  out.push_back('\n');
+  return true;
+}
+
+// The tips are the only texts of the table that are not French.
+constexpr bool isUtf8Entry(int identifier) {
+  return identifier >= engine::text_id::kTipCount && identifier < 62;
+}
+
+}  // namespace
+
+bool appendVerbsOfLetter(std::string& out, char letter) {
+  const char lower =
+      letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  const int count = dictionary::verbCount(lower);
+  for (int k = 1; k <= count; ++k) appendLine(out, dictionary::verbOfLetter(lower, k));
+  return count > 0;
+}
+
+bool appendCompletion(std::string& out, std::string_view prefix) {
+  const engine::FromUtf8 french = engine::fromUtf8(prefix);
+  return french.fault == engine::Utf8Fault::none &&
+         appendLine(out, dictionary::completion(french.text));
+}
+
+bool appendRecord(std::string& out, std::string_view infinitive) {
+  const engine::FromUtf8 french = engine::fromUtf8(infinitive);
+  if (french.fault != engine::Utf8Fault::none) return false;
+  dictionary::GeneralVerbIndex index;
+  return appendLine(out, index.record(engine::lookupKey(french.text)));
+}
+
+bool appendStrings(std::string& out) {
+  for (int identifier = 1; identifier <= engine::text_id::kLast; ++identifier) {
+    const std::string_view text = engine::textOf(identifier);
+    if (text.empty()) continue;
+    out.append(std::to_string(identifier)).push_back('\t');
+    if (isUtf8Entry(identifier))
+      out.append(text);
+    else
+      engine::appendUtf8(out, text);
+    out.push_back('\n');
+  }
+  return true;
+}
+
+}  // namespace odmiennik::cli

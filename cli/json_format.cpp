@@ -1,0 +1,86 @@
+// One JSON object a line, its keys in the contract's order.
+#include <span>
+
+#include "cli/format.h"
+#include "cli/json_text.h"
+
+namespace odmiennik::cli {
+namespace {
+
+std::string_view nameOf(engine::Source source) {
+  constexpr std::string_view kNames[] = {"none", "user", "builtin", "rule"};
+  return kNames[static_cast<std::size_t>(source)];
+}
+
+void appendKey(std::string& out, std::string_view key) {
+  out.append(",\"").append(key).append("\":");
+}
+
+void appendUtf8(std::string& out, std::string_view key, std::string_view text) {
+  appendKey(out, key);
+  appendJsonUtf8(out, text);
+}
+
+void appendFlag(std::string& out, std::string_view key, bool isSet) {
+  appendKey(out, key);
+  out.append(isSet ? "true" : "false");
+}
+
+// An array of texts, each written by `appendText`.
+template <typename Texts>
+void appendArray(std::string& out, std::string_view key, const Texts& texts,
+                 void (*appendText)(std::string&, std::string_view)) {
+  appendKey(out, key);
+  char before = '[';
+  for (const auto& text : texts) {
+    out.push_back(before);
+    appendText(out, text);
+    before = ',';
+  }
+  out.append(before == '[' ? "[]" : "]");
+}
+
+void appendLabels(std::string& out, const engine::VerbLabels& labels) {
+  out.append(",\"labels\":{\"group\":");
+  appendJsonUtf8(out, labels.lblGrupaWartość);
+  appendUtf8(out, "transitive", labels.lblPrzechodniWartość);
+  appendUtf8(out, "intransitive", labels.lblNieprzechodniWartość);
+  appendUtf8(out, "auxiliary", labels.lblPosiłkowyWartość);
+  appendUtf8(out, "government", labels.lblRządWartość);
+  out.push_back('}');
+}
+
+class JsonFormat final : public Format {
+ public:
+  void begin(std::string&) override {}
+  void append(std::string& out, const Answer& answer) override {
+    const engine::Conjugation& conjugation = answer.conjugation;
+    out.append("{\"typed\":");
+    appendJsonUtf8(out, answer.typed);
+    appendTable(out, conjugation);
+    appendLabels(out, conjugation.information.labels);
+    appendFlag(out, "aux_checked", conjugation.information.chkZAvoir.isChecked);
+    appendFlag(out, "aux_enabled", conjugation.information.chkZAvoir.isEnabled);
+    appendArray(out, "messages", answer.messages, appendJsonUtf8);
+    appendFlag(out, "pronominal", answer.isPronominal);
+    appendFlag(out, "impersonal", conjugation.flags.isImpersonal);
+    appendFlag(out, "h_aspirate", conjugation.flags.hAspirate);
+    appendUtf8(out, "source", nameOf(conjugation.source));
+    appendUtf8(out, "model", conjugation.model);
+    out.append("}\n");
+  }
+
+ private:
+  static void appendTable(std::string& out, const engine::Conjugation& conjugation) {
+    appendArray(out, "slots", conjugation.forms, appendJsonFrench);
+    appendArray(out, "boxes", conjugation.shown.boxes, appendJsonFrench);
+    appendArray(out, "pronouns", conjugation.shown.pronouns, appendJsonFrench);
+    appendArray(out, "captions", conjugation.shown.captions, appendJsonFrench);
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Format> makeJsonFormat() { return std::make_unique<JsonFormat>(); }
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,98 @@
+// JSON strings.
+#include "cli/json_text.h"
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+#include "engine/windows1252.h"
+
+namespace odmiennik::cli {
+namespace {
+
+// What stands for one byte inside a JSON string. All eight bytes are copied and `length` of them
+// kept: one store a letter.
+struct Image {
+  char bytes[7];
+  std::uint8_t length;
+};
+static_assert(sizeof(Image) == 8);
+
+constexpr Image escapeOf(unsigned control) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  switch (control) {
+    case '\b':
+      return {{'\\', 'b'}, 2};
+    case '\f':
+      return {{'\\', 'f'}, 2};
+    case '\n':
+      return {{'\\', 'n'}, 2};
+    case '\r':
+      return {{'\\', 'r'}, 2};
+    case '\t':
+      return {{'\\', 't'}, 2};
+    default:
+      return {{'\\', 'u', '0', '0', kDigits[control >> 4], kDigits[control & 15]}, 6};
+  }
+}
+
+constexpr Image utf8Of(char32_t codePoint) {
+  const auto tail = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
+  if (codePoint < 0x80) return {{static_cast<char>(codePoint)}, 1};
+  if (codePoint < 0x800) return {{static_cast<char>(0xC0 | (codePoint >> 6)), tail(codePoint)}, 2};
+  return {{static_cast<char>(0xE0 | (codePoint >> 12)), tail(codePoint >> 6), tail(codePoint)}, 3};
+}
+
+constexpr Image imageOf(char32_t codePoint) {
+  if (codePoint < 0x20) return escapeOf(codePoint);
+  if (codePoint == '"' || codePoint == '\\') return {{'\\', static_cast<char>(codePoint)}, 2};
+  return utf8Of(codePoint);
+}
+
+constexpr std::array<Image, 256> kFrenchImages = [] {
+  std::array<Image, 256> images{};
+  for (std::size_t byte = 0; byte < 256; ++byte)
+    images[byte] = imageOf(engine::kCodePointOfByte[byte]);
+  return images;
+}();
+
+// Writes the images of at most kBlock letters at `end` and returns the new end.
+constexpr std::size_t kBlock = 64;
+char* writeImages(char* end, std::string_view letters) {
+  for (const char letter : letters) {
+    const Image& image = kFrenchImages[static_cast<unsigned char>(letter)];
+    std::memcpy(end, &image, sizeof image);
+    end += image.length;
+  }
+  return end;
+}
+
+}  // namespace
+
+void appendJsonFrench(std::string& out, std::string_view french) {
+  char block[kBlock * sizeof(Image) + 2];
+  char* end = block;
+  *end++ = '"';
+  while (french.size() > kBlock) {
+    end = writeImages(end, french.substr(0, kBlock));
+    out.append(block, static_cast<std::size_t>(end - block));
+    end = block;
+    french.remove_prefix(kBlock);
+  }
+  end = writeImages(end, french);
+  *end++ = '"';
+  out.append(block, static_cast<std::size_t>(end - block));
+}
+
+void appendJsonUtf8(std::string& out, std::string_view utf8) {
+  out.push_back('"');
+  for (const char byte : utf8) {
+    const auto code = static_cast<unsigned char>(byte);
+    // Bytes behind ASCII belong to letters of several bytes and pass as they are.
+    const Image image = code < 0x80 ? imageOf(code) : Image{{byte}, 1};
+    out.append(image.bytes, image.length);
+  }
+  out.push_back('"');
+}
+
+}  // namespace odmiennik::cli

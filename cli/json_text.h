@@ -1,0 +1,15 @@
+// JSON strings of the two encodings that the program knows.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace odmiennik::cli {
+
+// Appends `french` (Windows-1252) as a JSON string, quotes included: été"s -> "été\"s".
+void appendJsonFrench(std::string& out, std::string_view french);
+
+// Appends `utf8`, which must be well-formed, as a JSON string, quotes included.
+void appendJsonUtf8(std::string& out, std::string_view utf8);
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,48 @@
+// Reading of lines.
+#include "cli/line_reader.h"
+
+namespace odmiennik::cli {
+
+bool LineReader::next(InputLine& line) {
+  kept_.clear();
+  isKeeping_ = isCut_ = false;
+  for (;;) {
+    if (unread_.empty() && !fill()) {
+      if (!isKeeping_) return false;
+      line = lineOf(kept_, false);
+      return true;
+    }
+    const auto end = unread_.find('\n');
+    const std::string_view part = unread_.substr(0, end);
+    unread_.remove_prefix(end == std::string_view::npos ? unread_.size() : end + 1);
+    if (end != std::string_view::npos && !isKeeping_) {
+      line = lineOf(part, true);
+      return true;
+    }
+    keep(part);
+    if (end == std::string_view::npos) continue;
+    line = lineOf(kept_, true);
+    return true;
+  }
+}
+
+bool LineReader::fill() {
+  const std::optional<std::size_t> size = source_(block_);
+  hasFailed_ = hasFailed_ || !size;
+  unread_ = {block_.data(), size.value_or(0)};
+  return !unread_.empty();
+}
+
+void LineReader::keep(std::string_view part) {
+  isKeeping_ = true;
+  const std::size_t room = kLongestLine - kept_.size();
+  isCut_ = isCut_ || part.size() > room;
+  kept_.append(part.substr(0, room));
+}
+
+InputLine LineReader::lineOf(std::string_view bytes, bool isEnded) {
+  if (isEnded && !isCut_ && bytes.ends_with('\r')) bytes.remove_suffix(1);
+  return {.number = ++lineCount_, .bytes = bytes, .isCut = isCut_};
+}
+
+}  // namespace odmiennik::cli

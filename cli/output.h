@@ -1,0 +1,29 @@
+// Standard output: texts are gathered and written in large blocks; a failure is remembered.
+#pragma once
+
+#include <string>
+
+#include "cli/system.h"
+
+namespace odmiennik::cli {
+
+class Output {
+ public:
+  // Where writers append; nothing is written before a flush.
+  [[nodiscard]] std::string& text() { return text_; }
+
+  // Writes what was gathered once it is worth a system call.
+  void flushIfLarge();
+
+  // Writes what was gathered. After a failure everything further is dropped.
+  void flush();
+
+  [[nodiscard]] bool hasFailed() const { return result_ != WriteResult::written; }
+  [[nodiscard]] WriteResult result() const { return result_; }
+
+ private:
+  std::string text_;
+  WriteResult result_ = WriteResult::written;
+};
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,31 @@
+// The files of the program folder.
+#include "cli/program_files.h"
+
+#include "dictionary/app_folder.h"
+#include "dictionary/program_folder.h"
+#include "dictionary/settings.h"
+
+namespace odmiennik::cli {
+namespace {
+
+std::string prefixOf(std::optional<std::string_view> folder) {
+  return dictionary::AppFolder(folder ? std::string(dictionary::withoutTrailingSeparators(*folder))
+                                      : dictionary::programFolder());
+}
+
+}  // namespace
+
+ProgramFiles findProgramFiles(std::optional<std::string_view> folder, Console& console) {
+  ProgramFiles files{.prefix = prefixOf(folder)};
+  dictionary::Settings settings;
+  if (readSettingsFile(files.prefix, settings) == dictionary::SettingsRead::damaged) {
+    files.hasTrouble = true;
+    console.complain(
+        "Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. Program może działać "
+        "niepoprawnie.");
+  }
+  files.userVerbCount = settings.userVerbCount;
+  return files;
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,36 @@
+// The one seam between the command and the system: standard streams as bytes, and the arguments.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace odmiennik::cli {
+
+enum class Stream { in = 0, out = 1, err = 2 };
+
+// What became of a write: `closed` when nobody reads any more, `failed` for a full disk and the
+// like.
+enum class WriteResult { written, closed, failed };
+
+// Makes the streams pass bytes unchanged, and a closed pipe an answer instead of a signal.
+void prepareStreams();
+
+// The arguments in UTF-8, without the program's name.
+[[nodiscard]] std::vector<std::string> arguments(int count, char** values);
+
+// Waits for input and returns how many bytes it read: 0 at the end, nothing when it cannot be read.
+[[nodiscard]] std::optional<std::size_t> readInput(std::span<char> buffer);
+
+// Writes all of `bytes`.
+[[nodiscard]] WriteResult write(Stream stream, std::string_view bytes);
+
+[[nodiscard]] bool isTerminal(Stream stream);
+
+// An environment variable in UTF-8; the empty text when it is not set.
+[[nodiscard]] std::string environment(const char* name);
+
+}  // namespace odmiennik::cli

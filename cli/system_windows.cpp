@@ -1,0 +1,77 @@
+// The seam on Windows: UTF-8 in the console, no translation of line ends.
+#include <fcntl.h>
+#include <io.h>
+// windows.h must come before shellapi.h.
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "cli/system.h"
+
+namespace odmiennik::cli {
+namespace {
+
+std::string fromWide(const wchar_t* text) {
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+  if (size <= 1) return {};
+  std::string utf8(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
+  utf8.pop_back();
+  return utf8;
+}
+
+}  // namespace
+
+void prepareStreams() {
+  for (const Stream stream : {Stream::in, Stream::out, Stream::err})
+    _setmode(static_cast<int>(stream), _O_BINARY);
+  SetConsoleOutputCP(CP_UTF8);
+  SetConsoleCP(CP_UTF8);
+  // Colours are escape sequences, which a console obeys only when asked to.
+  const HANDLE console = GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD mode = 0;
+  if (GetConsoleMode(console, &mode))
+    SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+}
+
+std::vector<std::string> arguments(int, char**) {
+  int count = 0;
+  wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);
+  if (values == nullptr) return {};
+  std::vector<std::string> texts;
+  for (int i = 1; i < count; ++i) texts.push_back(fromWide(values[i]));
+  LocalFree(values);
+  return texts;
+}
+
+std::optional<std::size_t> readInput(std::span<char> buffer) {
+  const int size =
+      _read(static_cast<int>(Stream::in), buffer.data(), static_cast<unsigned>(buffer.size()));
+  if (size < 0) return std::nullopt;
+  return static_cast<std::size_t>(size);
+}
+
+WriteResult write(Stream stream, std::string_view bytes) {
+  // A console refuses large blocks.
+  constexpr std::size_t kBlock = 16384;
+  while (!bytes.empty()) {
+    const auto block = static_cast<unsigned>(std::min(bytes.size(), kBlock));
+    const int size = _write(static_cast<int>(stream), bytes.data(), block);
+    if (size <= 0) return errno == EPIPE ? WriteResult::closed : WriteResult::failed;
+    bytes.remove_prefix(static_cast<std::size_t>(size));
+  }
+  return WriteResult::written;
+}
+
+bool isTerminal(Stream stream) { return _isatty(static_cast<int>(stream)) != 0; }
+
+std::string environment(const char* name) {
+  const std::wstring wideName(name, name + std::char_traits<char>::length(name));
+  const wchar_t* value = _wgetenv(wideName.c_str());
+  return value == nullptr ? std::string() : fromWide(value);
+}
+
+}  // namespace odmiennik::cli

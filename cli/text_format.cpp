@@ -1,0 +1,175 @@
+// The table that a person reads: what is known of the verb, then its tenses by mood.
+#include <algorithm>
+
+#include "cli/format.h"
+#include "cli/page.h"
+#include "cli/text_layout.h"
+
+namespace odmiennik::cli {
+namespace {
+
+using engine::kTenses;
+
+constexpr std::string_view kMissingText = "--";
+
+std::string_view sourceText(engine::Source source) {
+  constexpr std::string_view kTexts[] = {"brak", "użytkownik", "wbudowane", "reguła"};
+  return kTexts[static_cast<std::size_t>(source)];
+}
+
+const engine::Tense& tenseAt(int position) { return kTenses[static_cast<std::size_t>(position)]; }
+
+// A tense's name as a heading; no name begins with an accented letter.
+std::string headingOf(int tense) {
+  std::string name(tenseAt(tense).name);
+  name[0] = static_cast<char>(name[0] - 'a' + 'A');
+  return name;
+}
+
+// One verb on the page.
+class VerbTable {
+ public:
+  VerbTable(Page& page, const Answer& answer)
+      : page_(page),
+        conjugation_(answer.conjugation),
+        shown_(answer.conjugation.shown),
+        columnCount_(columnCountFor(answer.conjugation.shown)) {}
+
+  void write() {
+    writeTitle();
+    writeInformation();
+    std::string_view mood;
+    for (const Band band : bandsOf(columnCount_)) {
+      page_.endLine();
+      if (const auto next = tenseAt(band.front()).mood; next != mood) writeMood(mood = next);
+      writeBand(band);
+    }
+  }
+
+ private:
+  void writeTitle() {
+    beginRule("═", Style::title);
+    page_.addFrench(cellOf(shown_, engine::slot::kInfinitive).form, Style::title);
+    endRule("═", Style::title);
+  }
+
+  void writeMood(std::string_view mood) {
+    beginRule("─", Style::mood);
+    page_.addUtf8(mood, Style::mood);
+    endRule("─", Style::mood);
+  }
+
+  // A rule over the whole page, with a text near its beginning.
+  void beginRule(std::string_view dash, Style style) {
+    page_.addRule(dash, 2, style);
+    page_.moveTo(3);
+  }
+
+  void endRule(std::string_view dash, Style style) {
+    page_.moveTo(page_.column() + 1);
+    page_.addRule(dash, kPageWidth - 1, style);
+    page_.endLine();
+  }
+
+  void writeInformation() {
+    const engine::VerbLabels& labels = conjugation_.information.labels;
+    writeFact(0, "grupa: ", labels.lblGrupaWartość);
+    writeFact(1, "przechodni: ", labels.lblPrzechodniWartość);
+    writeFact(2, "nieprzechodni: ", labels.lblNieprzechodniWartość);
+    page_.endLine();
+    writeFact(0, "posiłkowy: ", labels.lblPosiłkowyWartość);
+    writeFact(1, "rząd: ", labels.lblRządWartość);
+    writeFact(2, "źródło: ", sourceText(conjugation_.source));
+    page_.endLine();
+    writeNotes();
+  }
+
+  void writeFact(std::size_t column, std::string_view name, std::string_view value) {
+    page_.moveTo(column * (columnWidth(3) + kColumnGap));
+    page_.addUtf8(name, Style::missing);
+    page_.addUtf8(value);
+  }
+
+  // What the labels alone would leave open: the model, and an auxiliary other than the one named.
+  void writeNotes() {
+    const std::string_view auxiliary = engine::auxiliaryName(conjugation_.flags.auxiliary);
+    const bool isOther = conjugation_.information.labels.lblPosiłkowyWartość != auxiliary;
+    if (isOther) writeFact(0, "złożone z: ", auxiliary);
+    if (!conjugation_.model.empty()) writeFact(isOther ? 1 : 0, "model: ", conjugation_.model);
+    if (isOther || !conjugation_.model.empty()) page_.endLine();
+  }
+
+  void writeBand(Band band) {
+    writeCells(band, [&](int tense) { page_.addUtf8(headingOf(tense), Style::tense); });
+    const bool isSubjunctive = !captionOf(shown_, band.front()).empty();
+    if (isSubjunctive)
+      writeCells(band,
+                 [&](int tense) { page_.addFrench(captionOf(shown_, tense), Style::caption); });
+    bool hasRow = false;
+    for (int row = 0; row < tenseAt(band.front()).slotCount; ++row) {
+      if (isRowMissing(band, row)) continue;
+      hasRow = true;
+      writeCells(band, [&](int tense) { writeCell(cellAt(tense, row)); });
+    }
+    if (!hasRow) writeCells(band, [&](int) { writeCell({}); });
+  }
+
+  template <typename WriteOne>
+  void writeCells(Band band, WriteOne writeOne) {
+    std::size_t column = 0;
+    for (const int tense : band) {
+      page_.moveTo(column);
+      writeOne(tense);
+      column += columnWidth(columnCount_) + kColumnGap;
+    }
+    page_.endLine();
+  }
+
+  void writeCell(const Cell& cell) {
+    if (cell.isMissing()) return page_.addUtf8(kMissingText, Style::missing);
+    page_.addFrench(cell.pronoun, Style::pronoun);
+    if (cell.hasBlank()) page_.addUtf8(" ");
+    page_.addFrench(cell.form);
+  }
+
+  [[nodiscard]] Cell cellAt(int tense, int row) const {
+    return cellOf(shown_, tenseAt(tense).firstSlot + row);
+  }
+
+  // A person that none of the tenses has is left out.
+  [[nodiscard]] bool isRowMissing(Band band, int row) const {
+    return std::all_of(band.begin(), band.end(),
+                       [&](int tense) { return cellAt(tense, row).isMissing(); });
+  }
+
+  Page& page_;
+  const engine::Conjugation& conjugation_;
+  const engine::Display& shown_;
+  std::size_t columnCount_;
+};
+
+class TextFormat final : public Format {
+ public:
+  explicit TextFormat(bool isColoured) : isColoured_(isColoured) {}
+
+  void begin(std::string&) override {}
+  void append(std::string& out, const Answer& answer) override {
+    if (answer.isRefused) return;
+    if (!isFirst_) out.append("\n\n");
+    isFirst_ = false;
+    Page page(out, isColoured_);
+    VerbTable(page, answer).write();
+  }
+
+ private:
+  bool isColoured_;
+  bool isFirst_ = true;
+};
+
+}  // namespace
+
+std::unique_ptr<Format> makeTextFormat(bool isColoured) {
+  return std::make_unique<TextFormat>(isColoured);
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,43 @@
+// Tab-separated values: a header, then 101 lines a verb.
+#include "cli/format.h"
+
+namespace odmiennik::cli {
+namespace {
+
+// What does not exist is an empty field, not the window's " -- ".
+std::string_view formOf(std::string_view box) {
+  return box == engine::kShownMissing ? std::string_view{} : box;
+}
+
+class TsvFormat final : public Format {
+ public:
+  void begin(std::string& out) override {
+    out.append("infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\n");
+  }
+  void append(std::string& out, const Answer& answer) override {
+    if (answer.isRefused) return;
+    for (int slot = 0; slot < engine::kSlotCount; ++slot) appendSlot(out, answer, slot);
+  }
+
+ private:
+  static void appendSlot(std::string& out, const Answer& answer, int slot) {
+    const engine::Display& shown = answer.conjugation.shown;
+    const auto position = static_cast<std::size_t>(slot);
+    const engine::Tense& tense = engine::tenseOf(slot);
+    appendPrintable(out, formOf(shown.boxes[engine::slot::kInfinitive]));
+    out.append("\t").append(std::to_string(slot));
+    for (const std::string_view field : {tense.mood, tense.name, engine::personOf(slot)})
+      out.append("\t").append(field);
+    out.push_back('\t');
+    if (slot < engine::kPersonalSlotCount) out.append(shown.pronouns[position]);
+    out.push_back('\t');
+    appendPrintable(out, formOf(shown.boxes[position]));
+    out.push_back('\n');
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Format> makeTsvFormat() { return std::make_unique<TsvFormat>(); }
+
+}  // namespace odmiennik::cli
