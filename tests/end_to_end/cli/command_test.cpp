@@ -1,0 +1,177 @@
+// The command as a user meets it: arguments, formats, exit codes, streams.
+#include <gtest/gtest.h>
+
+#include "process.h"
+#include "terminal.h"
+
+namespace odmiennik::end_to_end {
+namespace {
+
+bool holds(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+TEST(command, conjugates_its_arguments) {
+  const Result result = run({"parler", "aller"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.err, "");
+  EXPECT_TRUE(holds(result.out, "\nj'ai parlé "));
+  EXPECT_TRUE(holds(result.out, "\nje suis allé(e) "));
+}
+
+TEST(command, reads_standard_input_without_arguments) {
+  const Result result = run({"--format", "json"}, "parler\r\naller");
+  EXPECT_EQ(result.exitCode, 0);
+  const auto lines = linesOf(result.out);
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_TRUE(lines[0].starts_with("{\"typed\":\"parler\",\"slots\":[\"parle\","));
+  EXPECT_TRUE(lines[1].starts_with("{\"typed\":\"aller\",\"slots\":[\"vais\","));
+}
+
+TEST(command, answers_nothing_with_nothing) {
+  const Result result = run({"--format", "json"}, "");
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.out + result.err, "");
+}
+
+TEST(command, answers_a_waiting_program_line_by_line) {
+  Process process({"--format", "json"});
+  for (const std::string verb : {"parler", "aller", "x", "finir"}) {
+    process.write(verb + "\n");
+    EXPECT_TRUE(process.readLine().starts_with("{\"typed\":\"" + verb + "\","));
+  }
+  process.finish("");
+  EXPECT_EQ(process.exitCode(), 1);
+}
+
+TEST(command, a_refused_verb_gives_one_and_its_message) {
+  const Result result = run({"x", "parler"});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_EQ(result.err,
+            "odmien: „x”: Podany czasownik nie został znaleziony i nie było możliwe odmienienie "
+            "go regularnie.\n");
+  EXPECT_TRUE(holds(result.out, "══ parler ═"));
+}
+
+TEST(command, an_unknown_verb_that_a_rule_conjugates_gives_zero_and_its_message) {
+  const Result result = run({"blabler"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.err,
+            "odmien: „blabler”: Podany czasownik nie został znaleziony, ale został odmieniony "
+            "regularnie.\n");
+}
+
+TEST(command, resetuj_gives_one_and_its_message) {
+  const Result result = run({"resetuj"});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_TRUE(holds(result.err, "Ustawienia zostaną zresetowane, a program zamknięty."));
+}
+
+TEST(command, wrong_usage_gives_two_and_says_why) {
+  for (const Arguments& arguments :
+       {Arguments{"--nowa"}, Arguments{"--format"}, Arguments{"--format", "xml", "parler"},
+        Arguments{"--list", "é"}, Arguments{"--strings", "parler"}}) {
+    const Result result = run(arguments);
+    EXPECT_EQ(result.exitCode, 2) << arguments[0];
+    EXPECT_EQ(result.out, "") << arguments[0];
+    EXPECT_TRUE(result.err.starts_with("odmien: ")) << arguments[0];
+  }
+}
+
+TEST(command, help_and_version_are_polish_data) {
+  EXPECT_TRUE(run({"--help"}).out.starts_with("Użycie: odmien "));
+  EXPECT_TRUE(run({"--version"}).out.starts_with("odmien "));
+  EXPECT_EQ(run({"--help"}).exitCode, 0);
+}
+
+TEST(command, a_record_behind_a_tab_replaces_the_index) {
+  const Result result = run({"--format", "tsv"}, "parler\t|1|2|1|1|1\n");
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_TRUE(holds(result.out, "\nparler\t2\tIndicatif\tprésent\til\til\tparle\n"));
+  EXPECT_TRUE(holds(result.out, "\nparler\t0\tIndicatif\tprésent\tje\tje\t\n"));
+}
+
+TEST(command, an_argument_may_carry_a_record_too) {
+  EXPECT_TRUE(holds(run({"parler\t|1|2|1|1|1"}).out, "\nil parle  "));
+  EXPECT_FALSE(holds(run({"parler\t|1|2|1|1|1"}).out, "\nje parle"));
+}
+
+TEST(command, a_user_may_switch_the_auxiliary) {
+  EXPECT_TRUE(holds(run({"--auxiliary", "etre", "parler"}).out, "\nje suis parlé(e) "));
+  EXPECT_TRUE(holds(run({"--auxiliary", "avoir", "aller"}).out, "\nj'ai allé "));
+}
+
+TEST(command, editing_keeps_placeholders) {
+  const Result result = run({"--edit", "--format", "tsv", "pouvoir"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_TRUE(holds(result.out, "\npouvoir\t24\tIndicatif\tpassé composé\tje\tje\t*\n"));
+}
+
+TEST(command, asks_the_index) {
+  EXPECT_EQ(run({"--record", "Se Parler"}).out, "|1|1|1|1\n");
+  EXPECT_EQ(run({"--complete", "parl"}).out, "parlementer\n");
+  EXPECT_EQ(run({"--record", "blabler"}).exitCode, 1);
+  EXPECT_EQ(run({"--complete", "qqq"}).exitCode, 1);
+  EXPECT_EQ(linesOf(run({"--list", "A"}).out).front(), "abaisser");
+}
+
+TEST(command, prints_the_string_table) {
+  const Result result = run({"--strings"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_TRUE(result.out.starts_with("1\tme \n2\tte \n"));
+  EXPECT_TRUE(holds(result.out, "\n3000\t84\n"));
+}
+
+TEST(command, a_full_disk_gives_three_and_is_said) {
+  const Result result = runInShell({"parler"}, ">/dev/full");
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_EQ(result.err, "odmien: nie można zapisać wyniku: brak miejsca albo błąd zapisu.\n");
+}
+
+TEST(command, a_closed_standard_output_gives_three_and_is_said) {
+  const Result result = runInShell({"parler"}, ">&-");
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_TRUE(holds(result.err, "nie można zapisać wyniku"));
+}
+
+TEST(command, a_reader_who_goes_away_ends_it_quietly) {
+  Process process({"--format", "json"});
+  process.closeOutput();
+  std::string verbs;
+  for (int i = 0; i < 1000; ++i) verbs += "parler\n";
+  process.finish(verbs);
+  EXPECT_EQ(process.exitCode(), 3);
+  EXPECT_EQ(process.err(), "");
+}
+
+TEST(command, a_standard_input_that_cannot_be_read_gives_three) {
+  const Result result = runInShell({}, "</");
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_EQ(result.err, "odmien: nie można czytać standardowego wejścia.\n");
+}
+
+TEST(command, colours_stay_away_from_pipes) {
+  EXPECT_FALSE(holds(run({"parler"}, {}, {"TERM=xterm", "NO_COLOR="}).out, "\x1b"));
+}
+
+TEST(command, colours_show_on_a_terminal) {
+  EXPECT_TRUE(holds(runOnTerminal({"parler"}, {"TERM=xterm", "NO_COLOR="}), "\x1b[1;34m"));
+}
+
+TEST(command, no_color_and_a_dumb_terminal_switch_colours_off) {
+  for (const Arguments& environment :
+       {Arguments{"TERM=xterm", "NO_COLOR=1"}, Arguments{"TERM=dumb", "NO_COLOR="}}) {
+    const std::string shown = runOnTerminal({"parler"}, environment);
+    EXPECT_FALSE(holds(shown, "\x1b"));
+    EXPECT_TRUE(holds(shown, "je parle "));
+  }
+}
+
+TEST(command, on_a_terminal_a_message_stands_behind_the_verbs_before_it) {
+  const std::string shown = runOnTerminal({"parler", "x", "aller"}, {"NO_COLOR=1"});
+  EXPECT_LT(shown.find("══ parler"), shown.find("odmien: „x”"));
+  EXPECT_LT(shown.find("odmien: „x”"), shown.find("══ aller"));
+}
+
+}  // namespace
+}  // namespace odmiennik::end_to_end

@@ -1,0 +1,13 @@
+// Running the command on a terminal of its own.
+#pragma once
+
+#include <string>
+
+#include "process.h"
+
+namespace odmiennik::end_to_end {
+
+// What the command shows on a terminal that is its standard output and standard error.
+[[nodiscard]] std::string runOnTerminal(const Arguments& arguments, const Arguments& environment);
+
+}  // namespace odmiennik::end_to_end

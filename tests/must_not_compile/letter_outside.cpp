@@ -1,0 +1,6 @@
+// "ł" is not in Windows-1252.
+#include "engine/french.h"
+
+using namespace odmiennik::engine::literals;
+
+constexpr auto kText = "ł"_fr;

@@ -1,0 +1,48 @@
+// Asking the command's parts without a process: one line in, one answer or its text out.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/answerer.h"
+#include "cli/format.h"
+#include "engine/windows1252.h"
+
+namespace odmiennik::cli {
+
+class NoUserVerbs final : public engine::UserVerbs {
+ public:
+  bool load(std::string_view, engine::FormTable&, std::uint8_t&) override { return false; }
+};
+
+class Asking {
+ public:
+  explicit Asking(AnswerOptions options = {}) : answerer_(userVerbs_, messages_, options) {}
+
+  // `line` in UTF-8, as it stands on standard input.
+  Answer answer(std::string_view line) {
+    question_ = questionOf({.number = 1, .bytes = line});
+    return answerer_.answer(question_);
+  }
+
+  std::string textOf(Format& format, std::string_view line) {
+    std::string out;
+    format.append(out, answer(line));
+    return out;
+  }
+
+  std::string box(std::string_view line, int slot) {
+    return engine::toUtf8(answer(line).conjugation.shown.boxes[static_cast<std::size_t>(slot)]);
+  }
+
+  [[nodiscard]] const MessageLog& messages() const { return messages_; }
+
+ private:
+  NoUserVerbs userVerbs_;
+  MessageLog messages_;
+  Question question_;
+  Answerer answerer_;
+};
+
+}  // namespace odmiennik::cli

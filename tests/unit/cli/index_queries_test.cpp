@@ -1,0 +1,72 @@
+// Questions to the verb index and the string table.
+#include "cli/index_queries.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace odmiennik::cli {
+namespace {
+
+std::string recordOf(std::string_view infinitive) {
+  std::string out;
+  appendRecord(out, infinitive);
+  return out;
+}
+
+std::string completionOf(std::string_view prefix) {
+  std::string out;
+  appendCompletion(out, prefix);
+  return out;
+}
+
+TEST(index_queries, a_record_is_found_for_what_the_entry_box_would_take) {
+  EXPECT_EQ(recordOf("parler"), "|1|1|1|1\n");
+  EXPECT_EQ(recordOf("  Se Parler "), "|1|1|1|1\n");
+}
+
+TEST(index_queries, there_is_no_record_of_a_verb_outside_the_index) {
+  EXPECT_EQ(recordOf("blabler"), "");
+  EXPECT_EQ(recordOf("łapać"), "");
+  EXPECT_EQ(recordOf("\xFF"), "");
+}
+
+TEST(index_queries, a_prefix_is_completed_letter_for_letter) {
+  EXPECT_EQ(completionOf("aller"), "aller\n");
+  EXPECT_EQ(completionOf("aba"), "abaisser\n");
+  EXPECT_EQ(completionOf("Aba"), "");
+  EXPECT_EQ(completionOf(""), "");
+}
+
+TEST(index_queries, a_letter_lists_its_accented_verbs_too) {
+  std::string lower;
+  std::string upper;
+  EXPECT_TRUE(appendVerbsOfLetter(lower, 'e'));
+  EXPECT_TRUE(appendVerbsOfLetter(upper, 'E'));
+  EXPECT_EQ(lower, upper);
+  EXPECT_NE(lower.find("\nêtre\n"), std::string::npos);
+}
+
+TEST(index_queries, all_letters_together_list_the_whole_index) {
+  std::string all;
+  for (char letter = 'a'; letter <= 'z'; ++letter) appendVerbsOfLetter(all, letter);
+  EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 7342);
+}
+
+TEST(index_queries, strings_are_raw_and_ascending) {
+  std::string out;
+  EXPECT_TRUE(appendStrings(out));
+  EXPECT_TRUE(out.starts_with("1\tme \n2\tte \n3\tse \n"));
+  EXPECT_NE(out.find("\n2041\taurainet\n"), std::string::npos);
+  EXPECT_NE(out.find("\n1042\têtre\n"), std::string::npos);
+  int last = 0;
+  for (std::size_t start = 0; start < out.size(); start = out.find('\n', start) + 1) {
+    const int identifier = std::stoi(out.substr(start, 6));
+    EXPECT_GT(identifier, last);
+    last = identifier;
+  }
+  EXPECT_EQ(last, 12567);
+}
+
+}  // namespace
+}  // namespace odmiennik::cli

@@ -1,0 +1,57 @@
+// JSON strings.
+#include "cli/json_text.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/french.h"
+#include "engine/windows1252.h"
+
+namespace odmiennik::cli {
+namespace {
+
+using namespace engine::literals;
+
+std::string french(std::string_view text) {
+  std::string out;
+  appendJsonFrench(out, text);
+  return out;
+}
+
+std::string utf8(std::string_view text) {
+  std::string out;
+  appendJsonUtf8(out, text);
+  return out;
+}
+
+TEST(json_text, french_letters_become_utf8) { EXPECT_EQ(french("être œ €"_fr), "\"être œ €\""); }
+
+TEST(json_text, quotes_and_backslashes_are_escaped) {
+  EXPECT_EQ(french("a\"b\\c"), R"("a\"b\\c")");
+  EXPECT_EQ(utf8("a\"b\\c"), R"("a\"b\\c")");
+}
+
+TEST(json_text, control_characters_are_escaped) {
+  constexpr std::string_view kControls("\0\b\t\n\f\r\x1f", 7);
+  EXPECT_EQ(french(kControls), R"("\u0000\b\t\n\f\r\u001f")");
+  EXPECT_EQ(utf8(kControls), R"("\u0000\b\t\n\f\r\u001f")");
+}
+
+TEST(json_text, utf8_passes_unchanged) { EXPECT_EQ(utf8("„zażółć”"), "\"„zażółć”\""); }
+
+TEST(json_text, every_byte_from_blank_on_has_the_engines_utf8_image) {
+  for (int byte = 0x20; byte < 0x100; ++byte) {
+    if (byte == '"' || byte == '\\') continue;
+    const std::string text(1, static_cast<char>(byte));
+    EXPECT_EQ(french(text), "\"" + engine::toUtf8(text) + "\"") << byte;
+  }
+}
+
+TEST(json_text, texts_of_every_length_stay_whole) {
+  for (std::size_t length = 0; length < 300; ++length) {
+    const std::string text(length, '\x80');
+    EXPECT_EQ(french(text), "\"" + engine::toUtf8(text) + "\"") << length;
+  }
+}
+
+}  // namespace
+}  // namespace odmiennik::cli

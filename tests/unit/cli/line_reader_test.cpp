@@ -1,0 +1,97 @@
+// Reading of lines.
+#include "cli/line_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace odmiennik::cli {
+namespace {
+
+// Hands out `text` in blocks of `blockSize` bytes.
+LineReader::Source sourceOf(std::string text, std::size_t blockSize) {
+  return [text = std::move(text), blockSize, at = std::size_t{0}](std::span<char> buffer) mutable {
+    const std::size_t size = std::min({blockSize, buffer.size(), text.size() - at});
+    std::copy_n(text.begin() + static_cast<std::ptrdiff_t>(at), size, buffer.begin());
+    at += size;
+    return std::optional(size);
+  };
+}
+
+std::vector<std::string> linesOf(const std::string& text, std::size_t blockSize = 7) {
+  LineReader reader(sourceOf(text, blockSize));
+  std::vector<std::string> lines;
+  for (InputLine line; reader.next(line);) lines.emplace_back(line.bytes);
+  return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(line_reader, splits_at_line_feeds_whatever_the_blocks) {
+  for (std::size_t blockSize = 1; blockSize < 20; ++blockSize)
+    EXPECT_EQ(linesOf("aller\n\nse laver\nvenir\n", blockSize),
+              (Lines{"aller", "", "se laver", "venir"}))
+        << blockSize;
+}
+
+TEST(line_reader, drops_one_carriage_return_before_the_line_feed) {
+  EXPECT_EQ(linesOf("aller\r\nve\rnir\r\r\n"), (Lines{"aller", "ve\rnir\r"}));
+}
+
+TEST(line_reader, a_last_line_without_an_end_counts) {
+  EXPECT_EQ(linesOf("aller\nvenir"), (Lines{"aller", "venir"}));
+}
+
+TEST(line_reader, no_input_is_no_line) { EXPECT_EQ(linesOf(""), Lines{}); }
+
+TEST(line_reader, counts_lines_from_one) {
+  LineReader reader(sourceOf("a\nb\n", 2));
+  InputLine line;
+  ASSERT_TRUE(reader.next(line));
+  ASSERT_TRUE(reader.next(line));
+  EXPECT_EQ(line.number, 2U);
+}
+
+TEST(line_reader, a_line_of_just_the_limit_is_whole) {
+  LineReader reader(sourceOf(std::string(kLongestLine, 'a') + "\n", 1000));
+  InputLine line;
+  ASSERT_TRUE(reader.next(line));
+  EXPECT_FALSE(line.isCut);
+  EXPECT_EQ(line.bytes.size(), kLongestLine);
+}
+
+TEST(line_reader, a_longer_line_is_cut_and_the_next_one_is_read) {
+  LineReader reader(sourceOf(std::string(10 * kLongestLine, 'a') + "\naller\n", kLongestLine));
+  InputLine line;
+  ASSERT_TRUE(reader.next(line));
+  EXPECT_TRUE(line.isCut);
+  EXPECT_EQ(line.bytes.size(), kLongestLine);
+  ASSERT_TRUE(reader.next(line));
+  EXPECT_FALSE(line.isCut);
+  EXPECT_EQ(line.bytes, "aller");
+}
+
+TEST(line_reader, asks_for_more_only_when_no_line_is_left) {
+  int asked = 0;
+  LineReader reader([&](std::span<char> buffer) -> std::optional<std::size_t> {
+    if (++asked > 1) return 0;
+    std::copy_n("a\nb\n", 4, buffer.begin());
+    return 4;
+  });
+  InputLine line;
+  ASSERT_TRUE(reader.next(line));
+  ASSERT_TRUE(reader.next(line));
+  EXPECT_EQ(asked, 1);
+  EXPECT_FALSE(reader.next(line));
+}
+
+TEST(line_reader, remembers_that_reading_failed) {
+  LineReader reader([](std::span<char>) { return std::optional<std::size_t>(); });
+  InputLine line;
+  EXPECT_FALSE(reader.next(line));
+  EXPECT_TRUE(reader.hasFailed());
+}
+
+}  // namespace
+}  // namespace odmiennik::cli

@@ -1,0 +1,71 @@
+// Which folder is the program's.
+#include "dictionary/program_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "tests/support/scratch_folder.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace fs = std::filesystem;
+
+class program_folder : public testing::Test {
+ protected:
+  program_folder() { fs::create_directories(root_ / "bin"); }
+
+  scratch::ScratchFolder scratch_;
+  fs::path root_ = scratch_.path();
+};
+
+TEST_F(program_folder, is_the_executables_own) {
+  EXPECT_EQ(programFolder(root_ / "bin" / "odmien", "/data"), root_ / "bin");
+}
+
+TEST_F(program_folder, of_an_installation_is_the_users) {
+  fs::create_directories(root_ / "share" / "odmiennik");
+  EXPECT_EQ(programFolder(root_ / "bin" / "odmien", "/data"), "/data");
+}
+
+TEST_F(program_folder, of_an_installation_is_in_bin_only) {
+  fs::create_directories(root_ / "share" / "odmiennik");
+  fs::create_directories(root_ / "build");
+  EXPECT_EQ(programFolder(root_ / "build" / "odmien", "/data"), root_ / "build");
+}
+
+TEST_F(program_folder, of_a_user_without_a_home_is_the_executables_own) {
+  fs::create_directories(root_ / "share" / "odmiennik");
+  EXPECT_EQ(programFolder(root_ / "bin" / "odmien", {}), root_ / "bin");
+}
+
+TEST(without_trailing_separators, drops_all_of_them_and_blanks) {
+  EXPECT_EQ(withoutTrailingSeparators("/home/ala//"), "/home/ala");
+  EXPECT_EQ(withoutTrailingSeparators("C:\\verbs\\"), "C:\\verbs");
+  EXPECT_EQ(withoutTrailingSeparators("/home/ala/ "), "/home/ala");
+  EXPECT_EQ(withoutTrailingSeparators("/"), "");
+  EXPECT_EQ(withoutTrailingSeparators(" a"), " a");
+}
+
+TEST(executable_path, is_this_test) {
+  EXPECT_TRUE(fs::exists(executablePath()));
+  EXPECT_EQ(executablePath().stem(), "cli_test");
+}
+
+#ifndef _WIN32
+TEST(user_data_folder, follows_the_desktops_convention) {
+  ::setenv("HOME", "/home/ala", 1);
+  ::setenv("XDG_DATA_HOME", "/data", 1);
+  EXPECT_EQ(userDataFolder(), "/data/odmiennik");
+  ::setenv("XDG_DATA_HOME", "relative", 1);
+  EXPECT_EQ(userDataFolder(), "/home/ala/.local/share/odmiennik");
+  ::unsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(userDataFolder(), "/home/ala/.local/share/odmiennik");
+  ::unsetenv("HOME");
+  EXPECT_EQ(userDataFolder(), "");
+}
+#endif
+
+}  // namespace
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,55 @@
+// Tab-separated values.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "asking.h"
+
+namespace odmiennik::cli {
+namespace {
+
+std::string tsvOf(std::string_view line) {
+  Asking asking;
+  return asking.textOf(*makeTsvFormat(), line);
+}
+
+bool hasLine(const std::string& tsv, const std::string& line) {
+  return ("\n" + tsv).find("\n" + line + "\n") != std::string::npos;
+}
+
+TEST(tsv_format, begins_with_a_header) {
+  std::string out;
+  makeTsvFormat()->begin(out);
+  EXPECT_EQ(out, "infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\n");
+}
+
+TEST(tsv_format, has_a_line_a_slot) {
+  const std::string tsv = tsvOf("aimer");
+  EXPECT_EQ(std::count(tsv.begin(), tsv.end(), '\n'), 101);
+  EXPECT_TRUE(hasLine(tsv, "aimer\t0\tIndicatif\tprésent\tje\tj'\taime"));
+  EXPECT_TRUE(hasLine(tsv, "aimer\t27\tIndicatif\tpassé composé\tnous\tns\tavons aimé"));
+  EXPECT_TRUE(hasLine(tsv, "aimer\t91\tImpératif\tprésent\tnous\t\taimons"));
+  EXPECT_TRUE(hasLine(tsv, "aimer\t100\tParticipe\tpassé composé\t\t\tayant aimé"));
+}
+
+TEST(tsv_format, every_line_has_seven_fields) {
+  const std::string tsv = tsvOf("a\tb");
+  EXPECT_TRUE(tsv.empty());
+  const std::string verb = tsvOf("par\x01ler");
+  EXPECT_EQ(std::count(verb.begin(), verb.end(), '\t'), 6 * 101);
+}
+
+TEST(tsv_format, a_missing_form_is_an_empty_field) {
+  EXPECT_TRUE(hasLine(tsvOf("falloir"), "falloir\t0\tIndicatif\tprésent\tje\tje\t"));
+}
+
+TEST(tsv_format, a_line_end_inside_an_infinitive_breaks_no_line) {
+  const std::string tsv = tsvOf("par\nler");
+  EXPECT_EQ(std::count(tsv.begin(), tsv.end(), '\n'), 101);
+  EXPECT_TRUE(tsv.starts_with("par\uFFFDler\t0\t"));
+}
+
+TEST(tsv_format, a_refused_verb_has_no_lines) { EXPECT_EQ(tsvOf("x"), ""); }
+
+}  // namespace
+}  // namespace odmiennik::cli

@@ -1,0 +1,162 @@
+// Every built-in verb, completed, has exactly the forms that its source says it has.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "dictionary/builtin_verbs.h"
+#include "engine/completion.h"
+#include "engine/normalization.h"
+#include "tests/support/test_program.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+using odmiennik::testing::french;
+using Slots = std::set<int>;
+using Words = std::vector<std::string>;
+
+struct Tense {
+  std::string_view name;
+  int firstSlot;
+  int slotCount;
+  bool isCompound = false;
+};
+
+// The tenses under the names of the data's source.
+constexpr Tense kTenses[] = {{"présent", 0, 6},
+                             {"imparfait", 6, 6},
+                             {"passé simple", 12, 6},
+                             {"futur simple", 18, 6},
+                             {"passé composé", 24, 6, true},
+                             {"plus-que-parfait", 30, 6, true},
+                             {"passé antérieur", 36, 6, true},
+                             {"futur antérieur", 42, 6, true},
+                             {"subjonctif présent", 48, 6},
+                             {"subjonctif imparfait", 54, 6},
+                             {"subjonctif passé", 60, 6, true},
+                             {"subjonctif plus-que-parfait", 66, 6, true},
+                             {"conditionnel présent", 72, 6},
+                             {"conditionnel passé 1", 78, 6, true},
+                             {"conditionnel passé 2", 84, 6, true},
+                             {"impératif présent", 90, 3},
+                             {"impératif passé", 93, 3, true},
+                             {"infinitif présent", 96, 1},
+                             {"infinitif passé", 97, 1, true},
+                             {"participe présent", 98, 1},
+                             {"participe passé", 99, 1},
+                             {"participe passé composé", 100, 1, true}};
+
+struct Source {
+  std::string infinitive;
+  std::uint8_t auxiliary = engine::kAvoir;
+  std::string has = "tout";
+  bool isExplained = false;
+};
+
+std::vector<Source> readSources() {
+  std::ifstream file(ODMIENNIK_SOURCE_DIR "/data/builtin_verbs.txt");
+  std::vector<Source> sources;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("verb ")) sources.push_back({.infinitive = line.substr(5)});
+    if (line == "auxiliary être") sources.back().auxiliary = engine::kEtre;
+    if (line.starts_with("has ")) sources.back().has = line.substr(4);
+    if (line.starts_with("why ")) sources.back().isExplained = true;
+  }
+  return sources;
+}
+
+Words split(const std::string& text, const std::string& divider) {
+  Words parts;
+  std::size_t start = 0, end;
+  while ((end = text.find(divider, start)) != std::string::npos) {
+    parts.push_back(text.substr(start, end - start));
+    start = end + divider.size();
+  }
+  parts.push_back(text.substr(start));
+  return parts;
+}
+
+// The slots of a tense, or of those persons of it that are named.
+void addSlots(const Tense& tense, const Words& persons, Slots& slots) {
+  const Words six{"je", "tu", "il", "nous", "vous", "ils"}, three{"tu", "nous", "vous"};
+  const Words& names = tense.slotCount == 6 ? six : three;
+  for (const std::string& person : persons)
+    EXPECT_NE(std::ranges::find(names, person), names.end()) << tense.name << ": " << person;
+  for (int i = 0; i < tense.slotCount; ++i)
+    if (persons.empty() || std::ranges::count(persons, names[static_cast<std::size_t>(i)]) != 0)
+      slots.insert(tense.firstSlot + i);
+}
+
+// "composés" is every compound tense; with persons, those that have all six, and the single forms.
+void addCompounds(const Words& persons, Slots& slots) {
+  for (const Tense& tense : kTenses)
+    if (tense.isCompound && (persons.empty() || tense.slotCount != 3))
+      addSlots(tense, tense.slotCount == 6 ? persons : Words{}, slots);
+}
+
+void addItem(const std::string& item, Slots& slots) {
+  const Words parts = split(item, ": ");
+  const Words persons = parts.size() > 1 ? split(parts[1], " ") : Words{};
+  if (parts[0] == "composés") return addCompounds(persons, slots);
+  const auto* tense = std::ranges::find(kTenses, parts[0], &Tense::name);
+  ASSERT_NE(tense, std::end(kTenses)) << item;
+  addSlots(*tense, persons, slots);
+}
+
+Slots declaredSlots(const std::string& has) {
+  Slots slots;
+  if (has == "tout")
+    for (const Tense& tense : kTenses) addSlots(tense, {}, slots);
+  else
+    for (const std::string& item : split(has, "; ")) addItem(item, slots);
+  return slots;
+}
+
+engine::FormTable completed(const Source& source, std::uint8_t auxiliary) {
+  engine::FormTable forms;
+  const std::string infinitive = french(source.infinitive);
+  EXPECT_TRUE(BuiltinVerbTable().load(engine::withoutReflexivePrefix(infinitive), forms));
+  engine::completeStoredVerb(forms, auxiliary);
+  return forms;
+}
+
+bool isVerb(const Source& source) {
+  return source.infinitive != "autor" && source.infinitive != "pozdrowienia";
+}
+
+TEST(BuiltinVerbsCompleted, HaveExactlyTheFormsThatTheirSourceDeclares) {
+  const auto sources = readSources();
+  ASSERT_EQ(sources.size(), 84U);
+  for (const Source& source : sources) {
+    if (!isVerb(source)) continue;
+    const engine::FormTable forms = completed(source, source.auxiliary);
+    const Slots declared = declaredSlots(source.has);
+    for (int slot = 0; slot < engine::kSlotCount; ++slot)
+      EXPECT_EQ(!forms[slot].empty(), declared.contains(slot)) << source.infinitive << " " << slot;
+  }
+}
+
+TEST(BuiltinVerbsCompleted, HaveNoPlaceholderLeftWithEitherAuxiliary) {
+  for (const Source& source : readSources())
+    for (const std::uint8_t auxiliary : {engine::kEtre, engine::kAvoir}) {
+      const engine::FormTable forms = completed(source, auxiliary);
+      for (int slot = 0; slot < engine::kSlotCount; ++slot)
+        EXPECT_EQ(forms[slot].find('*'), std::string::npos) << source.infinitive << " " << slot;
+    }
+}
+
+TEST(BuiltinVerbsCompleted, LackFormsOnlyWhereTheSourceSaysWhy) {
+  int defective = 0;
+  for (const Source& source : readSources()) {
+    EXPECT_EQ(source.has != "tout", source.isExplained && source.has != "tout")
+        << source.infinitive;
+    defective += source.has != "tout";
+  }
+  EXPECT_GT(defective, 20);
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,70 @@
+// Test folders and records.
+#include "tests/unit/dictionary/program_files.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "dictionary/app_folder.h"
+#include "dictionary/file_names.h"
+#include "tests/support/test_program.h"
+
+namespace odmiennik::testing {
+
+namespace fs = std::filesystem;
+
+std::string ProgramFolder::prefix() const { return dictionary::AppFolder(path().string()); }
+
+void ProgramFolder::write(std::string_view name, std::string_view content) const {
+  std::ofstream file(path() / dictionary::pathOf(name), std::ios::binary);
+  file << content;
+  if (!file.flush()) throw std::runtime_error("a test file cannot be written");
+}
+
+std::string ProgramFolder::read(std::string_view name) const {
+  std::ifstream file(path() / dictionary::pathOf(name), std::ios::binary);
+  if (!file) throw std::runtime_error("no such test file: " + std::string(name));
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+bool ProgramFolder::has(std::string_view name) const {
+  return fs::exists(path() / dictionary::pathOf(name));
+}
+
+std::vector<std::string> ProgramFolder::names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(path())) {
+    const std::u8string name = entry.path().filename().u8string();
+    names.emplace_back(name.begin(), name.end());
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+dictionary::Button RecordedMessages::show(dictionary::MessageId id, std::string_view argument) {
+  texts.push_back(dictionary::messageText(id, argument));
+  return dictionary::row(id).defaultButton;
+}
+
+dictionary::UserVerbRecord verb(std::string_view infinitive,
+                                const std::map<int, std::string_view>& forms) {
+  dictionary::UserVerbRecord record;
+  record.forms[engine::slot::kInfinitive] = french(infinitive);
+  for (const auto& [slot, form] : forms) record.forms[slot] = french(form);
+  return record;
+}
+
+std::string lineOf(std::string_view infinitive, const std::map<int, std::string_view>& forms) {
+  return dictionary::recordLine(verb(infinitive, forms));
+}
+
+std::string linesOf(const std::vector<std::string_view>& infinitives) {
+  std::string lines;
+  for (const std::string_view infinitive : infinitives) lines += lineOf(infinitive);
+  return lines;
+}
+
+}  // namespace odmiennik::testing

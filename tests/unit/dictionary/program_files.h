@@ -1,0 +1,45 @@
+// A program folder of a test's own, and what it takes to fill it.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dictionary/messages.h"
+#include "dictionary/user_record.h"
+#include "tests/support/scratch_folder.h"
+
+namespace odmiennik::testing {
+
+class ProgramFolder : public scratch::ScratchFolder {
+ public:
+  [[nodiscard]] std::string prefix() const;
+
+  void write(std::string_view name, std::string_view content) const;
+  [[nodiscard]] std::string read(std::string_view name) const;
+  [[nodiscard]] bool has(std::string_view name) const;
+  // The names in the folder, sorted, UTF-8.
+  [[nodiscard]] std::vector<std::string> names() const;
+};
+
+// Message boxes that are remembered and answered with their default button.
+class RecordedMessages final : public dictionary::MessageBoxes {
+ public:
+  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override;
+  std::vector<std::string> texts;
+};
+
+// A record with an infinitive and some other forms (UTF-8), as the window would save it.
+[[nodiscard]] dictionary::UserVerbRecord verb(std::string_view infinitive,
+                                              const std::map<int, std::string_view>& forms = {});
+
+// Its line in the writer's format.
+[[nodiscard]] std::string lineOf(std::string_view infinitive,
+                                 const std::map<int, std::string_view>& forms = {});
+
+// The lines of several verbs.
+[[nodiscard]] std::string linesOf(const std::vector<std::string_view>& infinitives);
+
+}  // namespace odmiennik::testing

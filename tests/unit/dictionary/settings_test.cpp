@@ -1,0 +1,157 @@
+// The settings file: five numbers, the last one encoded.
+#include "dictionary/settings.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/unit/dictionary/faulty_files.h"
+#include "tests/unit/dictionary/program_files.h"
+
+namespace odmiennik::dictionary {
+
+bool operator==(const Settings& left, const Settings& right) {
+  return settingsText(left) == settingsText(right);
+}
+void PrintTo(const Settings& settings, std::ostream* out) { *out << settingsText(settings); }
+
+namespace {
+
+using odmiennik::testing::FaultyFiles;
+using odmiennik::testing::ProgramFolder;
+using Texts = std::vector<std::string>;
+
+constexpr Settings kFresh{-1, -2, -3, -4, -5};
+
+// What is read of a text, and whether all of it could be.
+Settings parsed(std::string_view text, bool isWhole) {
+  Settings settings = kFresh;
+  EXPECT_EQ(parseSettings(text, settings), isWhole) << text;
+  return settings;
+}
+
+TEST(SettingsCodec, WritesFiveLines) {
+  EXPECT_EQ(settingsText({3, 255, -2147483630, 1000, 12}),
+            "3\r\n255\r\n-2147483630\r\n1000\r\n1112\r\n");
+}
+
+TEST(SettingsCodec, AFirstRunIsStoredAsEleven) {
+  EXPECT_EQ(settingsText({}), "0\r\n0\r\n0\r\n0\r\n10\r\n");
+  EXPECT_EQ(encodeRunCount(1), "11");
+}
+
+TEST(SettingsCodec, EncodesEachDigit) {
+  EXPECT_EQ(encodeRunCount(0), "10");
+  EXPECT_EQ(encodeRunCount(12), "1112");
+  EXPECT_EQ(encodeRunCount(255), "121515");
+  EXPECT_EQ(encodeRunCount(-5), "0D15");
+}
+
+TEST(SettingsCodec, ReadsBackWhatItWrites) {
+  constexpr std::int32_t kLeast = -2'147'483'647 - 1, kMost = 2'147'483'647;
+  for (const Settings& settings :
+       {Settings{0, 0, 0, 0, 0}, Settings{kMost, kMost, kMost, kMost, kMost},
+        Settings{kLeast, kLeast, kLeast, kLeast, kLeast}, Settings{5, 255, 65280, 77, 1234567890}})
+    EXPECT_EQ(parsed(settingsText(settings), true), settings);
+}
+
+TEST(SettingsCodec, FieldsEndAtLineEndsOrCommas) {
+  constexpr Settings kExpected{1, 2, 3, 4, 12};
+  for (const char* text :
+       {"1\r\n2\r\n3\r\n4\r\n1112\r\n", "1\n2\n3\n4\n1112", "1\r2\r3\r4\r1112\r", "1,2,3,4,1112",
+        " 1 , 2\n\"3\",\"4\"\r\n 1112 \r\n", "+1,2,3,4,1112,rest", "1,2,3,4,1112\r\nrest"})
+    EXPECT_EQ(parsed(text, true), kExpected);
+}
+
+TEST(SettingsCodec, TakesTheHexadecimalLettersInEitherCase) {
+  EXPECT_EQ(parsed("1\n2\n3\n4\n0d15", true), (Settings{1, 2, 3, 4, -5}));
+}
+
+TEST(SettingsCodec, AFifthLineThatIsNoEncodedNumberIsAnError) {
+  for (const char* line : {"zz", "1", "111", "", "0x10", "1 12", "110E15", "FF", "E0", "21", "-1",
+                           "12141714181316141718", "1g"})
+    EXPECT_EQ(parsed("1\n2\n3\n4\n" + std::string(line), false), (Settings{1, 2, 3, 4, -5}))
+        << line;
+}
+
+TEST(SettingsCodec, ALineThatIsNoNumberOf32BitsEndsTheReading) {
+  for (const char* line :
+       {"", "1.5", "1,5x", "2147483648", "-2147483649", "&H10", "1e3", "abc", "- 1", "+-1", "--1"})
+    EXPECT_EQ(parsed("7\n8\n" + std::string(line) + "\n9\n10", false).tenseColour,
+              std::string_view(line) == "1,5x" ? 1 : -3)
+        << line;
+}
+
+TEST(SettingsCodec, MissingLinesKeepWhatStoodBefore) {
+  EXPECT_EQ(parsed("", false), kFresh);
+  EXPECT_EQ(parsed("1", false), (Settings{1, -2, -3, -4, -5}));
+  EXPECT_EQ(parsed("1\n2\n3\n4", false), (Settings{1, 2, 3, 4, -5}));
+  EXPECT_EQ(parsed("1\n2\n3\n4\n", false), (Settings{1, 2, 3, 4, -5}));
+}
+
+class SettingsFile : public ::testing::Test {
+ protected:
+  ProgramFolder folder_;
+  Settings settings_ = kFresh;
+};
+
+TEST_F(SettingsFile, IsMissingAtFirst) {
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::missing);
+  EXPECT_EQ(settings_, kFresh);
+}
+
+TEST_F(SettingsFile, IsReadBackAsWritten) {
+  ASSERT_TRUE(writeSettingsFile(folder_.prefix(), {1, 2, 3, 4, 5}));
+  EXPECT_EQ(folder_.names(), Texts{"Werbolin.cfg"});
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::read);
+  EXPECT_EQ(settings_, (Settings{1, 2, 3, 4, 5}));
+}
+
+TEST_F(SettingsFile, IsFoundAndReplacedWithoutRegardToCase) {
+  folder_.write("WERBOLIN.CFG", "1\r\n2\r\n3\r\n4\r\n15\r\n");
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::read);
+  ASSERT_TRUE(writeSettingsFile(folder_.prefix(), settings_));
+  EXPECT_EQ(folder_.names(), Texts{"WERBOLIN.CFG"});
+}
+
+TEST_F(SettingsFile, ThatIsDamagedFillsWhatItCan) {
+  folder_.write("Werbolin.cfg", "1\r\n2\r\nx\r\n");
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::damaged);
+  EXPECT_EQ(settings_, (Settings{1, 2, -3, -4, -5}));
+}
+
+TEST_F(SettingsFile, ThatIsAFolderIsDamaged) {
+  std::filesystem::create_directory(folder_.path() / "Werbolin.cfg");
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::damaged);
+  EXPECT_FALSE(writeSettingsFile(folder_.prefix(), settings_));
+}
+
+TEST_F(SettingsFile, IsNotReadToAnEndlessEnd) {
+  folder_.write("Werbolin.cfg", "1\n2\n3\n4\n15\n" + std::string(1'000'000, 'x'));
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::read);
+  folder_.write("Werbolin.cfg", "9\n2\n3\n4\n" + std::string(1'000'000, '1'));
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::damaged);
+  EXPECT_EQ(settings_, (Settings{9, 2, 3, 4, 5}));
+}
+
+TEST_F(SettingsFile, ThatIsTooLongIsNotReadWithAHalvedLine) {
+  folder_.write("Werbolin.cfg", "1\n2\n3\n4" + std::string(1'000'000, ' ') + "4\n15\n");
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::damaged);
+  EXPECT_EQ(settings_, (Settings{1, 2, 3, -4, -5}));
+}
+
+TEST_F(SettingsFile, IsTheOldOneOrTheNewOneWheneverThePowerFails) {
+  const std::string before = settingsText({1, 2, 3, 4, 5}), after = settingsText({6, 7, 8, 9, 10});
+  bool hasFailed = true;
+  for (int step = 0; hasFailed && step < 100; ++step) {
+    folder_.write("Werbolin.cfg", before);
+    FaultyFiles files(step);
+    const bool isWritten = writeSettingsFile(folder_.prefix(), {6, 7, 8, 9, 10}, files);
+    hasFailed = files.hasFailed();
+    EXPECT_EQ(folder_.read("Werbolin.cfg"), isWritten ? after : before) << step;
+    EXPECT_TRUE(writeSettingsFile(folder_.prefix(), {}));
+    EXPECT_EQ(folder_.names(), Texts{"Werbolin.cfg"});
+  }
+  EXPECT_FALSE(hasFailed);
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,170 @@
+// One record: free-form fields, the flag, the writer's format.
+#include "dictionary/user_record.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+#include "dictionary/file_fields.h"
+#include "tests/support/test_program.h"
+#include "tests/unit/dictionary/program_files.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+using odmiennik::testing::french;
+using odmiennik::testing::lineOf;
+using odmiennik::testing::verb;
+using Fields = std::vector<std::string>;
+
+Fields fieldsOf(std::string_view line) {
+  FieldScanner scanner(line);
+  Fields fields;
+  for (std::string_view field; scanner.next(field);) fields.emplace_back(field);
+  return fields;
+}
+
+std::string commas(int count) { return std::string(static_cast<std::size_t>(count), ','); }
+
+TEST(Fields, EndAtACommaOrAtTheLinesEnd) {
+  EXPECT_EQ(fieldsOf("a,b,,c"), (Fields{"a", "b", "", "c"}));
+  EXPECT_EQ(fieldsOf("a,"), (Fields{"a", ""}));
+  EXPECT_EQ(fieldsOf(""), Fields{""});
+}
+
+TEST(Fields, LoseTheBlanksAroundThem) {
+  EXPECT_EQ(fieldsOf("  a b , c  ,   "), (Fields{"a b", "c", ""}));
+}
+
+TEST(Fields, KeepATabulator) { EXPECT_EQ(fieldsOf("\ta\t"), Fields{"\ta\t"}); }
+
+TEST(Fields, AQuotedFieldEndsAtItsClosingQuote) {
+  EXPECT_EQ(fieldsOf(R"( " a, b " ,c)"), (Fields{" a, b ", "c"}));
+  EXPECT_EQ(fieldsOf(R"("a"b,c)"), (Fields{"a", "b", "c"}));
+  EXPECT_EQ(fieldsOf(R"(a,"")"), (Fields{"a", ""}));
+  EXPECT_EQ(fieldsOf(R"("a",)"), (Fields{"a", ""}));
+}
+
+TEST(Fields, AQuotedFieldWithoutClosingQuoteEndsWithTheLine) {
+  EXPECT_EQ(fieldsOf(R"(a,"b,c )"), (Fields{"a", "b,c "}));
+  EXPECT_EQ(fieldsOf(R"(a,")"), (Fields{"a", ""}));
+}
+
+TEST(Fields, AQuoteInsideAFieldIsALetter) {
+  EXPECT_EQ(fieldsOf(R"(a"b,c")"), (Fields{"a\"b", "c\""}));
+}
+
+TEST(Flag, IsAWholeNumberOfOneByte) {
+  for (const char* one : {"1", " 1 ", "+1", "01", "1.0", "1."}) EXPECT_EQ(parseFlag(one), 1) << one;
+  for (const char* zero : {"0", "-0", "00", "0.00"}) EXPECT_EQ(parseFlag(zero), 0) << zero;
+  EXPECT_EQ(parseFlag("255"), 255);
+}
+
+TEST(Flag, AnythingElseIsNone) {
+  for (const char* text : {"", " ", "-", "+", ".", "-1", "256", "99999999999999999999", "0.5",
+                           "1e0", "1 0", "0x1", "&H1", "avoir", "1.0.0", "+-1", "1\t", "--0"})
+    EXPECT_EQ(parseFlag(text), std::nullopt) << text;
+}
+
+TEST(Flag, AnyNumberButZeroIsAvoir) {
+  EXPECT_EQ(auxiliaryOf(0), engine::kEtre);
+  EXPECT_EQ(auxiliaryOf(1), engine::kAvoir);
+  EXPECT_EQ(auxiliaryOf(7), engine::kAvoir);
+}
+
+TEST(Record, HasTheInfinitiveInItsNinetySeventhFieldAndTheFlagInItsLast) {
+  const std::string line = commas(96) + " aimer " + commas(5) + " 0";
+  const auto outline = outlineOf(line);
+  ASSERT_TRUE(outline);
+  EXPECT_EQ(outline->infinitive, "aimer");
+  EXPECT_EQ(outline->flag, 0);
+}
+
+TEST(Record, MayHaveFurtherFieldsBeforeTheFlag) {
+  const std::string line = commas(96) + "aimer" + commas(9) + "1";
+  const auto outline = outlineOf(line);
+  ASSERT_TRUE(outline);
+  EXPECT_EQ(outline->infinitive, "aimer");
+  EXPECT_EQ(outline->flag, 1);
+}
+
+TEST(Record, WithFewerThan102FieldsIsDamaged) {
+  EXPECT_FALSE(outlineOf(commas(96) + "aimer" + commas(4) + " 1"));
+  EXPECT_FALSE(outlineOf("\"a\"" + commas(96) + "aimer" + commas(4) + " 1"));
+  EXPECT_TRUE(outlineOf("\"a\"" + commas(96) + "aimer" + commas(5) + " 1"));
+  EXPECT_FALSE(outlineOf(""));
+}
+
+TEST(Record, WithoutFlagIsDamaged) { EXPECT_FALSE(outlineOf(commas(96) + "aimer" + commas(5))); }
+
+// A line without quotes is read another way, since nearly all lines are: with the same result.
+TEST(Record, OfALineWithoutQuotesIsCutLikeAnyOther) {
+  std::minstd_rand random(1);
+  int readable = 0;
+  for (int round = 0; round < 2000; ++round) {
+    std::string line;
+    const int length = 200 + static_cast<int>(random() % 60);
+    for (int i = 0; i < length; ++i) line += "  ,,a,1,"[random() % 8];
+    const Fields fields = fieldsOf(line);
+    const auto flag = fields.size() < 102 ? std::nullopt : parseFlag(fields.back());
+    const auto outline = outlineOf(line);
+    ASSERT_EQ(outline.has_value(), flag.has_value()) << line;
+    if (!outline) continue;
+    ++readable;
+    EXPECT_EQ(outline->infinitive, fields[96]) << line;
+    EXPECT_EQ(outline->flag, *flag) << line;
+  }
+  EXPECT_GT(readable, 100);
+}
+
+TEST(Record, IsWrittenTrimmedUnquotedWithACommaBehindEveryForm) {
+  const std::string line = lineOf("  aimer ", {{0, " aime "}, {100, "ayant aimé"}});
+  EXPECT_EQ(line, "aime" + commas(96) + "aimer" + commas(4) + french("ayant aimé") + ", 1\r\n");
+}
+
+TEST(Record, OfAVerbWithEtreHasTheFlagZero) {
+  UserVerbRecord record = verb("aller");
+  record.auxiliary = engine::kEtre;
+  EXPECT_TRUE(recordLine(record).ends_with(", 0\r\n"));
+}
+
+TEST(Record, ALineBreakInAFormBecomesABlank) {
+  EXPECT_TRUE(lineOf("aimer", {{0, "a\r\nb"}}).starts_with("a  b,"));
+}
+
+TEST(Record, ReadsBackAsWritten) {
+  const UserVerbRecord written = verb("être", {{0, "suis"}, {5, "l'\"a\""}, {100, "ayant été"}});
+  engine::FormTable forms;
+  forms[1] = "left over";
+  readForms(recordLine(written), forms);
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    EXPECT_EQ(forms[slot], written.forms[slot]) << slot;
+}
+
+TEST(Record, AFormWithACommaComesBackSplit) {
+  engine::FormTable forms;
+  std::string line = lineOf("devoir", {{99, "dû, due"}, {100, "ayant dû"}});
+  line.resize(line.size() - 2);
+  readForms(line, forms);
+  EXPECT_EQ(forms[99], french("dû"));
+  EXPECT_EQ(forms[100], "due");
+  EXPECT_EQ(outlineOf(line)->flag, 1);
+}
+
+TEST(Record, ACopyIsInTheWritersFormat) {
+  const std::string line = "\"a\" , b " + commas(95) + " \"aimer\"" + commas(5) + "1";
+  EXPECT_EQ(rewrittenLine(line), "a,b" + commas(95) + "aimer" + commas(5) + " 1\r\n");
+}
+
+TEST(Record, ACopyKeepsTheFieldsThatACommaInAFormAdded) {
+  const std::string line = lineOf("devoir", {{99, "dû,due"}, {100, "ayant dû"}});
+  EXPECT_EQ(rewrittenLine(std::string_view(line).substr(0, line.size() - 2)), line);
+}
+
+TEST(Record, ACopyKeepsAnUnusualFlag) {
+  EXPECT_TRUE(rewrittenLine(commas(101) + "7").ends_with(", 7\r\n"));
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary

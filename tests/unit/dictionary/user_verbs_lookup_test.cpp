@@ -1,0 +1,176 @@
+// Looking up and listing the user's own verbs.
+#include <gtest/gtest.h>
+
+#include "dictionary/user_verbs.h"
+#include "tests/support/test_program.h"
+#include "tests/unit/dictionary/program_files.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace fs = std::filesystem;
+
+using odmiennik::testing::french;
+using odmiennik::testing::lineOf;
+using odmiennik::testing::linesOf;
+using odmiennik::testing::ProgramFolder;
+using odmiennik::testing::RecordedMessages;
+using odmiennik::testing::verb;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kDamagedSecond =
+    "Plik czasowników użytkownika jest uszkodzony (czasownik 2).";
+constexpr const char* kUnreadable = "Nie można odczytać pliku czasowników użytkownika.";
+
+class UserVerbsLookUp : public ::testing::Test {
+ protected:
+  bool load(UserVerbsFile& verbs, std::string_view key) {
+    return verbs.load(french(key), forms_, storedAux_);
+  }
+  bool load(std::int32_t count, std::string_view key) {
+    UserVerbsFile verbs(folder_.prefix(), count, messages_);
+    return load(verbs, key);
+  }
+  void writeVerbs(std::string_view content) { folder_.write("Czasowniki.dat", content); }
+
+  ProgramFolder folder_;
+  RecordedMessages messages_;
+  engine::FormTable forms_;
+  std::uint8_t storedAux_ = 9;
+};
+
+TEST_F(UserVerbsLookUp, FindsTheFirstRecordOfAVerb) {
+  writeVerbs(lineOf("aimer") + lineOf("être", {{0, "un"}}) + lineOf("être", {{0, "deux"}}));
+  EXPECT_TRUE(load(3, "être"));
+  EXPECT_EQ(forms_[0], "un");
+  EXPECT_EQ(forms_[96], french("être"));
+}
+
+TEST_F(UserVerbsLookUp, GivesTheStoredAuxiliary) {
+  UserVerbRecord record = verb("aller");
+  record.auxiliary = engine::kEtre;
+  writeVerbs(recordLine(record) + lineOf("aimer"));
+  EXPECT_TRUE(load(2, "aller"));
+  EXPECT_EQ(storedAux_, engine::kEtre);
+  EXPECT_TRUE(load(2, "aimer"));
+  EXPECT_EQ(storedAux_, engine::kAvoir);
+}
+
+TEST_F(UserVerbsLookUp, ComparesTrimmedLowerCasedAndWithoutReflexivePrefix) {
+  writeVerbs(linesOf({"Aimer", "se LAVER", "s'Écrier"}));
+  for (const char* key : {"aimer", "laver", "écrier"}) EXPECT_TRUE(load(3, key)) << key;
+  EXPECT_EQ(forms_[96], french("s'Écrier"));
+}
+
+TEST_F(UserVerbsLookUp, ReadsNoMoreRecordsThanAreCounted) {
+  writeVerbs(linesOf({"aimer", "finir", "rendre"}));
+  EXPECT_TRUE(load(2, "finir"));
+  EXPECT_FALSE(load(2, "rendre"));
+  EXPECT_FALSE(load(0, "aimer"));
+  EXPECT_FALSE(load(-1, "aimer"));
+}
+
+TEST_F(UserVerbsLookUp, ACountLargerThanTheFileIsNotFoundWithoutMessage) {
+  writeVerbs(linesOf({"aimer", "finir"}));
+  EXPECT_FALSE(load(3, "rendre"));
+  EXPECT_FALSE(load(2'147'483'647, "rendre"));
+  EXPECT_EQ(messages_.texts, Texts{});
+}
+
+TEST_F(UserVerbsLookUp, AMissingFileOrFolderHoldsNoVerbs) {
+  UserVerbsFile nowhere((folder_.path() / "none" / "").string(), 5, messages_);
+  EXPECT_FALSE(load(5, "aimer"));
+  EXPECT_FALSE(load(nowhere, "aimer"));
+  EXPECT_EQ(nowhere.infinitives(), Texts{});
+  EXPECT_EQ(messages_.texts, Texts{});
+}
+
+TEST_F(UserVerbsLookUp, FindsTheFileWithoutRegardToCase) {
+  folder_.write("CZASOWNIKI.DAT", lineOf("aimer"));
+  EXPECT_TRUE(load(1, "aimer"));
+}
+
+TEST_F(UserVerbsLookUp, TheExactSpellingGoesFirst) {
+  folder_.write("CZASOWNIKI.DAT", lineOf("finir"));
+  writeVerbs(lineOf("aimer"));
+  EXPECT_TRUE(load(1, "aimer"));
+}
+
+TEST_F(UserVerbsLookUp, ReadsAllThreeLineEnds) {
+  std::string aimer = lineOf("aimer"), finir = lineOf("finir"), rendre = lineOf("rendre");
+  aimer.erase(aimer.size() - 2, 1);
+  finir.pop_back();
+  rendre.resize(rendre.size() - 2);
+  writeVerbs(aimer + finir + lineOf("courir") + rendre);
+  for (const char* key : {"aimer", "finir", "courir", "rendre"}) EXPECT_TRUE(load(4, key)) << key;
+  EXPECT_EQ(messages_.texts, Texts{});
+}
+
+TEST_F(UserVerbsLookUp, ADamagedRecordIsCountedAndPassedOver) {
+  writeVerbs(lineOf("aimer") + "rubbish\r\n" + linesOf({"finir", "rendre"}));
+  EXPECT_TRUE(load(3, "finir"));
+  EXPECT_FALSE(load(3, "rendre"));
+  EXPECT_EQ(messages_.texts, (Texts{kDamagedSecond, kDamagedSecond}));
+}
+
+TEST_F(UserVerbsLookUp, DamageIsShownOncePerRun) {
+  writeVerbs(lineOf("aimer") + "rubbish\r\n\r\n" + lineOf("finir"));
+  UserVerbsFile verbs(folder_.prefix(), 4, messages_);
+  EXPECT_TRUE(load(verbs, "finir"));
+  EXPECT_TRUE(load(verbs, "finir"));
+  EXPECT_EQ(verbs.infinitives(), (Texts{"aimer", "finir"}));
+  EXPECT_EQ(messages_.texts, Texts{kDamagedSecond});
+}
+
+TEST_F(UserVerbsLookUp, DamageBehindTheVerbIsNotReached) {
+  writeVerbs(lineOf("aimer") + "rubbish\r\n");
+  EXPECT_TRUE(load(2, "aimer"));
+  EXPECT_EQ(messages_.texts, Texts{});
+}
+
+TEST_F(UserVerbsLookUp, ARecordNeverReachesPastItsLine) {
+  writeVerbs("a,b\r\n\"c,d\r\n" + lineOf("aimer"));
+  EXPECT_TRUE(load(3, "aimer"));
+}
+
+TEST_F(UserVerbsLookUp, AFolderInThePlaceOfTheFileIsReportedOnce) {
+  fs::create_directory(folder_.path() / "Czasowniki.dat");
+  UserVerbsFile verbs(folder_.prefix(), 1, messages_);
+  EXPECT_FALSE(load(verbs, "aimer"));
+  EXPECT_EQ(verbs.infinitives(), Texts{});
+  EXPECT_EQ(messages_.texts, Texts{kUnreadable});
+}
+
+TEST_F(UserVerbsLookUp, WithoutPrefixTheFileIsInTheCurrentFolder) {
+  folder_.write("CZASOWNIKI.dat", lineOf("aimer"));
+  const fs::path before = fs::current_path();
+  fs::current_path(folder_.path());
+  UserVerbsFile verbs("", 1, messages_);
+  EXPECT_TRUE(load(verbs, "aimer"));
+  EXPECT_EQ(verbs.save(verb("finir")), SaveResult::appended);
+  fs::current_path(before);
+  EXPECT_EQ(folder_.read("CZASOWNIKI.dat"), linesOf({"aimer", "finir"}));
+}
+
+TEST_F(UserVerbsLookUp, ListsEveryRecordInFileOrderWhateverTheCount) {
+  writeVerbs(linesOf({"rendre", "aimer", "rendre"}));
+  UserVerbsFile verbs(folder_.prefix(), 1, messages_);
+  EXPECT_EQ(verbs.infinitives(), (Texts{"rendre", "aimer", "rendre"}));
+}
+
+TEST_F(UserVerbsLookUp, ALineOfOneMegabyteIsReadAndALongerOneIsDamage) {
+  std::string longest = lineOf("aimer");
+  longest.insert(0, (std::size_t{1} << 20) - (longest.size() - 2), 'x');
+  writeVerbs("x" + longest + longest);
+  EXPECT_TRUE(load(2, "aimer"));
+  EXPECT_EQ(messages_.texts, Texts{"Plik czasowników użytkownika jest uszkodzony (czasownik 1)."});
+}
+
+TEST_F(UserVerbsLookUp, ALineOfManyMegabytesIsOneRecord) {
+  writeVerbs(std::string(5'000'000, 'x') + "\r\n" + linesOf({"aimer", "finir"}));
+  EXPECT_TRUE(load(2, "aimer"));
+  EXPECT_FALSE(load(2, "finir"));
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,134 @@
+// The general verb index: records, counts, order, completion.
+#include "dictionary/verb_index.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "engine/windows1252.h"
+#include "tests/support/test_program.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+using odmiennik::testing::french;
+
+std::string record(std::string_view infinitive) {
+  return std::string(GeneralVerbIndex().record(french(infinitive)));
+}
+
+std::string completed(std::string_view prefix) {
+  return engine::toUtf8(completion(french(prefix)));
+}
+
+TEST(VerbIndex, KnowsTheRecordOfAVerb) {
+  EXPECT_EQ(record("laver"), "|1|1|2|1");
+  EXPECT_EQ(record("être"), "|3|2|1|1");
+  EXPECT_EQ(record("œuvrer"), "|1|2|1|1");
+}
+
+TEST(VerbIndex, KnowsNothingOfAnythingElse) {
+  for (const char* text : {"", "lave", "Laver", "laver ", "se laver", "etre", "zzz", "resetuj"})
+    EXPECT_EQ(record(text), "") << text;
+  EXPECT_EQ(record(std::string(10'000, 'a')), "");
+}
+
+TEST(VerbIndex, Holds7342VerbsFiledUnderTheUnaccentedFirstLetter) {
+  constexpr int kCounts[] = {526, 329, 742, 1026, 818, 265, 202, 105, 215, 52, 7, 132, 307,
+                             70,  97,  526, 22,   942, 451, 314, 16,  152, 1,  0, 4,   21};
+  int sum = 0;
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    EXPECT_EQ(verbCount(letter), kCounts[letter - 'a']) << letter;
+    sum += verbCount(letter);
+  }
+  EXPECT_EQ(sum, 7342);
+  EXPECT_EQ(verbCount(), 7342);
+}
+
+TEST(VerbIndex, HasNoVerbsUnderAnotherCharacter) {
+  for (const char letter : {'A', ' ', '\0', '`', '{', '\xE9', '\x9C'})
+    EXPECT_EQ(verbCount(letter), 0);
+}
+
+TEST(VerbIndex, FilesTheLigatureUnderO) {
+  std::vector<std::string> found;
+  for (int k = 1; k <= verbCount('o'); ++k)
+    if (verbOfLetter('o', k).starts_with('\x9C'))
+      found.push_back(engine::toUtf8(verbOfLetter('o', k)));
+  EXPECT_EQ(found, (std::vector<std::string>{"œilletonner", "œuvrer"}));
+}
+
+TEST(VerbIndex, FilesAccentedLettersAmongTheOthers) {
+  int accented = 0;
+  for (int k = 1; k <= verbCount('e'); ++k) accented += !verbOfLetter('e', k).starts_with('e');
+  EXPECT_GT(accented, 100);
+}
+
+TEST(VerbIndex, TheLettersVerbsInARowAreTheWholeIndex) {
+  int position = 0;
+  for (char letter = 'a'; letter <= 'z'; ++letter)
+    for (int k = 1; k <= verbCount(letter); ++k, ++position)
+      ASSERT_EQ(verbOfLetter(letter, k), verbAt(position)) << letter << k;
+  EXPECT_EQ(position, verbCount());
+  EXPECT_EQ(verbAt(0), "abaisser");
+  EXPECT_EQ(verbAt(7341), "zyeuter");
+}
+
+TEST(VerbIndex, EveryVerbHasARecordOfItsOwnName) {
+  GeneralVerbIndex index;
+  for (int position = 0; position < verbCount(); ++position)
+    ASSERT_GE(index.record(verbAt(position)).size(), 8U) << position;
+}
+
+TEST(VerbIndex, CompletesToTheVerbItself) {
+  EXPECT_EQ(completed("parler"), "parler");
+  EXPECT_EQ(completed("être"), "être");
+}
+
+TEST(VerbIndex, CompletesToTheFirstVerbInItsOrder) {
+  EXPECT_EQ(completed("all"), "allaiter");
+  EXPECT_EQ(completed("parl"), "parlementer");
+  EXPECT_EQ(completed("é"), "ébahir");
+  EXPECT_EQ(completed("œ"), "œilletonner");
+}
+
+TEST(VerbIndex, CompletesNothingThatNoVerbBeginsWith) {
+  for (const char* prefix : {"", "etre", "oe", "Parl", " parl", "parlerait", "se "})
+    EXPECT_EQ(completed(prefix), "") << prefix;
+}
+
+// The lists were checked by hand; each belongs to a way of conjugating of its own.
+class SpecialVerbs : public ::testing::TestWithParam<const char*> {
+ protected:
+  static std::vector<std::string> lines(const std::string& list) {
+    std::ifstream file(ODMIENNIK_SOURCE_DIR "/tests/unit/dictionary/special_verbs/" + list +
+                       ".txt");
+    std::vector<std::string> found;
+    for (std::string line; std::getline(file, line);)
+      if (!line.starts_with('#')) found.push_back(line);
+    return found;
+  }
+};
+
+TEST_P(SpecialVerbs, HaveTheirRecords) {
+  const auto verbs = lines(GetParam());
+  ASSERT_GE(verbs.size(), 18U);
+  for (const std::string& line : verbs) {
+    const auto tab = line.find('\t');
+    EXPECT_EQ(record(line.substr(0, tab)), line.substr(tab + 1)) << line;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, SpecialVerbs,
+                         ::testing::Values("avoir_ou_etre", "etre", "group4", "h_aspire",
+                                           "impersonal", "pronominal"),
+                         [](const auto& list) { return std::string(list.param); });
+
+TEST_F(SpecialVerbs, WithAMuteHHaveNoMark) {
+  const auto verbs = lines("h_muet");
+  ASSERT_EQ(verbs.size(), 50U);
+  for (const std::string& verb : verbs) EXPECT_TRUE(record(verb).starts_with('|')) << verb;
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary

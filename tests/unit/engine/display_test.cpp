@@ -1,0 +1,141 @@
+// The display step: boxes of a form table.
+#include "engine/display.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "tests/support/test_program.h"
+
+namespace odmiennik::engine {
+namespace {
+
+struct Screen {
+  FormTable forms;
+  EngineFlags flags;
+  Display shown;
+
+  void show(bool isEditing = false) { display(forms, flags, isEditing, shown); }
+  [[nodiscard]] std::string_view box(int slot) const {
+    return shown.boxes[static_cast<std::size_t>(slot)];
+  }
+};
+
+TEST(Display, EveryBoxShowsItsSlot) {
+  Screen screen;
+  for (int slot = 0; slot < kSlotCount; ++slot) screen.forms[slot] = "x" + std::to_string(slot);
+  screen.show();
+  for (int slot = 0; slot < kSlotCount; ++slot)
+    EXPECT_EQ(screen.box(slot), "x" + std::to_string(slot));
+}
+
+TEST(Display, AnEmptySlotShowsTwoHyphensBetweenBlanks) {
+  Screen screen;
+  screen.show();
+  for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_EQ(screen.box(slot), " -- ") << slot;
+}
+
+TEST(Display, WhileEditingAnEmptySlotShowsNothing) {
+  Screen screen;
+  screen.show(true);
+  for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_EQ(screen.box(slot), "") << slot;
+}
+
+TEST(Display, APlaceholderIsShownAsItStands) {
+  Screen screen;
+  screen.forms[24] = "*";
+  screen.show();
+  EXPECT_EQ(screen.box(24), "*");
+}
+
+TEST(Display, AnImpersonalVerbKeepsIlFormsInfinitivesAndTheTwoParticiples) {
+  Screen screen;
+  for (int slot = 0; slot < kSlotCount; ++slot) screen.forms[slot] = "x";
+  screen.flags.isImpersonal = true;
+  screen.show();
+  std::set<int> kept{96, 97, 98, 99};
+  for (int slot = 2; slot < 89; slot += 6) kept.insert(slot);
+  ASSERT_EQ(kept.size(), 15U + 4U);
+  for (int slot = 0; slot < kSlotCount; ++slot) {
+    EXPECT_EQ(screen.box(slot), kept.contains(slot) ? "x" : " -- ") << slot;
+    EXPECT_EQ(screen.forms[slot], kept.contains(slot) ? "x" : "") << slot;
+  }
+}
+
+TEST(Display, AnImpersonalVerbLosesSlot100AndTheVousOfTheImperative) {
+  Screen screen;
+  screen.forms[92] = screen.forms[100] = "x";
+  screen.flags.isImpersonal = true;
+  screen.show();
+  EXPECT_EQ(screen.forms[92], "");
+  EXPECT_EQ(screen.forms[100], "");
+}
+
+TEST(Display, TakesAReflexivePrefixOffUnlessTheVerbIsPronominal) {
+  Screen screen;
+  screen.forms[2] = "se lave";
+  screen.forms[96] = "s'asseoir";
+  screen.forms[99] = "se x";
+  screen.show();
+  EXPECT_EQ(screen.box(2), "lave");
+  EXPECT_EQ(screen.box(96), "asseoir");
+  EXPECT_EQ(screen.box(99), "x");
+  EXPECT_EQ(screen.forms[2], "se lave") << "the table keeps it";
+  screen.flags.isPronominal = true;
+  screen.show();
+  EXPECT_EQ(screen.box(2), "se lave");
+  EXPECT_EQ(screen.box(96), "s'asseoir");
+}
+
+TEST(Display, TakesASlotsOwnReflexivePronounOff) {
+  Screen screen;
+  screen.forms[0] = "me lave";
+  screen.forms[3] = "nous lavons";
+  screen.forms[90] = "lave-toi";
+  screen.show();
+  EXPECT_EQ(screen.box(0), "lave");
+  EXPECT_EQ(screen.box(3), "lavons");
+  EXPECT_EQ(screen.box(90), "lave");
+}
+
+TEST(Display, TakesEveryPersonsOwnPronounOffShortAndLongForms) {
+  const std::string_view kPronouns[] = {"me ", "te ", "se ", "nous ", "vous ", "se "};
+  const std::string_view kElided[] = {"m'", "t'", "s'", "nous ", "vous ", "s'"};
+  for (const std::string_view form : {"a", "es", "est", "lave", "suis lav\xE9(e)"})
+    for (int slot = 0; slot < kPersonalSlotCount; ++slot)
+      for (const auto* pronouns : {kPronouns, kElided}) {
+        Screen screen;
+        screen.forms[slot] = std::string(pronouns[slot % 6]) + std::string(form);
+        screen.show();
+        EXPECT_EQ(screen.box(slot), form) << slot;
+      }
+}
+
+TEST(Display, LeavesFormsThatOnlyLookAsIfTheyHadAPronoun) {
+  for (const std::string_view form : {"mens", "m", "me", "tes", "sens x", "nous", "vouas x", "s",
+                                      "n'a", "v'a", "ne va", "ve va", "nouas x"})
+    for (int slot = 0; slot < kPersonalSlotCount; ++slot) {
+      Screen screen;
+      screen.forms[slot] = form;
+      screen.show();
+      EXPECT_EQ(screen.box(slot), form) << slot;
+    }
+}
+
+TEST(Display, ChoosesJeByTheSlotNotByTheBox) {
+  Screen screen;
+  screen.forms[0] = "m'amuse";
+  screen.show();
+  EXPECT_EQ(screen.box(0), "amuse");
+  EXPECT_EQ(screen.shown.pronouns[0], "je");
+}
+
+TEST(Display, APronounIsChosenForAnEmptySlotToo) {
+  Screen screen;
+  screen.show();
+  EXPECT_EQ(screen.shown.pronouns[0], "je");
+  EXPECT_EQ(screen.shown.pronouns[89], "ils");
+}
+
+}  // namespace
+}  // namespace odmiennik::engine

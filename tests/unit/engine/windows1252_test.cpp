@@ -1,0 +1,115 @@
+// Windows-1252 and UTF-8: the round trip of every byte, and what is refused.
+#include "engine/windows1252.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace odmiennik::engine {
+namespace {
+
+void expectRefused(std::string_view utf8, Utf8Fault fault, std::size_t position) {
+  const FromUtf8 result = fromUtf8(utf8);
+  EXPECT_EQ(result.fault, fault) << ::testing::PrintToString(utf8);
+  EXPECT_EQ(result.position, position) << ::testing::PrintToString(utf8);
+}
+
+TEST(Windows1252, EveryByteSurvivesTheWayToUtf8AndBack) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string letter(1, static_cast<char>(byte));
+    const FromUtf8 back = fromUtf8(toUtf8(letter));
+    EXPECT_EQ(back.fault, Utf8Fault::none) << byte;
+    EXPECT_EQ(back.text, letter) << byte;
+  }
+}
+
+TEST(Windows1252, NoTwoBytesShareAnImage) {
+  for (int first = 0; first < 256; ++first)
+    for (int second = first + 1; second < 256; ++second)
+      EXPECT_NE(toUtf8(std::string(1, static_cast<char>(first))),
+                toUtf8(std::string(1, static_cast<char>(second))));
+}
+
+TEST(Windows1252, AllBytesInOneTextSurviveTheRoundTrip) {
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
+  EXPECT_EQ(fromUtf8(toUtf8(all)).text, all);
+}
+
+TEST(Windows1252, FrenchLettersHaveTheirBytes) {
+  const struct {
+    std::string_view letter;
+    unsigned char byte;
+  } kLetters[] = {{"à", 0xE0}, {"â", 0xE2}, {"ç", 0xE7}, {"è", 0xE8}, {"é", 0xE9}, {"ê", 0xEA},
+                  {"ë", 0xEB}, {"î", 0xEE}, {"ï", 0xEF}, {"ô", 0xF4}, {"ù", 0xF9}, {"û", 0xFB},
+                  {"ü", 0xFC}, {"ÿ", 0xFF}, {"É", 0xC9}, {"Ê", 0xCA}, {"œ", 0x9C}, {"Œ", 0x8C},
+                  {"æ", 0xE6}, {"’", 0x92}, {"€", 0x80}, {"Ÿ", 0x9F}};
+  for (const auto& row : kLetters) {
+    EXPECT_EQ(fromUtf8(row.letter).text, std::string(1, static_cast<char>(row.byte))) << row.letter;
+    EXPECT_EQ(toUtf8(std::string(1, static_cast<char>(row.byte))), row.letter);
+  }
+}
+
+TEST(Windows1252, BytesWithoutALetterStandForTheControlCharactersOfTheirNumber) {
+  for (const int byte : {0x81, 0x8D, 0x8F, 0x90, 0x9D})
+    EXPECT_EQ(kCodePointOfByte[static_cast<std::size_t>(byte)], static_cast<char32_t>(byte));
+}
+
+TEST(Windows1252, TheEmptyTextIsATextInBothDirections) {
+  EXPECT_EQ(toUtf8(""), "");
+  EXPECT_EQ(fromUtf8("").fault, Utf8Fault::none);
+}
+
+TEST(Windows1252, PolishLettersAreOutside) {
+  for (const std::string_view letter : {"ą", "ć", "ę", "ł", "ń", "ś", "ź", "ż", "Ł"})
+    expectRefused(letter, Utf8Fault::letterOutside, 0);
+}
+
+TEST(Windows1252, TheFaultIsReportedAtTheFirstBadByte) {
+  expectRefused("été łapać", Utf8Fault::letterOutside, 6);
+  expectRefused("ab\xFF", Utf8Fault::notUtf8, 2);
+}
+
+TEST(Windows1252, LettersOfOtherPlanesAreOutside) {
+  expectRefused("\U0001F600", Utf8Fault::letterOutside, 0);
+  expectRefused("日本", Utf8Fault::letterOutside, 0);
+  expectRefused("e\u0301", Utf8Fault::letterOutside, 1);
+}
+
+TEST(Windows1252, ControlCharactersWithALetterInTheirPlaceAreOutside) {
+  // U+0080 is a control character; the byte 80 is the euro sign.
+  expectRefused("\u0080", Utf8Fault::letterOutside, 0);
+  expectRefused("\u009F", Utf8Fault::letterOutside, 0);
+}
+
+TEST(Windows1252, OverlongSequencesAreRefused) {
+  expectRefused("\xC0\x80", Utf8Fault::notUtf8, 0);
+  expectRefused("\xC1\xA1", Utf8Fault::notUtf8, 0);
+  expectRefused("\xE0\x83\xA9", Utf8Fault::notUtf8, 0);
+  expectRefused("\xF0\x80\x83\xA9", Utf8Fault::notUtf8, 0);
+}
+
+TEST(Windows1252, SurrogatesAreRefused) {
+  expectRefused("\xED\xA0\x80", Utf8Fault::notUtf8, 0);
+  expectRefused("\xED\xBF\xBF", Utf8Fault::notUtf8, 0);
+}
+
+TEST(Windows1252, CodePointsPastTheLastAreRefused) {
+  expectRefused("\xF4\x90\x80\x80", Utf8Fault::notUtf8, 0);
+  expectRefused("\xF5\x80\x80\x80", Utf8Fault::notUtf8, 0);
+}
+
+TEST(Windows1252, CutSequencesAreRefused) {
+  expectRefused("\xC3", Utf8Fault::notUtf8, 0);
+  expectRefused("a\xE2\x80", Utf8Fault::notUtf8, 1);
+  expectRefused("\xF0\x9F\x98", Utf8Fault::notUtf8, 0);
+  expectRefused("\xC3(", Utf8Fault::notUtf8, 0);
+}
+
+TEST(Windows1252, ContinuationBytesAloneAreRefused) {
+  for (int byte = 0x80; byte < 0xC0; ++byte)
+    expectRefused(std::string(1, static_cast<char>(byte)), Utf8Fault::notUtf8, 0);
+}
+
+}  // namespace
+}  // namespace odmiennik::engine
