@@ -1,0 +1,33 @@
+// Which commands of the "&Edycja" menu are available.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace odmiennik::app {
+
+// The control that has the focus at the moment of the question; lengths are letters.
+struct ActiveControl {
+  std::string_view name;
+  bool isReadOnly = false;
+  std::size_t selectionLength = 0;
+  std::size_t textLength = 0;
+};
+
+struct EditAvailability {
+  bool canCut = false;
+  bool canCopy = false;
+  bool canPaste = false;
+  bool canDelete = false;
+  bool canSelectAll = false;
+
+  bool operator==(const EditAvailability&) const = default;
+};
+
+// Asked when the menu opens, and again when a shortcut is pressed. A control whose name does not
+// begin with "txt" takes no edit command: a button allows nothing, an empty entry box at most
+// pasting.
+[[nodiscard]] EditAvailability editAvailability(const ActiveControl& control,
+                                                bool isTextOnClipboard);
+
+}  // namespace odmiennik::app

@@ -1,0 +1,78 @@
+// The arithmetic that keeps the main window's layout in proportion to its size.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace odmiennik::app {
+
+// A size in twips, 15 to a pixel.
+struct TwipSize {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+
+  bool operator==(const TwipSize&) const = default;
+};
+
+// A control as it stands now. Twips and points in single precision: the sizes of boxes become whole
+// numbers again at every rescale, all other values keep their fractions. `name` is that of the
+// array, without an index. A line has end points instead of a place and a size.
+struct LayoutControl {
+  std::string_view name;
+  std::string_view tag;
+  float left = 0;
+  float top = 0;
+  float width = 0;
+  float height = 0;
+  float x1 = 0;
+  float y1 = 0;
+  float x2 = 0;
+  float y2 = 0;
+  float fontSize = 0;
+};
+
+// The window's controls, and the size that they fit.
+struct Layout {
+  TwipSize design;
+  float horizontalFactor = 1;  // the last ones
+  float verticalFactor = 1;
+  float windowFontSize = 0;
+  std::vector<LayoutControl> controls;
+};
+
+struct ScreenWidth {
+  float twips = 12000;
+  float twipsPerPixel = 15;
+
+  // deliberate: 800 pixels, whatever the window itself needs.
+  [[nodiscard]] bool isTooSmall() const { return twips / twipsPerPixel < 800; }
+};
+
+// How a control follows the window, told by its name and tag.
+enum class ScaledAs : std::uint8_t { box, shape, line, nothing };
+
+// "lblCzas" -> box, "shpLiniaTrybu" -> shape. Exact, small and capital letters apart.
+[[nodiscard]] ScaledAs scaledAs(std::string_view name, std::string_view tag);
+
+// Scales one control. deliberate: a control without a tag keeps its place, whatever its size does.
+void scale(LayoutControl& control, float horizontalFactor, float verticalFactor);
+
+enum class Rescaled : std::uint8_t {
+  unchanged,  // the window has its design size: nothing was asked either
+  rescaled,
+  ended,  // the user does not go on in this resolution: the program ends at once
+};
+
+// Fits the controls to the window's size. On a screen that is too small `mayContinue` puts the
+// question of the resolution first. The design size stays.
+[[nodiscard]] Rescaled RescaleLayout(Layout& layout, TwipSize window, ScreenWidth screen,
+                                     const std::function<bool()>& mayContinue);
+
+// The window has a new size: rescales, and takes the size as the design size of the next rescale. A
+// minimised window is left alone.
+[[nodiscard]] Rescaled resizeLayout(Layout& layout, TwipSize window, bool isMinimised,
+                                    ScreenWidth screen, const std::function<bool()>& mayContinue);
+
+}  // namespace odmiennik::app

@@ -1,0 +1,84 @@
+// The start of the program: its steps in order, and what they decide.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace odmiennik::app {
+
+enum class StartUpStep : std::uint8_t {
+  showHourglass,
+  setHelpFile,
+  loadCursors,  // the screen's, and the hand of the headings that open a help page
+  takeDesignSize,
+  showEmptyPronouns,
+  findCharacterMap,
+  showVersionInCaption,
+  showWindow,
+  selectEntryWord,
+  rescaleForScreen,
+  readSettings,
+  checkFirstStart,
+  showTipOfTheDay,
+  countRun,
+  showPointer,
+};
+
+inline constexpr std::array kStartUpSteps{
+    StartUpStep::showHourglass,        StartUpStep::setHelpFile,
+    StartUpStep::loadCursors,          StartUpStep::takeDesignSize,
+    StartUpStep::showEmptyPronouns,    StartUpStep::findCharacterMap,
+    StartUpStep::showVersionInCaption, StartUpStep::showWindow,
+    StartUpStep::selectEntryWord,      StartUpStep::rescaleForScreen,
+    StartUpStep::readSettings,         StartUpStep::checkFirstStart,
+    StartUpStep::showTipOfTheDay,      StartUpStep::countRun,
+    StartUpStep::showPointer};
+
+// The word that the entry box starts with, selected.
+inline constexpr std::string_view kEntryWord = "infinitif";
+
+// Bare file names: the help file, the marker of a first start, the character map.
+inline constexpr std::string_view kHelpFile = "Werbolin.chm";
+inline constexpr std::string_view kFirstStartMarker = "tmp.dat";
+inline constexpr std::string_view kCharacterMap = "CHARMAP.EXE";
+
+// Of the per-user store; both are 1 when they were never written.
+inline constexpr std::string_view kStoreSection = "Ustawienia";
+inline constexpr std::string_view kTipAtStartKey = "Pokazuj poradę dnia";
+inline constexpr std::string_view kCompletionKey = "Autouzupełnianie";
+
+struct Version {
+  int major = 0;
+  int minor = 0;
+  int revision = 0;
+};
+
+// {1, 0, 12} -> "1.0.12"
+[[nodiscard]] std::string versionText(Version version);
+
+// {1, 0, 12} -> "Odmiennik v.1.0.12"
+[[nodiscard]] std::string captionWithVersion(Version version);
+
+// The help file in the program's folder. deliberate: a separator is always put between, so that a
+// folder that ends in one has two.
+[[nodiscard]] std::string helpFilePath(std::string_view folder, char separator);
+
+// The character map in the system's folder, named as files of the program's own folder are.
+[[nodiscard]] std::string characterMapPath(std::string_view windowsFolder);
+
+// Whether the layout is rescaled at start: unless the screen is exactly 800 pixels of 15 twips
+// wide.
+[[nodiscard]] constexpr bool isRescaledAtStart(int screenTwips) { return screenTwips != 12000; }
+
+// Whether the stored value asks for the tip of the day: 1, or never written.
+[[nodiscard]] constexpr bool isTipShownAtStart(std::optional<int> stored) {
+  return stored.value_or(1) == 1;
+}
+
+// Adds one; a counter that is full stays there.
+void countOne(std::int32_t& counter);
+
+}  // namespace odmiennik::app

@@ -1,0 +1,13 @@
+// The sentence of the about window that tells how much the program was used.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace odmiennik::app {
+
+// "Statystyka: odmieniono 3 czasowniki po 2 uruchomieniach.", UTF-8.
+// deliberate: 12, 13, 14, 112 … are followed by "czasowniki", as 2, 3, 4 and 22 are.
+[[nodiscard]] std::string statisticsSentence(std::int32_t conjugations, std::int32_t runs);
+
+}  // namespace odmiennik::app

@@ -1,0 +1,57 @@
+// The pages of the tenses.
+#include "app/logic/tense_topics.h"
+
+#include "engine/slots.h"
+
+namespace odmiennik::app {
+namespace {
+
+constexpr std::string_view kPageFolder = "strony\\";
+
+// The first slot of the tense that a slot belongs to.
+constexpr int tenseOfSlot(int slot) {
+  if (slot < engine::slot::kImperative) return slot - slot % engine::kPersonCount;
+  return slot < engine::slot::kInfinitive ? slot - slot % 3 : slot;
+}
+
+constexpr bool onlyTheFirstHaveAPage() {
+  for (int heading = 0; heading < kTenseHeadings; ++heading)
+    if (kTenseTopics[static_cast<std::size_t>(heading)].page.empty() != (heading >= kTopicHeadings))
+      return false;
+  return true;
+}
+static_assert(onlyTheFirstHaveAPage());
+
+}  // namespace
+
+std::optional<std::string> topicOf(int heading) {
+  if (heading < 0 || heading >= kTopicHeadings) return std::nullopt;
+  return std::string(kPageFolder) +
+         std::string(kTenseTopics[static_cast<std::size_t>(heading)].page);
+}
+
+std::optional<std::string> topicOfSlot(int slot) {
+  for (int heading = 0; heading < kTopicHeadings; ++heading)
+    if (kTenseTopics[static_cast<std::size_t>(heading)].firstSlot == tenseOfSlot(slot))
+      return topicOf(heading);
+  return std::nullopt;
+}
+
+TopicHover::Change TopicHover::moved(int heading) {
+  Change change;
+  if (heading < 0 || heading >= kTopicHeadings) return change;
+  bool& previous = underlined_[static_cast<std::size_t>(last_)];
+  bool& current = underlined_[static_cast<std::size_t>(heading)];
+  if (heading != last_ && previous) change.off = last_;
+  if (heading != last_) previous = false;
+  if (!current) change.on = heading;
+  current = true;
+  last_ = heading;
+  return change;
+}
+
+std::optional<std::string> TopicHover::clicked(int heading) const {
+  return isUnderlined(heading) ? topicOf(heading) : std::nullopt;
+}
+
+}  // namespace odmiennik::app

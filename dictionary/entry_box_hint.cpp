@@ -1,0 +1,41 @@
+// The hint of the read-only boxes.
+#include "dictionary/entry_box_hint.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace odmiennik::dictionary {
+namespace {
+
+namespace vk = virtual_key;
+
+constexpr int kModifiers[] = {vk::kShift,       vk::kControl, vk::kAlt,        vk::kCapsLock,
+                              vk::kLeftWindows, vk::kNumLock, vk::kScrollLock, vk::kRightWindows};
+
+bool asksForHint(const KeyStroke& key) {
+  const bool isCommand = key.isControlHeld || key.isAltHeld || key.isShortcut;
+  return !isCommand && key.virtualKey != vk::kTab && !isModifier(key.virtualKey);
+}
+
+}  // namespace
+
+bool isModifier(int virtualKey) {
+  const bool isSided = virtualKey >= vk::kLeftShift && virtualKey <= vk::kRightAlt;
+  return isSided || std::ranges::find(kModifiers, virtualKey) != std::end(kModifiers);
+}
+
+void ReadOnlyBoxHint::pressed(int box, const KeyStroke& key) {
+  if (key.isRepeated) return;
+  if (box != box_) focusLeft();
+  box_ = box;
+  if (asksForHint(key)) keysDown_.push_back(key.physicalKey);
+}
+
+bool ReadOnlyBoxHint::released(int box, const KeyStroke& key) {
+  if (key.isRepeated || box != box_) return false;
+  const bool isDown = std::ranges::find(keysDown_, key.physicalKey) != keysDown_.end();
+  if (isDown) keysDown_.clear();
+  return isDown;
+}
+
+}  // namespace odmiennik::dictionary

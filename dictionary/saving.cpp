@@ -1,0 +1,30 @@
+// What is saved of an edited verb.
+#include "dictionary/saving.h"
+
+#include "engine/normalization.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+constexpr std::size_t kShortestInfinitive = 3;
+
+}  // namespace
+
+bool isInfinitive(std::string_view boxText) {
+  const std::string_view infinitive = engine::trimmed(boxText);
+  if (infinitive.empty() || boxText.size() < kShortestInfinitive) return false;
+  return infinitive.back() == 'r' || infinitive.back() == 'e';
+}
+
+UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
+                             std::uint8_t auxiliary) {
+  UserVerbRecord record;
+  record.auxiliary = auxiliary;
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+    const std::string& text = texts[static_cast<std::size_t>(slot)];
+    if (text != engine::kShownMissing) record.forms[slot] = text;
+  }
+  return record;
+}
+
+}  // namespace odmiennik::dictionary

@@ -1,0 +1,25 @@
+// What is saved of an edited verb, and which infinitives may be saved at all.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "dictionary/user_record.h"
+#include "engine/slots.h"
+
+namespace odmiennik::dictionary {
+
+// Whether the text of the infinitive's box (Windows-1252, as typed) may be saved: "aimer", " faire
+// ". deliberate: nothing is looked at but the last letter (r or e) behind which only blanks stand,
+// and the length of the text with its blanks (3 or more): " e " may be saved, "ab" and "chanté" may
+// not.
+[[nodiscard]] bool isInfinitive(std::string_view boxText);
+
+// The record of the 101 boxes' texts. A form that does not exist (" -- ") is saved as an empty one;
+// the boxes themselves are left alone, so that a write that fails has changed nothing.
+[[nodiscard]] UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
+                                           std::uint8_t auxiliary);
+
+}  // namespace odmiennik::dictionary

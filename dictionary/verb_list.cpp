@@ -1,0 +1,68 @@
+// The verb list.
+#include "dictionary/verb_list.h"
+
+#include <algorithm>
+
+namespace odmiennik::dictionary {
+
+void VerbList::loadUserVerbs(UserVerbsFound found) {
+  isFilling_ = false;
+  entries_.clear();
+  const bool hasVerbs = found.isFilePresent && found.storedCount >= 1;
+  if (hasVerbs) entries_ = std::move(found.infinitives);
+  enabled_ = {hasVerbs, hasVerbs, hasVerbs, hasVerbs, hasVerbs};
+  selectFirst();
+}
+
+void VerbList::chooseUserVerbs(UserVerbsFound found) {
+  loadUserVerbs(std::move(found));
+  enableByEntries();
+}
+
+void VerbList::beginLetter() {
+  entries_.clear();
+  selected_.reset();
+  enabled_.lstCzasowniki = false;
+  isFilling_ = true;
+}
+
+void VerbList::finishLetter() {
+  isFilling_ = false;
+  enableByEntries();
+  selectFirst();
+}
+
+// deliberate: cmdUsuń stays as it is; only loading the user's verbs and deleting set it.
+void VerbList::enableByEntries() {
+  const bool hasEntries = !entries_.empty();
+  enabled_.lstCzasowniki = enabled_.cmdOdmień = hasEntries;
+  enabled_.cmdEdytuj = enabled_.cmdDrukuj = hasEntries;
+}
+
+void VerbList::drop(std::string_view infinitive) {
+  const auto place = entries_.begin() + static_cast<std::ptrdiff_t>(selected_.value_or(0));
+  const auto before = std::count(entries_.begin(), place, infinitive);
+  if (std::erase(entries_, infinitive) == 0) return;
+  if (entries_.empty()) {
+    selected_.reset();
+    enabled_.cmdUsuń = enabled_.cmdOdmień = enabled_.cmdEdytuj = enabled_.cmdDrukuj = false;
+  } else if (selected_) {
+    selected_ = std::min(*selected_ - static_cast<std::size_t>(before), entries_.size() - 1);
+  }
+}
+
+void VerbList::select(std::size_t entry) {
+  selected_ = entry < entries_.size() ? std::optional(entry) : std::nullopt;
+}
+
+void VerbList::selectFirst() { select(0); }
+
+std::string_view VerbList::selectedVerb() const {
+  return selected_ ? std::string_view(entries_[*selected_]) : std::string_view();
+}
+
+std::string VerbList::countLabel() const {
+  return std::to_string(entries_.size()) + '/' + std::to_string(kListedVerbs);
+}
+
+}  // namespace odmiennik::dictionary

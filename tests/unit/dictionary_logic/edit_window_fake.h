@@ -1,0 +1,83 @@
+// A window without widgets for edit mode: it conjugates by upper-casing and keeps a diary.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "data/messages.h"
+#include "dictionary/edit_mode_runner.h"
+#include "engine/slots.h"
+#include "tests/support/test_program.h"
+
+namespace odmiennik::testing {
+
+// Answers message boxes in the user's stead, in the order given; a question without an answer left
+// is answered No.
+struct MessagesFake final : dictionary::MessageBoxes {
+  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override {
+    shown.push_back(dictionary::messageText(id, argument));
+    if (answers.empty()) return dictionary::Button::no;
+    const dictionary::Button answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  std::deque<dictionary::Button> answers;
+  std::vector<std::string> shown;
+};
+
+// Like the main window: a change of a text, whoever makes it, is told to edit mode.
+class EditWindowFake final : public dictionary::EditWindow {
+ public:
+  using Texts = std::array<std::string, engine::kSlotCount>;
+
+  explicit EditWindowFake(std::string_view infinitive) {
+    setText(engine::slot::kInfinitive, infinitive);
+    mode.filled(infinitive);
+  }
+
+  // Gives a command as the user does, from the menu, a button or the list.
+  bool give(dictionary::EditCommand command) {
+    return runEditCommand(command, mode, *this, messages);
+  }
+  void type(int slot, std::string_view text) { setText(slot, text); }
+
+  [[nodiscard]] std::string entryText() const override { return texts[engine::slot::kInfinitive]; }
+  void setEntryText(std::string_view text) override { setText(engine::slot::kInfinitive, text); }
+  void clearBoxes() override {
+    for (int slot = 0; slot < engine::kSlotCount; ++slot) setText(slot, "");
+  }
+  void present(const dictionary::EditPresentation& presentation) override { seen = presentation; }
+  void showHourglass(bool isShown) override {
+    diary.emplace_back(isShown ? "hourglass" : "pointer");
+  }
+  std::string conjugate() override { return fill("conjugate "); }
+  std::string conjugateForEditing() override { return fill("edit "); }
+  bool writeRecord() override {
+    diary.push_back("write " + entryText());
+    return canWrite;
+  }
+
+  dictionary::EditMode mode{"Odmiennik v.1.0.12"};
+  MessagesFake messages;
+  Texts texts;
+  dictionary::EditPresentation seen = mode.presentation();
+  std::vector<std::string> diary;
+  bool canWrite = true;
+
+ private:
+  void setText(int slot, std::string_view text) {
+    std::string& box = texts[static_cast<std::size_t>(slot)];
+    if (box == text) return;
+    box = text;
+    if (mode.boxChanged(entryText())) seen = mode.presentation();
+  }
+  std::string fill(const std::string& how) {
+    diary.push_back(how + entryText());
+    setText(0, "form of " + entryText());
+    return entryText();
+  }
+};
+
+}  // namespace odmiennik::testing
