@@ -1,0 +1,16 @@
+// The auxiliary's check box.
+#include "app/auxiliary_box.h"
+
+#include "app/text.h"
+#include "engine/driver.h"
+
+namespace odmiennik::app {
+
+void AuxiliaryBox::show(const engine::Conjugation& conjugation) const {
+  const engine::AuxiliaryBox& state = conjugation.information.chkZAvoir;
+  box_.setText(fromUtf8(engine::auxiliaryCaption(conjugation.flags.auxiliary)));
+  box_.setChecked(state.isChecked);
+  box_.setEnabled(state.isEnabled);
+}
+
+}  // namespace odmiennik::app

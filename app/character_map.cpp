@@ -1,0 +1,17 @@
+// Starting the character map.
+#include "app/character_map.h"
+
+#include <QAction>
+
+#include "app/platform.h"
+
+namespace odmiennik::app {
+
+void offerCharacterMap(QAction& item) {
+  const std::string program = platform::characterMap();
+  item.setEnabled(!program.empty());
+  if (program.empty()) return;
+  QObject::connect(&item, &QAction::triggered, &item, [program] { platform::start(program); });
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,36 @@
+// The widgets of the main window, built from its table.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "app/control_table.h"
+
+namespace odmiennik::app {
+
+class Controls {
+ public:
+  // Creates a widget for every row that has one, as children of `surface`.
+  explicit Controls(QWidget& surface);
+  Controls(const Controls&) = delete;
+  Controls& operator=(const Controls&) = delete;
+
+  // The widget at a position of the table: get<QCheckBox>(positionOf("chkZAvoir")). The caller
+  // names the class that belongs to the row's kind.
+  template <typename Widget>
+  [[nodiscard]] Widget& get(std::size_t position) const {
+    return *static_cast<Widget*>(widgets_[position]);
+  }
+
+  // The widgets of an array, or the control of that name, in the table's order.
+  template <typename Visitor>
+  void forEach(std::string_view name, Visitor visit) const {
+    for (std::size_t position = 0; position < widgets_.size(); ++position)
+      if (kMainWindow[position].name == name) visit(kMainWindow[position], *widgets_[position]);
+  }
+
+ private:
+  std::vector<QWidget*> widgets_;  // by position; none for the window, shapes and lines
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,32 @@
+// The boxes of the conjugation.
+#include "app/form_boxes.h"
+
+#include "app/text.h"
+
+namespace odmiennik::app {
+
+FormBoxes::FormBoxes(const Controls& controls) {
+  controls.forEach("txtCzasownik", [this](const ControlRow& row, QWidget& widget) {
+    boxes_[static_cast<std::size_t>(row.index)] = static_cast<FormBox*>(&widget);
+  });
+  controls.forEach("lblSubjoncif", [this](const ControlRow& row, QWidget& widget) {
+    captions_[static_cast<std::size_t>(row.index)] = static_cast<QLabel*>(&widget);
+  });
+}
+
+void FormBoxes::selectEntry() const {
+  entry().setFocus();
+  entry().selectAll();
+}
+
+void FormBoxes::show(const engine::Display& shown) const {
+  for (std::size_t slot = 0; slot < boxes_.size(); ++slot)
+    boxes_[slot]->showForm(fromFrench(shown.boxes[slot]));
+  showCaptions(shown.captions);
+}
+
+void FormBoxes::showCaptions(const engine::SubjunctiveCaptions& captions) const {
+  for (std::size_t i = 0; i < captions_.size(); ++i) captions_[i]->setText(fromFrench(captions[i]));
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,37 @@
+// The 101 boxes of the conjugation and the captions that stand above them.
+#pragma once
+
+#include <QLabel>
+#include <array>
+
+#include "app/controls.h"
+#include "app/form_box.h"
+#include "engine/display.h"
+
+namespace odmiennik::app {
+
+class FormBoxes {
+ public:
+  explicit FormBoxes(const Controls& controls);
+
+  // Box `slot`, 0 to 100.
+  [[nodiscard]] FormBox& operator[](int slot) const {
+    return *boxes_[static_cast<std::size_t>(slot)];
+  }
+
+  // The box of the infinitive, where the user types.
+  [[nodiscard]] FormBox& entry() const { return (*this)[engine::slot::kInfinitive]; }
+
+  // Puts the word that the window starts with, or the text that is there, under the caret: the
+  // entry box has the focus and typing replaces its text.
+  void selectEntry() const;
+
+  void show(const engine::Display& shown) const;
+  void showCaptions(const engine::SubjunctiveCaptions& captions) const;
+
+ private:
+  std::array<FormBox*, engine::kSlotCount> boxes_{};
+  std::array<QLabel*, 4> captions_{};
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,40 @@
+// The ground of the main window: what is painted and no control of its own.
+#pragma once
+
+#include <QRectF>
+#include <QWidget>
+#include <vector>
+
+#include "app/colours.h"
+#include "app/pronoun_painter.h"
+
+namespace odmiennik::app {
+
+// Paints the panel, the rules and lines of the table and the subject pronouns; carries the
+// controls.
+class FormSurface final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FormSurface(QWidget* parent);
+
+  [[nodiscard]] PronounPainter& pronouns() { return pronouns_; }
+  void setMoodColour(const QColor& colour);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // A panel, shape or line, with its place in pixels.
+  struct Decoration {
+    std::size_t row;
+    QRectF place;
+  };
+  void paint(QPainter& painter, const Decoration& decoration) const;
+
+  std::vector<Decoration> decorations_;
+  PronounPainter pronouns_;
+  QColor moodColour_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,48 @@
+// Style, font and language.
+#include "app/look.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QLocale>
+#include <QTranslator>
+
+#include "app/text.h"
+#include "dictionary/messages.h"
+
+namespace odmiennik::app {
+namespace {
+
+// The same calm look on every system; native styles differ in the room that a box needs.
+constexpr char kStyle[] = "Fusion";
+
+// Menus and message boxes: 9 points at 96 dots an inch, like everything else in pixels.
+constexpr int kFontPixels = 12;
+
+void speakPolish(QApplication& application) {
+  QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
+  auto* translator = new QTranslator(&application);
+  if (translator->load(QStringLiteral(":/odmiennik/qtbase_pl.qm")))
+    QApplication::installTranslator(translator);
+}
+
+}  // namespace
+
+void prepare(QApplication& application) {
+  QApplication::setApplicationName(fromUtf8(dictionary::kApplicationTitle));
+  QApplication::setApplicationVersion(QStringLiteral(ODMIENNIK_VERSION));
+  QApplication::setOrganizationName(fromUtf8(dictionary::kApplicationTitle));
+  QApplication::setStyle(QLatin1String(kStyle));
+  for (const char* file :
+       {":/odmiennik/LiberationSans-Regular.ttf", ":/odmiennik/LiberationSans-Bold.ttf"})
+    QFontDatabase::addApplicationFont(QLatin1String(file));
+  QApplication::setFont(programFont());
+  speakPolish(application);
+}
+
+QFont programFont() {
+  QFont font(QStringLiteral("Liberation Sans"));
+  font.setPixelSize(kFontPixels);
+  return font;
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,47 @@
+// Building of the menu bar.
+#include "app/main_menu.h"
+
+#include <QKeySequence>
+#include <QMenu>
+
+#include "app/menu_table.h"
+#include "app/text.h"
+
+namespace odmiennik::app {
+namespace {
+
+QMenu* addMenu(QMenuBar& bar, const MenuRow& row) {
+  QMenu* menu = bar.addMenu(fromUtf8(row.caption));
+  menu->setObjectName(fromUtf8(row.name));
+  return menu;
+}
+
+void addItem(QMenu& menu, const MenuRow& row) {
+  auto* action = new QAction(fromUtf8(row.caption), &menu);
+  action->setObjectName(fromUtf8(row.name));
+  action->setSeparator(row.kind == MenuKind::separator);
+  action->setCheckable(row.kind == MenuKind::checkableItem);
+  action->setEnabled(row.kind == MenuKind::separator || row.state == MenuState::ready);
+  if (!row.keys.empty()) action->setShortcut(QKeySequence(fromUtf8(row.keys)));
+  menu.addAction(action);
+}
+
+}  // namespace
+
+void buildMainMenu(QMenuBar& bar) {
+  QMenu* menu = nullptr;
+  for (const MenuRow& row : mainMenuRows()) {
+    if (row.kind == MenuKind::menu)
+      menu = addMenu(bar, row);
+    else
+      addItem(*menu, row);
+  }
+}
+
+QAction& menuItem(const QMenuBar& bar, std::string_view name) {
+  auto* action = bar.findChild<QAction*>(fromUtf8(name));
+  Q_ASSERT(action != nullptr);
+  return *action;
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,73 @@
+// Message boxes over QMessageBox.
+#include "app/qt_message_boxes.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "app/text.h"
+
+namespace odmiennik::app {
+namespace {
+
+using dictionary::Button;
+using dictionary::Icon;
+
+struct ButtonPair {
+  Button button;
+  QMessageBox::StandardButton standard;
+};
+// In the order in which they answer the Escape key.
+constexpr ButtonPair kButtons[] = {{Button::cancel, QMessageBox::Cancel},
+                                   {Button::no, QMessageBox::No},
+                                   {Button::ok, QMessageBox::Ok},
+                                   {Button::yes, QMessageBox::Yes},
+                                   {Button::help, QMessageBox::Help}};
+
+QMessageBox::Icon iconOf(Icon icon) {
+  switch (icon) {
+    case Icon::information:
+      return QMessageBox::Information;
+    case Icon::question:
+      return QMessageBox::Question;
+    case Icon::exclamation:
+      return QMessageBox::Warning;
+    case Icon::critical:
+      return QMessageBox::Critical;
+    case Icon::none:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+void addButtons(QMessageBox& box, const dictionary::MessageRow& row) {
+  for (const ButtonPair& pair : kButtons) {
+    if (!contains(row.buttons, pair.button)) continue;
+    QPushButton* button = box.addButton(pair.standard);
+    button->setIcon(QIcon());  // plain buttons, whatever the desktop's theme
+    if (pair.button == row.defaultButton) box.setDefaultButton(pair.standard);
+    if (box.escapeButton() == nullptr) box.setEscapeButton(button);
+  }
+}
+
+Button answerOf(int standard) {
+  for (const ButtonPair& pair : kButtons)
+    if (pair.standard == standard) return pair.button;
+  return Button::cancel;
+}
+
+}  // namespace
+
+Button QtMessageBoxes::show(dictionary::MessageId id, std::string_view argument) {
+  const dictionary::MessageRow& row = dictionary::row(id);
+  const std::string_view title = row.title.empty() ? dictionary::kApplicationTitle : row.title;
+  QMessageBox box(iconOf(row.icon), fromUtf8(title),
+                  fromUtf8(dictionary::messageText(id, argument)), QMessageBox::NoButton,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);  // a verb typed by the user is no mark-up
+  addButtons(box, row);
+  return answerOf(box.exec());
+}
+
+}  // namespace odmiennik::app

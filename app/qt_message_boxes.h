@@ -1,0 +1,15 @@
+// Message boxes on the screen.
+#pragma once
+
+#include "dictionary/messages.h"
+
+namespace odmiennik::app {
+
+// Shows each message over the active window and waits for its answer. Escape answers like the
+// button that changes nothing: Cancel, No, or the only OK.
+class QtMessageBoxes final : public dictionary::MessageBoxes {
+ public:
+  dictionary::Button show(dictionary::MessageId id, std::string_view argument = {}) override;
+};
+
+}  // namespace odmiennik::app

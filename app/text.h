@@ -1,0 +1,24 @@
+// Texts between the engine (Windows-1252) and Qt.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace odmiennik::app {
+
+// A view of UTF-8 text as Qt takes it.
+[[nodiscard]] inline QString fromUtf8(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+// Windows-1252 -> QString; every byte has an image: "\xE9t\xE9" -> "été".
+[[nodiscard]] QString fromFrench(std::string_view bytes);
+
+// Whether Windows-1252 has the letter: 'é' and '’' yes, 'ł' no.
+[[nodiscard]] bool isFrenchLetter(QChar letter);
+
+// QString -> Windows-1252. Letters that it does not have are left out; the boxes never hold any.
+[[nodiscard]] std::string toFrench(const QString& text);
+
+}  // namespace odmiennik::app

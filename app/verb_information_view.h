@@ -1,0 +1,21 @@
+// The frame that tells what is known of the verb.
+#pragma once
+
+#include <QLabel>
+
+#include "app/controls.h"
+#include "engine/verb_information.h"
+
+namespace odmiennik::app {
+
+class VerbInformationView {
+ public:
+  explicit VerbInformationView(const Controls& controls) : controls_(controls) {}
+
+  void show(const engine::VerbLabels& labels) const;
+
+ private:
+  const Controls& controls_;
+};
+
+}  // namespace odmiennik::app

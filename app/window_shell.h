@@ -1,0 +1,29 @@
+// What the driver asks of the window's side: messages, and the reset of the settings.
+#pragma once
+
+#include <functional>
+
+#include "dictionary/messages.h"
+#include "engine/ports.h"
+
+namespace odmiennik::app {
+
+class WindowShell final : public engine::Shell {
+ public:
+  // `reset` restores the settings and ends the program; it runs once the user has agreed.
+  WindowShell(dictionary::MessageBoxes& messages, std::function<void()> reset)
+      : messages_(messages), reset_(std::move(reset)) {}
+
+  void show(engine::Notice notice) override { messages_.show(dictionary::messageOf(notice)); }
+
+  void resetSettings() override {
+    using dictionary::Button;
+    if (messages_.show(dictionary::MessageId::settingsWillBeReset) == Button::ok) reset_();
+  }
+
+ private:
+  dictionary::MessageBoxes& messages_;
+  std::function<void()> reset_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,99 @@
+// Font, language and colours.
+#include <QApplication>
+#include <QFontInfo>
+#include <QLabel>
+#include <QLocale>
+#include <cmath>
+
+#include "app/colours.h"
+#include "app/look.h"
+#include "tests/window/program_under_test.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+constexpr double kReadableContrast = 4.5;
+
+double linear(double part) {
+  return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+// Relative luminance and contrast ratio as accessibility guidelines define them.
+double luminance(const QColor& colour) {
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+double contrast(const QColor& first, const QColor& second) {
+  const double a = luminance(first), b = luminance(second);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QPalette darkPalette() {
+  QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2D, 0x2D, 0x2D));
+  palette.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+  return palette;
+}
+
+}  // namespace
+
+class LookSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theProgramCarriesItsFont();
+  void theProgramSpeaksPolish();
+  void headingsAreReadableOnLightAndDark_data();
+  void headingsAreReadableOnLightAndDark();
+  void headingsFollowAChangeOfTheTheme();
+};
+
+void LookSuite::theProgramCarriesItsFont() {
+  QFont bold = app::programFont();
+  bold.setBold(true);
+  QCOMPARE(QFontInfo(app::programFont()).family(), "Liberation Sans");
+  QVERIFY(QFontInfo(bold).bold() && QFontInfo(bold).exactMatch());
+  QVERIFY(QFile::exists(":/odmiennik/LiberationSans-Bold.ttf"));
+}
+
+void LookSuite::theProgramSpeaksPolish() {
+  QCOMPARE(QLocale().language(), QLocale::Polish);
+  QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Anuluj");
+}
+
+void LookSuite::headingsAreReadableOnLightAndDark_data() {
+  QTest::addColumn<QPalette>("palette");
+  QTest::newRow("light") << QPalette(QColor(0xEF, 0xEF, 0xEF), QColor(0xEF, 0xEF, 0xEF));
+  QTest::newRow("white") << QPalette(Qt::white, Qt::white);
+  QTest::newRow("dark") << darkPalette();
+  QTest::newRow("black") << QPalette(Qt::black, Qt::black);
+}
+
+void LookSuite::headingsAreReadableOnLightAndDark() {
+  QFETCH(QPalette, palette);
+  const app::HeadingColours colours = app::designColours(palette);
+  for (const QColor& ground : {palette.color(QPalette::Window), app::panelColour(palette)})
+    for (const QColor& text : {colours.mood, colours.tense})
+      QVERIFY2(contrast(text, ground) >= kReadableContrast,
+               qPrintable(text.name() + " on " + ground.name()));
+}
+
+void LookSuite::headingsFollowAChangeOfTheTheme() {
+  const QPalette light = QApplication::palette();
+  ProgramUnderTest program;
+  const auto colourOfMood = [&program] {
+    return program.widget<QLabel>("lblTryb_0").palette().color(QPalette::WindowText);
+  };
+  const QColor before = colourOfMood();
+  QApplication::setPalette(darkPalette());
+  QTRY_COMPARE(colourOfMood(), app::designColours(darkPalette()).mood);
+  QVERIFY(colourOfMood() != before);
+  QApplication::setPalette(light);
+  QTRY_COMPARE(colourOfMood(), before);
+}
+
+std::unique_ptr<QObject> lookSuite() { return std::make_unique<LookSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "look_test.moc"

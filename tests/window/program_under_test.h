@@ -1,0 +1,99 @@
+// The whole program but for its main function, with message boxes answered in the user's stead.
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/form_box.h"
+#include "app/main_menu.h"
+#include "app/main_window.h"
+#include "app/window_shell.h"
+#include "dictionary/builtin_verbs.h"
+#include "dictionary/verb_index.h"
+#include "groups/rules.h"
+
+namespace odmiennik::window_test {
+
+// Remembers the messages asked for and answers them; `whileShown` runs before the answer, as the
+// user's doings do while a box is open.
+class AnsweredMessages final : public dictionary::MessageBoxes {
+ public:
+  dictionary::Button show(dictionary::MessageId id, std::string_view /*argument*/) override {
+    shown.push_back(id);
+    if (whileShown) whileShown();
+    return answer;
+  }
+
+  std::vector<dictionary::MessageId> shown;
+  dictionary::Button answer = dictionary::Button::ok;
+  std::function<void()> whileShown;
+};
+
+class NoUserVerbs final : public engine::UserVerbs {
+ public:
+  [[nodiscard]] bool load(std::string_view, engine::FormTable&, std::uint8_t&) override {
+    return false;
+  }
+};
+
+struct ProgramUnderTest {
+  AnsweredMessages messages;
+  int resets = 0;
+  app::WindowShell shell{messages, [this] { ++resets; }};
+  dictionary::GeneralVerbIndex index;
+  NoUserVerbs userVerbs;
+  dictionary::BuiltinVerbTable builtinVerbs;
+  groups::VerbGroups rules;
+  engine::Driver driver{{index, userVerbs, builtinVerbs, rules, shell}};
+  app::MainWindow window{driver};
+
+  ProgramUnderTest() {
+    window.show();
+    if (!QTest::qWaitForWindowActive(&window)) qFatal("the window does not become active");
+  }
+
+  // A widget by its object name; asking for one that does not exist ends the test.
+  template <typename Widget>
+  [[nodiscard]] Widget& widget(const QString& name) const {
+    auto* found = window.findChild<Widget*>(name);
+    if (found == nullptr) qFatal("no control %s", qPrintable(name));
+    return *found;
+  }
+
+  [[nodiscard]] app::FormBox& box(int slot) const {
+    return widget<app::FormBox>(QStringLiteral("txtCzasownik_%1").arg(slot));
+  }
+  [[nodiscard]] app::FormBox& entry() const { return box(engine::slot::kInfinitive); }
+  [[nodiscard]] QString form(int slot) const { return box(slot).text(); }
+
+  [[nodiscard]] QString label(const char* name) const {
+    return widget<QLabel>(QString::fromUtf8(name)).text();
+  }
+  [[nodiscard]] QCheckBox& auxiliary() const { return widget<QCheckBox>("chkZAvoir"); }
+
+  // The item, which must be there and enabled to be chosen.
+  [[nodiscard]] QAction& item(const char* name) const {
+    return app::menuItem(*window.menuBar(), name);
+  }
+
+  // Types as a keyboard does, letters beyond ASCII included, over what is selected.
+  void type(const QString& text) const {
+    for (const QChar letter : text)
+      QTest::sendKeyEvent(QTest::Click, &entry(), Qt::Key_unknown, QString(letter), Qt::NoModifier);
+  }
+
+  // Types an infinitive in the place of the entry box's text and presses Enter.
+  void conjugate(const QString& infinitive) const {
+    entry().selectAll();
+    type(infinitive);
+    QTest::keyClick(&entry(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+  }
+};
+
+}  // namespace odmiennik::window_test
