@@ -1,0 +1,75 @@
+// Werbolin.chm as it was built: every page is in it, whole, under the name by which it is asked
+// for.
+#include <gtest/gtest.h>
+
+#include "tests/help/compiled/help_file.h"
+#include "tools/build_help/ascii_page.h"
+#include "tools/build_help/contents.h"
+#include "tools/build_help/files.h"
+#include "tools/build_help/project_files.h"
+
+namespace odmiennik::help {
+namespace {
+
+const std::filesystem::path kSources = std::filesystem::path(ODMIENNIK_SOURCE_DIR) / "help";
+
+std::string pageSource(const std::string& name) {
+  return tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end()));
+}
+
+// The number at a place of a binary table, least significant byte first.
+std::uint32_t numberAt(const std::string& bytes, std::size_t place) {
+  std::uint32_t number = 0;
+  for (std::size_t i = 4; i-- > 0;)
+    number = number << 8 | static_cast<unsigned char>(bytes.at(place + i));
+  return number;
+}
+
+// The page that a help context number leads to: the table "#IVB" holds its own length and then
+// pairs of a context and a place in "#STRINGS".
+std::string pageOfContext(const HelpFile& file, std::uint32_t context) {
+  const std::string table = file.content("/#IVB").value_or("");
+  const std::string strings = file.content("/#STRINGS").value_or("");
+  for (std::size_t at = 4; at + 8 <= table.size(); at += 8)
+    if (numberAt(table, at) == context) return strings.c_str() + numberAt(table, at + 4);
+  return {};
+}
+
+TEST(compiled_help, holds_every_page_as_it_was_written) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  const std::vector<std::string> names = tools::pageNames(kSources / "strony");
+  ASSERT_GE(names.size(), 18U);
+  for (const std::string& name : names)
+    EXPECT_EQ(file.content("/strony/" + name), tools::asciiPage(pageSource(name))) << name;
+}
+
+TEST(compiled_help, holds_the_style_sheet) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  EXPECT_EQ(file.content("/styl.css"), tools::readFile(kSources / "styl.css"));
+}
+
+TEST(compiled_help, holds_the_table_of_contents_and_the_index) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  const tools::HelpContents contents = tools::readHelpContents(kSources.string());
+  EXPECT_EQ(file.content("/Werbolin.hhc"), tools::contentsFile(contents.contents));
+  EXPECT_EQ(file.content("/Werbolin.hhk"), tools::indexFile(contents.index));
+}
+
+TEST(compiled_help, starts_on_the_welcome_page) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  const std::string system = file.content("/#SYSTEM").value_or("");
+  EXPECT_NE(system.find("strony\\default.htm"), std::string::npos);
+}
+
+TEST(compiled_help, context_2_is_the_page_about_conjugating_a_verb) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  EXPECT_TRUE(pageOfContext(file, 2).ends_with("strony/JakOdmienic.htm"));
+}
+
+TEST(compiled_help, a_page_that_was_never_written_is_not_found) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  EXPECT_EQ(file.content("/strony/Brak.htm"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace odmiennik::help

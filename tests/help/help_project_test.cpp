@@ -1,0 +1,107 @@
+// The build of the help: encodings and the project's files.
+#include <gtest/gtest.h>
+
+#include "tools/build_help/ascii_page.h"
+#include "tools/build_help/contents.h"
+#include "tools/build_help/files.h"
+#include "tools/build_help/project_files.h"
+#include "tools/build_help/windows1250.h"
+#include "tools/compile_data/source_file.h"
+
+namespace odmiennik::tools {
+namespace {
+
+// A help folder with two pages and the given contents, removed again at the end of the test.
+class HelpFolder {
+ public:
+  explicit HelpFolder(std::string_view contents)
+      : path_(std::filesystem::path(::testing::TempDir()) / "odmiennik_help_folder") {
+    writeFile(path_ / "strony/default.htm", "<p>");
+    writeFile(path_ / "strony" / std::u8string(u8"Passé.htm"), "<p>");
+    writeFile(path_ / "spis.txt", contents);
+    writeFile(path_ / "indeks.txt", "hasło | default.htm\n");
+  }
+  HelpFolder(const HelpFolder&) = delete;
+  HelpFolder& operator=(const HelpFolder&) = delete;
+  ~HelpFolder() { std::filesystem::remove_all(path_); }
+
+  [[nodiscard]] std::string path() const { return path_.string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+TEST(ascii_page, letters_beyond_ascii_become_numeric_entities) {
+  EXPECT_EQ(asciiPage("é–ł"), "&#233;&#8211;&#322;");
+}
+
+TEST(ascii_page, the_link_to_the_style_sheet_gets_its_type) {
+  EXPECT_EQ(asciiPage("<link rel=\"stylesheet\" href=\"../styl.css\">"),
+            "<link rel=\"stylesheet\" type=\"text/css\" href=\"../styl.css\">");
+}
+
+TEST(ascii_page, a_page_in_another_encoding_is_refused) {
+  EXPECT_THROW(static_cast<void>(asciiPage("caf\xE9")), std::runtime_error);
+}
+
+TEST(windows1250, polish_letters_have_their_bytes) {
+  EXPECT_EQ(windows1250("zażółć gęślą jaźń"), "za\xBF\xF3\xB3\xE6 g\xEA\x9Cl\xB9 ja\x9F\xF1");
+}
+
+TEST(windows1250, a_letter_outside_is_refused) {
+  EXPECT_THROW(static_cast<void>(windows1250("û")), std::runtime_error);
+}
+
+TEST(windows1250, in_markup_a_letter_outside_becomes_an_entity) {
+  EXPECT_EQ(windows1250Markup("dû & \"ł\""), "d&#251; &amp; &quot;\xB3&quot;");
+}
+
+TEST(help_contents_reader, reads_level_title_and_page) {
+  const HelpFolder folder("1 | Początek | default.htm\n2 | Czas | Passé.htm\n");
+  const std::vector<ContentsEntry> entries = readHelpContents(folder.path()).contents;
+  ASSERT_EQ(entries.size(), 2U);
+  EXPECT_EQ(entries[1].level, 2);
+  EXPECT_EQ(entries[1].title, "Czas");
+  EXPECT_EQ(entries[1].page, "Passé.htm");
+}
+
+TEST(help_contents_reader, a_page_that_is_missing_is_refused) {
+  const HelpFolder folder("1 | Początek | Brak.htm\n");
+  EXPECT_THROW(static_cast<void>(readHelpContents(folder.path())), SourceError);
+}
+
+TEST(help_contents_reader, a_level_that_skips_one_is_refused) {
+  const HelpFolder folder("1 | Początek | default.htm\n3 | Czas | Passé.htm\n");
+  EXPECT_THROW(static_cast<void>(readHelpContents(folder.path())), SourceError);
+}
+
+TEST(help_contents_reader, a_line_without_a_title_is_refused) {
+  const HelpFolder folder("1 | | default.htm\n");
+  EXPECT_THROW(static_cast<void>(readHelpContents(folder.path())), SourceError);
+}
+
+TEST(project_files, the_project_names_every_page_the_default_topic_and_the_polish_language) {
+  const std::string project = projectFile({"default.htm", "Passé.htm"});
+  EXPECT_NE(project.find("\r\nDefault topic=strony\\default.htm\r\n"), std::string::npos);
+  EXPECT_NE(project.find("\r\nLanguage=0x415 Polish (Poland)\r\n"), std::string::npos);
+  EXPECT_NE(project.find("\r\nstrony\\Passé.htm\r\n"), std::string::npos);
+}
+
+TEST(project_files, deeper_entries_stand_in_a_list_of_their_own) {
+  const std::string text = contentsFile({{1, "A", "a.htm"}, {2, "B", "b.htm"}, {1, "C", "c.htm"}});
+  const auto placeOf = [&](const char* part) { return text.find(part); };
+  const auto inner = text.find("<UL>", placeOf("a.htm"));
+  const auto innerEnd = text.find("</UL>");
+  EXPECT_LT(placeOf("a.htm"), inner);
+  EXPECT_LT(inner, placeOf("b.htm"));
+  EXPECT_LT(placeOf("b.htm"), innerEnd);
+  EXPECT_LT(innerEnd, placeOf("c.htm"));
+}
+
+TEST(project_files, links_of_the_index_are_percent_encoded) {
+  EXPECT_NE(indexFile({{"czas", "Passé.htm"}}).find("\"strony/Pass%C3%A9.htm\""),
+            std::string::npos);
+}
+
+}  // namespace
+}  // namespace odmiennik::tools

@@ -1,0 +1,91 @@
+// Every link leads somewhere, and every page can be found.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "tests/help/help_page.h"
+#include "tools/build_help/contents.h"
+
+namespace odmiennik::help {
+namespace {
+
+const std::string kHelpFolder = std::string(ODMIENNIK_SOURCE_DIR) + "/help";
+
+std::set<std::string> allNames() {
+  std::set<std::string> names;
+  for (const HelpPage& page : allPages()) names.insert(page.name);
+  return names;
+}
+
+// The page that a link on `page` leads to; "#anchor" stays on the page.
+std::string targetPage(const HelpPage& page, const std::string& link) {
+  const std::string name = link.substr(0, link.find('#'));
+  return name.empty() ? page.name : name;
+}
+
+bool leadsSomewhere(const HelpPage& page, const std::string& link) {
+  const HelpPage* target = findPage(targetPage(page, link));
+  if (target == nullptr) return false;
+  const auto mark = link.find('#');
+  if (mark == std::string::npos) return true;
+  const std::vector<std::string> anchors = target->anchors();
+  return std::find(anchors.begin(), anchors.end(), link.substr(mark + 1)) != anchors.end();
+}
+
+std::set<std::string> reachableFrom(const std::string& start) {
+  std::set<std::string> reached{start};
+  std::vector<std::string> open{start};
+  while (!open.empty()) {
+    const HelpPage* page = findPage(open.back());
+    open.pop_back();
+    if (page == nullptr) continue;
+    for (const std::string& link : page->links())
+      if (reached.insert(targetPage(*page, link)).second) open.push_back(targetPage(*page, link));
+  }
+  return reached;
+}
+
+TEST(help_links, every_link_leads_to_a_page_and_an_anchor_of_the_help) {
+  for (const HelpPage& page : allPages())
+    for (const std::string& link : page.links())
+      EXPECT_TRUE(leadsSomewhere(page, link)) << page.name << " -> " << link;
+}
+
+TEST(help_links, links_are_written_in_ascii) {
+  for (const HelpPage& page : allPages())
+    for (auto at = page.markup.find("href=\""); at != std::string::npos;
+         at = page.markup.find("href=\"", at + 1)) {
+      const std::string link = page.markup.substr(at + 6, page.markup.find('"', at + 6) - at - 6);
+      EXPECT_TRUE(
+          std::all_of(link.begin(), link.end(), [](unsigned char letter) { return letter < 0x80; }))
+          << page.name << ": " << link;
+    }
+}
+
+TEST(help_links, every_page_is_reached_from_the_welcome_page) {
+  EXPECT_EQ(reachableFrom("default.htm"), allNames());
+}
+
+TEST(help_contents, every_page_stands_in_the_table_of_contents) {
+  std::set<std::string> listed;
+  for (const tools::ContentsEntry& entry : tools::readHelpContents(kHelpFolder).contents)
+    listed.insert(entry.page);
+  EXPECT_EQ(listed, allNames());
+}
+
+TEST(help_contents, every_page_but_the_welcome_stands_in_the_index) {
+  std::set<std::string> listed{"default.htm"};
+  for (const tools::IndexEntry& entry : tools::readHelpContents(kHelpFolder).index)
+    listed.insert(entry.page);
+  EXPECT_EQ(listed, allNames());
+}
+
+TEST(help_contents, no_keyword_of_the_index_stands_twice) {
+  std::set<std::string> keywords;
+  for (const tools::IndexEntry& entry : tools::readHelpContents(kHelpFolder).index)
+    EXPECT_TRUE(keywords.insert(entry.keyword).second) << entry.keyword;
+}
+
+}  // namespace
+}  // namespace odmiennik::help

@@ -1,0 +1,20 @@
+// Files of the help: names are UTF-8 on every system, a file that cannot be read or written throws.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace odmiennik::tools {
+
+// The whole file, byte for byte. Throws std::runtime_error that names the file.
+[[nodiscard]] std::string readFile(const std::filesystem::path& path);
+
+// Writes the whole file, its folder included. Throws std::runtime_error that names the file.
+void writeFile(const std::filesystem::path& path, std::string_view text);
+
+// The names of the pages (*.htm) in a folder, sorted.
+[[nodiscard]] std::vector<std::string> pageNames(const std::filesystem::path& folder);
+
+}  // namespace odmiennik::tools

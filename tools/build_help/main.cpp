@@ -1,0 +1,53 @@
+// build_help HELP OUTPUT: turns the folder of the help's sources into a project for a help
+// compiler.
+#include <cstdio>
+#include <exception>
+
+#include "tools/build_help/ascii_page.h"
+#include "tools/build_help/contents.h"
+#include "tools/build_help/files.h"
+#include "tools/build_help/project_files.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace odmiennik::tools;
+
+void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::string>& pages) {
+  for (const std::string& page : pages) {
+    const fs::path name = fs::path(std::u8string(page.begin(), page.end()));
+    try {
+      writeFile(to / name, asciiPage(readFile(from / name)));
+    } catch (const std::exception& error) {
+      throw std::runtime_error(page + ": " + error.what());
+    }
+  }
+}
+
+// Pages of an earlier run may be gone by now: the folder of pages is made anew.
+void buildHelp(const fs::path& help, const fs::path& output) {
+  const HelpContents contents = readHelpContents(help.string());
+  const std::vector<std::string> pages = pageNames(help / "strony");
+  fs::remove_all(output / "strony");
+  copyPages(help / "strony", output / "strony", pages);
+  writeFile(output / "styl.css", readFile(help / "styl.css"));
+  writeFile(output / "Werbolin.hhp", projectFile(pages));
+  writeFile(output / "Werbolin.hhc", contentsFile(contents.contents));
+  writeFile(output / "Werbolin.hhk", indexFile(contents.index));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fputs("usage: build_help HELP PROJECT\n", stderr);
+    return 2;
+  }
+  try {
+    buildHelp(argv[1], argv[2]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+  return 0;
+}
