@@ -1,11 +1,11 @@
 // The program `odmiennik`: puts the parts together and starts.
 #include <QApplication>
 
-#include "app/look.h"
-#include "app/main_window.h"
-#include "app/program_settings.h"
-#include "app/qt_message_boxes.h"
-#include "app/window_shell.h"
+#include "app/common/look.h"
+#include "app/common/qt_message_boxes.h"
+#include "app/lifetime/program_settings.h"
+#include "app/main_window/main_window.h"
+#include "app/main_window/window_shell.h"
 #include "dictionary/app_folder.h"
 #include "dictionary/builtin_verbs.h"
 #include "dictionary/program_folder.h"

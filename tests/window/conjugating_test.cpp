@@ -1,5 +1,5 @@
 // From a typed infinitive to the filled window.
-#include "app/form_surface.h"
+#include "app/controls/form_surface.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 

@@ -2,9 +2,9 @@
 #include <QGroupBox>
 #include <QSet>
 
-#include "app/control_table.h"
-#include "app/placement.h"
-#include "app/text.h"
+#include "app/common/text.h"
+#include "app/controls/control_table.h"
+#include "app/controls/placement.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 

@@ -5,8 +5,8 @@
 #include <QLocale>
 #include <cmath>
 
-#include "app/colours.h"
-#include "app/look.h"
+#include "app/common/colours.h"
+#include "app/common/look.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 

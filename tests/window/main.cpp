@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "app/look.h"
+#include "app/common/look.h"
 #include "tests/window/suites.h"
 
 int main(int argumentCount, char** arguments) {

@@ -1,7 +1,7 @@
 // The menu tree.
 #include <QMenu>
 
-#include "app/platform.h"
+#include "app/platform/platform.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 

@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "app/qt_message_boxes.h"
+#include "app/common/qt_message_boxes.h"
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "app/form_box.h"
-#include "app/main_menu.h"
-#include "app/main_window.h"
-#include "app/window_shell.h"
+#include "app/controls/form_box.h"
+#include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+#include "app/main_window/window_shell.h"
 #include "dictionary/builtin_verbs.h"
 #include "dictionary/verb_index.h"
 #include "groups/rules.h"

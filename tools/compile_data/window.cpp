@@ -87,7 +87,7 @@ std::string rowOf(const SourceFile& file, const SourceLine& line, const Cells& c
 
 void generateWindow(const Paths& sources, std::ostream& out) {
   const SourceFile file = readSource(sources.at(0));
-  out << "#pragma once\n#include \"app/control_row.h\"\nnamespace odmiennik::app {\n"
+  out << "#pragma once\n#include \"app/controls/control_row.h\"\nnamespace odmiennik::app {\n"
       << "inline constexpr ControlRow kMainWindow[] = {\n";
   for (const SourceLine& line : file.lines) {
     Cells cells = split(line.text, '|');

@@ -1,12 +1,12 @@
 // Style, font and language.
-#include "app/look.h"
+#include "app/common/look.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QLocale>
 #include <QTranslator>
 
-#include "app/text.h"
+#include "app/common/text.h"
 #include "dictionary/messages.h"
 
 namespace odmiennik::app {

@@ -1,5 +1,5 @@
 // The colours of the window's design.
-#include "app/colours.h"
+#include "app/common/colours.h"
 
 namespace odmiennik::app {
 namespace {

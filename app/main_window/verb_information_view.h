@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-#include "app/controls.h"
+#include "app/controls/controls.h"
 #include "engine/verb_information.h"
 
 namespace odmiennik::app {

@@ -1,9 +1,9 @@
 // The settings file as the window uses it.
-#include "app/program_settings.h"
+#include "app/lifetime/program_settings.h"
 
 #include <QPalette>
 
-#include "app/colours.h"
+#include "app/common/colours.h"
 #include "app/logic/colour_number.h"
 #include "dictionary/file_names.h"
 #include "dictionary/file_replacement.h"

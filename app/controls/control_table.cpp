@@ -1,5 +1,5 @@
 // Proof of the main window's table while the program is compiled; no code comes of it.
-#include "app/control_table.h"
+#include "app/controls/control_table.h"
 
 #include "engine/slots.h"
 

@@ -1,12 +1,12 @@
 // A box of one form.
-#include "app/form_box.h"
+#include "app/controls/form_box.h"
 
 #include <QHelpEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolTip>
 
-#include "app/text.h"
+#include "app/common/text.h"
 
 namespace odmiennik::app {
 

@@ -1,10 +1,10 @@
 // Painting of the subject pronouns.
-#include "app/pronoun_painter.h"
+#include "app/controls/pronoun_painter.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include "app/text.h"
+#include "app/common/text.h"
 
 namespace odmiennik::app {
 

@@ -1,11 +1,11 @@
 // Building of the menu bar.
-#include "app/main_menu.h"
+#include "app/controls/main_menu.h"
 
 #include <QKeySequence>
 #include <QMenu>
 
-#include "app/menu_table.h"
-#include "app/text.h"
+#include "app/common/text.h"
+#include "app/controls/menu_table.h"
 
 namespace odmiennik::app {
 namespace {

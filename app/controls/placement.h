@@ -5,7 +5,7 @@
 #include <QRect>
 #include <QRectF>
 
-#include "app/control_row.h"
+#include "app/controls/control_row.h"
 
 namespace odmiennik::app {
 

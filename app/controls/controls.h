@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "app/control_table.h"
+#include "app/controls/control_table.h"
 
 namespace odmiennik::app {
 

@@ -1,7 +1,7 @@
 // The boxes of the conjugation.
-#include "app/form_boxes.h"
+#include "app/main_window/form_boxes.h"
 
-#include "app/text.h"
+#include "app/common/text.h"
 
 namespace odmiennik::app {
 

@@ -1,5 +1,5 @@
 // The main window, put together from its parts.
-#include "app/main_window.h"
+#include "app/main_window/main_window.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -8,11 +8,11 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
-#include "app/character_map.h"
-#include "app/form_surface.h"
-#include "app/main_menu.h"
-#include "app/placement.h"
-#include "app/text.h"
+#include "app/common/text.h"
+#include "app/controls/form_surface.h"
+#include "app/controls/main_menu.h"
+#include "app/controls/placement.h"
+#include "app/platform/character_map.h"
 
 namespace odmiennik::app {
 namespace {

@@ -3,7 +3,7 @@
 #include <QStandardPaths>
 #include <QString>
 
-#include "app/platform.h"
+#include "app/platform/platform.h"
 
 namespace odmiennik::app::platform {
 

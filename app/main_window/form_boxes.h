@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <array>
 
-#include "app/controls.h"
-#include "app/form_box.h"
+#include "app/controls/controls.h"
+#include "app/controls/form_box.h"
 #include "engine/display.h"
 
 namespace odmiennik::app {

@@ -1,5 +1,5 @@
 // The menu tree, and proof of it while it is compiled.
-#include "app/menu_table.h"
+#include "app/controls/menu_table.h"
 
 namespace odmiennik::app {
 namespace {

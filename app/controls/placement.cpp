@@ -1,7 +1,7 @@
 // Twips and points to pixels.
-#include "app/placement.h"
+#include "app/controls/placement.h"
 
-#include "app/look.h"
+#include "app/common/look.h"
 
 namespace odmiennik::app {
 namespace {

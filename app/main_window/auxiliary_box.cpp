@@ -1,7 +1,7 @@
 // The auxiliary's check box.
-#include "app/auxiliary_box.h"
+#include "app/main_window/auxiliary_box.h"
 
-#include "app/text.h"
+#include "app/common/text.h"
 #include "engine/driver.h"
 
 namespace odmiennik::app {

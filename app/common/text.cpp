@@ -1,5 +1,5 @@
 // Windows-1252 and Qt's strings.
-#include "app/text.h"
+#include "app/common/text.h"
 
 #include "engine/windows1252.h"
 

@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <vector>
 
-#include "app/colours.h"
-#include "app/pronoun_painter.h"
+#include "app/common/colours.h"
+#include "app/controls/pronoun_painter.h"
 
 namespace odmiennik::app {
 

@@ -1,9 +1,9 @@
 // Starting the character map.
-#include "app/character_map.h"
+#include "app/platform/character_map.h"
 
 #include <QAction>
 
-#include "app/platform.h"
+#include "app/platform/platform.h"
 
 namespace odmiennik::app {
 

@@ -3,10 +3,10 @@
 
 #include <QMainWindow>
 
-#include "app/auxiliary_box.h"
-#include "app/controls.h"
-#include "app/form_boxes.h"
-#include "app/verb_information_view.h"
+#include "app/controls/controls.h"
+#include "app/main_window/auxiliary_box.h"
+#include "app/main_window/form_boxes.h"
+#include "app/main_window/verb_information_view.h"
 #include "engine/driver.h"
 
 namespace odmiennik::app {

@@ -1,14 +1,14 @@
 // Building of the main window's widgets.
-#include "app/controls.h"
+#include "app/controls/controls.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/form_box.h"
-#include "app/placement.h"
-#include "app/text.h"
+#include "app/common/text.h"
+#include "app/controls/form_box.h"
+#include "app/controls/placement.h"
 
 namespace odmiennik::app {
 namespace {

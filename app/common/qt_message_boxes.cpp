@@ -1,12 +1,12 @@
 // Message boxes over QMessageBox.
-#include "app/qt_message_boxes.h"
+#include "app/common/qt_message_boxes.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "app/text.h"
+#include "app/common/text.h"
 
 namespace odmiennik::app {
 namespace {

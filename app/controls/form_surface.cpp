@@ -1,11 +1,11 @@
 // The ground of the main window.
-#include "app/form_surface.h"
+#include "app/controls/form_surface.h"
 
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "app/control_table.h"
-#include "app/placement.h"
+#include "app/controls/control_table.h"
+#include "app/controls/placement.h"
 
 namespace odmiennik::app {
 namespace {

@@ -1,7 +1,7 @@
 // The labels of the verb's information.
-#include "app/verb_information_view.h"
+#include "app/main_window/verb_information_view.h"
 
-#include "app/text.h"
+#include "app/common/text.h"
 
 namespace odmiennik::app {
 namespace {
