@@ -1,26 +1,30 @@
 // The program `odmiennik`: puts the parts together and starts.
 #include <QApplication>
+#include <filesystem>
+#include <system_error>
 
 #include "app/common/look.h"
 #include "app/common/qt_message_boxes.h"
-#include "app/lifetime/program_settings.h"
-#include "app/main_window/main_window.h"
-#include "app/main_window/window_shell.h"
-#include "dictionary/app_folder.h"
-#include "dictionary/builtin_verbs.h"
+#include "app/program.h"
+#include "dictionary/file_names.h"
 #include "dictionary/program_folder.h"
-#include "dictionary/user_verbs.h"
-#include "dictionary/verb_index.h"
-#include "groups/rules.h"
 
 namespace {
 
 using namespace odmiennik;
 
+// The program's own folder; an installed program's is the user's, who may not have one yet.
+std::string ownFolder() {
+  const std::string folder = dictionary::programFolder();
+  std::error_code ignored;  // the settings tell when they cannot be written
+  std::filesystem::create_directories(dictionary::pathOf(folder), ignored);
+  return folder;
+}
+
 // The folder named with --folder, else the program's own.
 std::string folderOf(const QStringList& arguments) {
   const qsizetype option = arguments.indexOf(QLatin1String("--folder"));
-  if (option < 0 || option + 1 >= arguments.size()) return dictionary::programFolder();
+  if (option < 0 || option + 1 >= arguments.size()) return ownFolder();
   const std::string named = arguments.at(option + 1).toStdString();
   return std::string(dictionary::withoutTrailingSeparators(named));
 }
@@ -30,21 +34,13 @@ std::string folderOf(const QStringList& arguments) {
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   app::prepare(application);
-  const std::string prefix = dictionary::AppFolder(folderOf(QApplication::arguments()));
-
   app::QtMessageBoxes messages;
-  dictionary::UserVerbsFile userVerbs(prefix, app::storedUserVerbCount(prefix), messages);
-  userVerbs.recoverAfterCrash();
-  app::WindowShell shell(messages, [&prefix] {
-    app::writeDefaultSettings(prefix);
-    QApplication::exit();
-  });
-  dictionary::GeneralVerbIndex index;
-  const dictionary::BuiltinVerbTable builtinVerbs;
-  const groups::VerbGroups rules;
-  engine::Driver driver({index, userVerbs, builtinVerbs, rules, shell});
-
-  app::MainWindow window(driver);
-  window.show();
+  app::UserStore store;
+  app::Program program({.folder = folderOf(QApplication::arguments()),
+                        .messages = messages,
+                        .store = store,
+                        .end = [] { QApplication::exit(); }});
+  QMetaObject::invokeMethod(
+      &application, [&program] { program.start(); }, Qt::QueuedConnection);
   return QApplication::exec();
 }

@@ -1,13 +1,10 @@
 // The colours of the window's design.
 #include "app/common/colours.h"
 
+#include "app/logic/colour_number.h"
+
 namespace odmiennik::app {
 namespace {
-
-constexpr QRgb kMoodOnLight = 0xFF8C1D40;   // wine
-constexpr QRgb kTenseOnLight = 0xFF1D4F91;  // ink
-constexpr QRgb kMoodOnDark = 0xFFFF9DB4;
-constexpr QRgb kTenseOnDark = 0xFF9CC5FF;
 
 QColor mixed(const QColor& first, const QColor& second, float share) {
   const auto part = [share](float a, float b) { return a + (b - a) * share; };
@@ -16,6 +13,16 @@ QColor mixed(const QColor& first, const QColor& second, float share) {
 }
 
 }  // namespace
+
+std::int32_t numberOf(const QColor& colour) {
+  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+  return colourNumber({part(colour.red()), part(colour.green()), part(colour.blue())});
+}
+
+QColor colourOfNumber(std::int32_t number, const QColor& themeText) {
+  const auto colour = colourOf(number);
+  return colour ? QColor(colour->red, colour->green, colour->blue) : themeText;
+}
 
 bool isDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() <

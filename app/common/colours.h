@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <cstdint>
 
 namespace odmiennik::app {
 
@@ -11,6 +12,18 @@ struct HeadingColours {
   QColor mood;
   QColor tense;
 };
+
+// The design's own, for light and for dark grounds.
+inline constexpr QRgb kMoodOnLight = 0xFF8C1D40;   // wine
+inline constexpr QRgb kTenseOnLight = 0xFF1D4F91;  // ink
+inline constexpr QRgb kMoodOnDark = 0xFFFF9DB4;
+inline constexpr QRgb kTenseOnDark = 0xFF9CC5FF;
+
+// A colour as the number of the settings file: numberOf(Qt::red) -> 255.
+[[nodiscard]] std::int32_t numberOf(const QColor& colour);
+
+// The colour of a number of the settings file; `themeText` for a system colour of old files.
+[[nodiscard]] QColor colourOfNumber(std::int32_t number, const QColor& themeText);
 
 // Whether texts of the palette stand on a dark ground.
 [[nodiscard]] bool isDark(const QPalette& palette);

@@ -62,7 +62,10 @@ bool hasFontOfTheWindow(const ControlRow& row) {
 void furnish(QWidget& widget, const ControlRow& row) {
   widget.setObjectName(objectName(row));
   widget.setGeometry(place(row));
-  if (!hasFontOfTheWindow(row)) widget.setFont(fontOf(row));
+  if (row.kind == ControlKind::textBox)
+    static_cast<FormBox&>(widget).setFormFont(fontOf(row));
+  else if (!hasFontOfTheWindow(row))
+    widget.setFont(fontOf(row));
   if (!row.accessibleName.empty()) widget.setAccessibleName(fromUtf8(row.accessibleName));
   if (row.state == ControlState::disabled) widget.setEnabled(false);
   if (row.state == ControlState::hidden) widget.hide();

@@ -7,7 +7,7 @@
 namespace odmiennik::app {
 
 // Lets through the letters of Windows-1252 only: "łabcé" becomes "abcé", typed or pasted. Nothing
-// that could not be saved is ever entered.
+// that could not be saved is ever entered, and no line break or tab either.
 class FrenchLetters final : public QValidator {
  public:
   using QValidator::QValidator;
@@ -15,21 +15,45 @@ class FrenchLetters final : public QValidator {
 };
 
 // A line edit that shows the beginning of its form, and the whole of it as a tooltip when it does
-// not fit.
+// not fit in letters of their natural width. While it is read-only its text is what showForm() gave
+// it: a program that writes into it nevertheless, as tools for the disabled can, finds it restored.
+// What is selected stays selected while a menu is open.
 class FormBox final : public QLineEdit {
   Q_OBJECT
 
  public:
-  using QLineEdit::QLineEdit;
+  explicit FormBox(QWidget* parent);
 
   // Sets the text from its first letter on; a text that is there already costs nothing.
   void showForm(const QString& form);
 
+  // The font of the box. A form that is too long for it is shown in narrower letters as long as
+  // these are readable; a text that is being typed never is.
+  void setFormFont(const QFont& font);
+
   // Whether some of the text lies outside the box.
   [[nodiscard]] bool isClipped() const;
 
+ signals:
+  // A dead key or an input method has put `text` into the box.
+  void committed(const QString& text);
+  // The box has been made read-only, or can be typed into again.
+  void lockChanged();
+
  protected:
   bool event(QEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  [[nodiscard]] int room() const;
+  void fitLetters();
+  void keepText(const QString& text);
+
+  QString kept_;  // the text, for as long as the box is read-only
+  bool isShowing_ = false;
+  QFont formFont_;
 };
 
 }  // namespace odmiennik::app

@@ -27,6 +27,14 @@ void FormSurface::setMoodColour(const QColor& colour) {
   update();
 }
 
+void FormSurface::setPlace(std::size_t row, const QRectF& place) {
+  for (Decoration& decoration : decorations_)
+    if (decoration.row == row) decoration.place = place;
+  update();
+}
+
+QSize FormSurface::sizeHint() const { return place(kMainWindow[0]).size(); }
+
 void FormSurface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   // The thinnest line still marks one pixel.

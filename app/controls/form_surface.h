@@ -21,6 +21,12 @@ class FormSurface final : public QWidget {
   [[nodiscard]] PronounPainter& pronouns() { return pronouns_; }
   void setMoodColour(const QColor& colour);
 
+  // Puts the panel, shape or line of a row where the layout has it.
+  void setPlace(std::size_t row, const QRectF& place);
+
+  // The size that the window was designed for.
+  [[nodiscard]] QSize sizeHint() const override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

@@ -1,7 +1,10 @@
 // The boxes of the conjugation.
 #include "app/main_window/form_boxes.h"
 
+#include <algorithm>
+
 #include "app/common/text.h"
+#include "app/logic/tense_topics.h"
 
 namespace odmiennik::app {
 
@@ -12,6 +15,28 @@ FormBoxes::FormBoxes(const Controls& controls) {
   controls.forEach("lblSubjoncif", [this](const ControlRow& row, QWidget& widget) {
     captions_[static_cast<std::size_t>(row.index)] = static_cast<QLabel*>(&widget);
   });
+  labelTenses(controls);
+}
+
+// A screen reader tells the heading of a tense with the tense's first box.
+void FormBoxes::labelTenses(const Controls& controls) const {
+  controls.forEach("lblCzas", [this](const ControlRow& row, QWidget& widget) {
+    const TenseHeading& heading = kTenseTopics[static_cast<std::size_t>(row.index)];
+    static_cast<QLabel&>(widget).setBuddy(&(*this)[heading.firstSlot]);
+  });
+  controls.get<QLabel>(positionOf("lblImiesłówZłożony"))
+      .setBuddy(&(*this)[engine::slot::kCompoundParticiple]);
+}
+
+int FormBoxes::slotOf(const QObject& box) const {
+  const auto found = std::ranges::find(boxes_, &box);
+  if (found == boxes_.end()) return engine::slot::kInfinitive;
+  return static_cast<int>(found - boxes_.begin());
+}
+
+void FormBoxes::setEditable(bool isEditable) const {
+  for (FormBox* box : boxes_)
+    if (box != &entry()) box->setReadOnly(!isEditable);
 }
 
 void FormBoxes::selectEntry() const {

@@ -22,6 +22,12 @@ class FormBoxes {
   // The box of the infinitive, where the user types.
   [[nodiscard]] FormBox& entry() const { return (*this)[engine::slot::kInfinitive]; }
 
+  // The slot whose box `box` is; the infinitive's for anything that is no box.
+  [[nodiscard]] int slotOf(const QObject& box) const;
+
+  // Boxes other than the infinitive's take texts while a verb is edited only.
+  void setEditable(bool isEditable) const;
+
   // Puts the word that the window starts with, or the text that is there, under the caret: the
   // entry box has the focus and typing replaces its text.
   void selectEntry() const;
@@ -30,6 +36,8 @@ class FormBoxes {
   void showCaptions(const engine::SubjunctiveCaptions& captions) const;
 
  private:
+  void labelTenses(const Controls& controls) const;
+
   std::array<FormBox*, engine::kSlotCount> boxes_{};
   std::array<QLabel*, 4> captions_{};
 };

@@ -4,8 +4,10 @@
 #include <QMainWindow>
 
 #include "app/controls/controls.h"
+#include "app/layout/window_scaling.h"
 #include "app/main_window/auxiliary_box.h"
 #include "app/main_window/form_boxes.h"
+#include "app/main_window/live_colours.h"
 #include "app/main_window/verb_information_view.h"
 #include "engine/driver.h"
 
@@ -21,25 +23,52 @@ class MainWindow final : public QMainWindow {
   explicit MainWindow(engine::Driver& driver);
   ~MainWindow() override;
 
-  // The Conjugate command: conjugates the entry box's text, shows it, and selects the text for the
-  // next verb. A second command while a message of the first is on the screen does nothing.
+  // Conjugates the entry box's text, shows it, and selects the text for the next verb; edit mode
+  // has been left. A second conjugation while a message of the first is on the screen does nothing.
   void conjugate();
 
- protected:
-  void changeEvent(QEvent* event) override;
+  // Fills the boxes with the conjugation of the entry box's text as the starting point of editing.
+  void conjugateForEditing();
+
+  // The infinitive that the shown conjugation belongs to, Windows-1252.
+  [[nodiscard]] std::string infinitive() const {
+    return conjugation_.forms[engine::slot::kInfinitive];
+  }
+
+  // The auxiliary that the user has set: 1 avoir, 0 être.
+  [[nodiscard]] std::uint8_t auxiliary() const { return conjugation_.flags.auxiliary; }
+
+  // Unlocks the boxes for editing, or locks them again.
+  void setEditing(bool isEditing);
+
+  // The window before the first verb: no forms, the pronouns of an empty table, nothing known.
+  void showEmptyTable();
+
+  // Puts the word that the window starts with into the entry box, selected.
+  void selectEntryWord();
+
+  [[nodiscard]] LiveColours& colours() { return colours_; }
+  [[nodiscard]] WindowScaling& scaling() { return scaling_; }
+  [[nodiscard]] const Controls& controls() const { return controls_; }
+  [[nodiscard]] const FormBoxes& boxes() const { return boxes_; }
+
+ signals:
+  // A verb has been conjugated, or refused; not the word that resets the settings.
+  void conjugated();
 
  private:
-  void startWithEmptyTable();
   void connectCommands();
   void toggleAuxiliary(bool isAvoir);
   void showConjugation();
-  void applyDesignColours();
 
   engine::Driver& driver_;
   engine::Conjugation conjugation_;
   bool isConjugating_ = false;
+  bool isEditing_ = false;
   FormSurface& surface_;
   Controls controls_;
+  LiveColours colours_;
+  WindowScaling scaling_;
   FormBoxes boxes_;
   VerbInformationView information_;
   AuxiliaryBox auxiliary_;

@@ -10,16 +10,13 @@ namespace odmiennik::app {
 
 class WindowShell final : public engine::Shell {
  public:
-  // `reset` restores the settings and ends the program; it runs once the user has agreed.
+  // `reset` is the whole reset of the settings, the question before it included.
   WindowShell(dictionary::MessageBoxes& messages, std::function<void()> reset)
       : messages_(messages), reset_(std::move(reset)) {}
 
   void show(engine::Notice notice) override { messages_.show(dictionary::messageOf(notice)); }
 
-  void resetSettings() override {
-    using dictionary::Button;
-    if (messages_.show(dictionary::MessageId::settingsWillBeReset) == Button::ok) reset_();
-  }
+  void resetSettings() override { reset_(); }
 
  private:
   dictionary::MessageBoxes& messages_;

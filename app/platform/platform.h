@@ -1,14 +1,35 @@
 // What differs between systems, and nothing else: one source for Windows, one for other desktops.
+// Free of Qt, so that each source is compiled with its system's own headers alone.
 #pragma once
 
+#include <cstdint>
 #include <string>
+
+#include "app/logic/always_on_top.h"
 
 namespace odmiennik::app::platform {
 
 // The program that shows all letters of a font, ready to be started; empty when there is none.
 [[nodiscard]] std::string characterMap();
 
-// Starts a program and returns at once; false when it could not be started.
+// The program that shows what the computer consists of; empty when there is none.
+[[nodiscard]] std::string systemInformation();
+
+// Starts a program, its window normal and focused, and returns at once; false when it could not be
+// started.
 bool start(const std::string& program);
+
+// Lays a window over the whole screen, above all others or no longer, without activating it.
+// `handle` is the system's name of the window: QWidget::winId().
+void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen);
+
+// Moves the user's pointer to a place in the desktop's own pixels, whatever the windows are scaled
+// by; false where a program may not do that.
+bool movePointer(int x, int y);
+
+// The Windows virtual-key code that a key has by its place, whatever letter it types: of every key
+// on Windows, of the digit row elsewhere; 0 for any other. Scan code and key as the system reports
+// them: virtualKey(11, 0) -> 50, the key of "2".
+int virtualKey(std::uint32_t scanCode, std::uint32_t nativeKey);
 
 }  // namespace odmiennik::app::platform

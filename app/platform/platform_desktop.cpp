@@ -1,22 +1,83 @@
 // The seam on desktops other than Windows.
+#include <QCursor>
+#include <QGuiApplication>
 #include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QString>
+#include <QWindow>
+#include <initializer_list>
 
 #include "app/platform/platform.h"
 
 namespace odmiennik::app::platform {
 
-std::string characterMap() {
-  for (const char* program : {"gucharmap", "gnome-characters", "kcharselect"}) {
+namespace {
+
+// The first of the programs that is on the path; empty when none is.
+std::string firstFound(std::initializer_list<const char*> programs) {
+  for (const char* program : programs) {
     const QString found = QStandardPaths::findExecutable(QLatin1String(program));
     if (!found.isEmpty()) return found.toStdString();
   }
   return {};
 }
 
+QWindow* windowOf(std::uintptr_t handle) {
+  for (QWindow* window : QGuiApplication::topLevelWindows())
+    if (window->handle() != nullptr && window->winId() == handle) return window;
+  return nullptr;
+}
+
+// A place of the desktop in the pixels that Qt reckons in: a screen's corner stays, what is in it
+// is scaled.
+QPoint scaledPlace(QPoint place) {
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QPoint corner = screen->geometry().topLeft();
+    const QRect pixels(corner, screen->size() * screen->devicePixelRatio());
+    if (pixels.contains(place)) return corner + (place - corner) / screen->devicePixelRatio();
+  }
+  return place;
+}
+
+}  // namespace
+
+std::string characterMap() { return firstFound({"gucharmap", "gnome-characters", "kcharselect"}); }
+
+std::string systemInformation() { return firstFound({"hardinfo2", "hardinfo", "kinfocenter"}); }
+
+// The flag of the living window is changed: a window made anew would leave the screen for a moment.
+void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen) {
+  QWindow* window = windowOf(handle);
+  if (window == nullptr) return;
+  window->setFlag(Qt::WindowStaysOnTopHint, isOnTop);
+  window->setWindowStates(Qt::WindowNoState);
+  const WindowPlace place = limitedPlaceOnTop(isOnTop, screen);
+  const double ratio = window->devicePixelRatio();
+  const auto scaled = [ratio](int pixels) { return qRound(pixels / ratio); };
+  const QMargins frame = window->frameMargins();
+  window->resize(QSize(scaled(place.width), scaled(place.height)).shrunkBy(frame));
+  window->setFramePosition(QPoint(scaled(place.x), scaled(place.y)));
+}
+
 bool start(const std::string& program) {
   return QProcess::startDetached(QString::fromStdString(program), {});
+}
+
+// A desktop that refuses says nothing: the pointer is where it was.
+bool movePointer(int x, int y) {
+  const QPoint place = scaledPlace({x, y});
+  const QPoint before = QCursor::pos();
+  QCursor::setPos(place);
+  return QCursor::pos() != before || place == before;
+}
+
+// X11 and Wayland number the keys by their place: "1" is 10, "0" is 19.
+int virtualKey(std::uint32_t scanCode, std::uint32_t /*nativeKey*/) {
+  constexpr std::uint32_t kKeyOf1 = 10;
+  constexpr std::uint32_t kKeyOf0 = 19;
+  if (scanCode < kKeyOf1 || scanCode > kKeyOf0) return 0;
+  return scanCode == kKeyOf0 ? '0' : '1' + static_cast<int>(scanCode - kKeyOf1);
 }
 
 }  // namespace odmiennik::app::platform

@@ -21,6 +21,18 @@ const std::map<std::string, Folders> kMayInclude{
     {"tools", {"engine", "groups", "tools"}},
 };
 
+// The floors of the window, the lowest first: a part includes parts of lower floors and itself.
+const std::vector<Folders> kFloorsOfTheWindow{
+    {"logic"},
+    {"platform", "common"},
+    {"controls"},
+    {"layout"},
+    {"main_window"},
+    {"about", "editing", "list", "printing", "tips", "view"},
+    {"demonstration", "help", "lifetime"},
+    {"typing"},
+};
+
 const Folders kProjectFolders{"engine", "groups", "dictionary", "cli",  "app",
                               "data",   "tools",  "tests",      "bench"};
 
@@ -40,12 +52,63 @@ std::vector<std::string> upwardIncludes() {
   return found;
 }
 
+// The folder of a file of the window, "app/list/list_window.h" -> "list"; empty for other files.
+std::string partOfTheWindow(const std::string& path) {
+  const std::string app = "app/";
+  const auto slash = path.find('/', app.size());
+  if (!path.starts_with(app) || slash == std::string::npos) return {};
+  return path.substr(app.size(), slash - app.size());
+}
+
+// Counted from 1; 0 for what is on no floor.
+std::size_t floorOf(const std::string& part) {
+  for (std::size_t floor = 0; floor < kFloorsOfTheWindow.size(); ++floor)
+    if (kFloorsOfTheWindow[floor].contains(part)) return floor + 1;
+  return 0;
+}
+
+// "file includes file", for every include inside the window that does not lead downward.
+std::vector<std::string> includesBetweenFloors() {
+  std::vector<std::string> found;
+  for (const Source& source : cppSources()) {
+    const std::string part = partOfTheWindow(source.path);
+    if (part.empty()) continue;
+    for (const std::string& line : linesOf(source.text)) {
+      const std::string target = partOfTheWindow(includedBy(line));
+      if (!target.empty() && target != part && floorOf(target) >= floorOf(part))
+        found.push_back(source.path + " includes " + includedBy(line));
+    }
+  }
+  return found;
+}
+
 bool isQtHeader(const std::string& header) {
   return header.size() > 1 && header[0] == 'Q' && std::isupper(header[1]) != 0;
 }
 
 TEST(layering, no_folder_includes_what_stands_above_it) {
   EXPECT_EQ(upwardIncludes(), std::vector<std::string>{});
+}
+
+TEST(layering, a_part_of_the_window_includes_only_parts_below_it) {
+  EXPECT_EQ(includesBetweenFloors(), std::vector<std::string>{});
+}
+
+TEST(layering, every_part_of_the_window_has_its_floor) {
+  for (const Source& source : cppSources()) {
+    const std::string part = partOfTheWindow(source.path);
+    EXPECT_TRUE(part.empty() || floorOf(part) > 0) << source.path;
+  }
+}
+
+TEST(layering, the_logic_of_the_window_and_its_windows_sources_know_no_qt) {
+  for (const Source& source : cppSources()) {
+    const bool isFreeOfQt = source.folder() == "app" && (partOfTheWindow(source.path) == "logic" ||
+                                                         source.path.ends_with("_windows.cpp"));
+    if (!isFreeOfQt) continue;
+    for (const std::string& line : linesOf(source.text))
+      EXPECT_FALSE(isQtHeader(includedBy(line))) << source.path << ": " << line;
+  }
 }
 
 TEST(layering, tools_take_only_the_shape_of_rows_from_the_groups) {

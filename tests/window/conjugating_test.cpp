@@ -194,13 +194,13 @@ void ConjugatingSuite::resetujAnsweredCancelChangesNothing() {
   program_->messages.answer = dictionary::Button::cancel;
   program_->conjugate("resetuj");
   QCOMPARE(program_->messages.shown, Messages{MessageId::settingsWillBeReset});
-  QCOMPARE(program_->resets, 0);
+  QCOMPARE(program_->ends, 0);
   QCOMPARE(program_->form(0), "parle");
 }
 
 void ConjugatingSuite::resetujAnsweredOkResets() {
   program_->conjugate("resetuj");
-  QCOMPARE(program_->resets, 1);
+  QCOMPARE(program_->ends, 1);
 }
 
 void ConjugatingSuite::aSecondCommandBehindAMessageDoesNothing() {

@@ -7,7 +7,6 @@
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
-
 class EntryBoxSuite : public QObject {
   Q_OBJECT
 
@@ -23,6 +22,7 @@ class EntryBoxSuite : public QObject {
   void aLockedBoxTakesNoLetters();
   void aLongFormShowsItsBeginning();
   void aLongFormHasATooltipAndAShortOneHasNone();
+  void aLineBreakIsNotPasted();
 
  private:
   std::unique_ptr<ProgramUnderTest> program_;
@@ -35,8 +35,8 @@ void EntryBoxSuite::theWindowStartsWithInfinitifSelected() {
 }
 
 void EntryBoxSuite::typingReplacesTheFirstWord() {
-  program_->type("êt");
-  QCOMPARE(program_->entry().text(), "êt");
+  program_->type("xé");
+  QCOMPARE(program_->entry().text(), "xé");
 }
 
 void EntryBoxSuite::foreignLettersAreNotEntered() {
@@ -86,6 +86,13 @@ void EntryBoxSuite::aLongFormHasATooltipAndAShortOneHasNone() {
   QTRY_COMPARE(QToolTip::text(), program_->form(69));
   pointAt(0);
   QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void EntryBoxSuite::aLineBreakIsNotPasted() {
+  QGuiApplication::clipboard()->setText("aller\r\n");
+  program_->entry().selectAll();
+  program_->entry().paste();
+  QCOMPARE(program_->entry().text(), "aller");
 }
 
 std::unique_ptr<QObject> entryBoxSuite() { return std::make_unique<EntryBoxSuite>(); }

@@ -11,8 +11,35 @@
 int main(int argumentCount, char** arguments) {
   using namespace odmiennik::window_test;
   const std::map<std::string, std::unique_ptr<QObject> (*)()> suites{
-      {"design", designSuite}, {"conjugating", conjugatingSuite}, {"entry_box", entryBoxSuite},
-      {"menu", menuSuite},     {"message_box", messageBoxSuite},  {"look", lookSuite}};
+      {"accessibility", accessibilitySuite},
+      {"rescaling", rescalingSuite},
+      {"small_screen", smallScreenSuite},
+      {"colours", coloursSuite},
+      {"always_on_top", alwaysOnTopSuite},
+      {"demonstration", demonstrationSuite},
+      {"design", designSuite},
+      {"conjugating", conjugatingSuite},
+      {"entry_box", entryBoxSuite},
+      {"entry_keys", entryKeysSuite},
+      {"editing", editingSuite},
+      {"saving", savingSuite},
+      {"letters", lettersSuite},
+      {"edit_menu", editMenuSuite},
+      {"menu", menuSuite},
+      {"message_box", messageBoxSuite},
+      {"look", lookSuite},
+      {"start_up", startUpSuite},
+      {"settings", settingsSuite},
+      {"closing", closingSuite},
+      {"tip", tipSuite},
+      {"list", listSuite},
+      {"list_commands", listCommandsSuite},
+      {"printing", printingSuite},
+      {"help", helpSuite},
+      {"hostile_help", hostileHelpSuite},
+      {"tense_headings", tenseHeadingsSuite},
+      {"about", aboutSuite},
+      {"print_queue", printQueueSuite}};
   if (argumentCount < 2 || !suites.contains(arguments[1])) {
     std::fputs("usage: window_test SUITE [options]\n", stderr);
     return 2;

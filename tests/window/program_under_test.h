@@ -6,16 +6,14 @@
 #include <QPushButton>
 #include <QTest>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "app/controls/form_box.h"
 #include "app/controls/main_menu.h"
-#include "app/main_window/main_window.h"
-#include "app/main_window/window_shell.h"
-#include "dictionary/builtin_verbs.h"
-#include "dictionary/verb_index.h"
-#include "groups/rules.h"
+#include "app/program.h"
+#include "tests/support/scratch_folder.h"
 
 namespace odmiennik::window_test {
 
@@ -26,34 +24,31 @@ class AnsweredMessages final : public dictionary::MessageBoxes {
   dictionary::Button show(dictionary::MessageId id, std::string_view /*argument*/) override {
     shown.push_back(id);
     if (whileShown) whileShown();
-    return answer;
+    const auto found = answers.find(id);
+    return found == answers.end() ? answer : found->second;
   }
 
   std::vector<dictionary::MessageId> shown;
-  dictionary::Button answer = dictionary::Button::ok;
+  dictionary::Button answer = dictionary::Button::ok;           // to every message
+  std::map<dictionary::MessageId, dictionary::Button> answers;  // to those that are named
   std::function<void()> whileShown;
 };
 
-class NoUserVerbs final : public engine::UserVerbs {
- public:
-  [[nodiscard]] bool load(std::string_view, engine::FormTable&, std::uint8_t&) override {
-    return false;
-  }
-};
-
+// A program that has started in an empty folder of its own, with the tip of the day switched off.
 struct ProgramUnderTest {
+  scratch::ScratchFolder folder;
   AnsweredMessages messages;
-  int resets = 0;
-  app::WindowShell shell{messages, [this] { ++resets; }};
-  dictionary::GeneralVerbIndex index;
-  NoUserVerbs userVerbs;
-  dictionary::BuiltinVerbTable builtinVerbs;
-  groups::VerbGroups rules;
-  engine::Driver driver{{index, userVerbs, builtinVerbs, rules, shell}};
-  app::MainWindow window{driver};
+  app::UserStore store{QString::fromStdString((folder.path() / "store.ini").string())};
+  int ends = 0;  // how often the program has been ended at once
+  app::Program program{
+      {.folder = folder.path().string(), .messages = messages, .store = store, .end = [this] {
+         ++ends;
+       }}};
+  app::MainWindow& window = program.window();
 
   ProgramUnderTest() {
-    window.show();
+    store.setTipShownAtStart(false);
+    program.start();
     if (!QTest::qWaitForWindowActive(&window)) qFatal("the window does not become active");
   }
 

@@ -6,11 +6,34 @@
 
 namespace odmiennik::window_test {
 
+[[nodiscard]] std::unique_ptr<QObject> accessibilitySuite();
+[[nodiscard]] std::unique_ptr<QObject> demonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
 [[nodiscard]] std::unique_ptr<QObject> conjugatingSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
+[[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
+[[nodiscard]] std::unique_ptr<QObject> editingSuite();
+[[nodiscard]] std::unique_ptr<QObject> savingSuite();
+[[nodiscard]] std::unique_ptr<QObject> lettersSuite();
+[[nodiscard]] std::unique_ptr<QObject> editMenuSuite();
 [[nodiscard]] std::unique_ptr<QObject> menuSuite();
 [[nodiscard]] std::unique_ptr<QObject> messageBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> lookSuite();
+[[nodiscard]] std::unique_ptr<QObject> startUpSuite();
+[[nodiscard]] std::unique_ptr<QObject> settingsSuite();
+[[nodiscard]] std::unique_ptr<QObject> closingSuite();
+[[nodiscard]] std::unique_ptr<QObject> tipSuite();
+[[nodiscard]] std::unique_ptr<QObject> rescalingSuite();
+[[nodiscard]] std::unique_ptr<QObject> smallScreenSuite();
+[[nodiscard]] std::unique_ptr<QObject> coloursSuite();
+[[nodiscard]] std::unique_ptr<QObject> alwaysOnTopSuite();
+[[nodiscard]] std::unique_ptr<QObject> listSuite();
+[[nodiscard]] std::unique_ptr<QObject> listCommandsSuite();
+[[nodiscard]] std::unique_ptr<QObject> printingSuite();
+[[nodiscard]] std::unique_ptr<QObject> printQueueSuite();
+[[nodiscard]] std::unique_ptr<QObject> helpSuite();
+[[nodiscard]] std::unique_ptr<QObject> hostileHelpSuite();
+[[nodiscard]] std::unique_ptr<QObject> tenseHeadingsSuite();
+[[nodiscard]] std::unique_ptr<QObject> aboutSuite();
 
 }  // namespace odmiennik::window_test

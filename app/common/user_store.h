@@ -1,0 +1,35 @@
+// The per-user settings store: what belongs to the user and not to the program's folder.
+#pragma once
+
+#include <QSettings>
+#include <QString>
+#include <string_view>
+
+namespace odmiennik::app {
+
+// Whole numbers in the section "Ustawienia". A value that was never written counts as 1; one that
+// is no number as 0. Every change is on its way to the disk before the call returns.
+class UserStore {
+ public:
+  // The store of the user who runs the program.
+  UserStore();
+
+  // A store in a file of its own: UserStore("/home/ala/test.ini").
+  explicit UserStore(const QString& file);
+
+  // "Pokazuj poradę dnia": whether the tip of the day is shown at start; only 1 asks for it.
+  [[nodiscard]] bool isTipShownAtStart() const;
+  void setTipShownAtStart(bool isShown);
+
+  // "Autouzupełnianie": whether the entry box completes what is typed.
+  [[nodiscard]] bool isCompletionOn() const;
+  void setCompletionOn(bool isOn);
+
+ private:
+  [[nodiscard]] bool isOne(std::string_view key) const;
+  void write(std::string_view key, bool value);
+
+  QSettings settings_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,67 @@
+// The main window as edit mode sees it.
+#include "app/editing/edited_window.h"
+
+#include "app/common/text.h"
+#include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+#include "app/main_window/window_pointer.h"
+#include "dictionary/saving.h"
+
+namespace odmiennik::app {
+
+EditedWindow::EditedWindow(MainWindow& window, WindowPointer& pointer,
+                           dictionary::UserVerbsFile& userVerbs)
+    : window_(window), pointer_(pointer), userVerbs_(userVerbs) {
+  item("mnuEdycjaEdytujCzasownik").setProperty(kTagProperty, QString());
+  item("mnuPlikZapiszCzasownik").setEnabled(false);
+}
+
+QAction& EditedWindow::item(std::string_view name) const {
+  return menuItem(*window_.menuBar(), name);
+}
+
+std::string EditedWindow::entryText() const { return toFrench(window_.boxes().entry().text()); }
+
+void EditedWindow::setEntryText(std::string_view text) {
+  window_.boxes().entry().showForm(fromFrench(text));
+}
+
+void EditedWindow::clearBoxes() {
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) window_.boxes()[slot].showForm(QString());
+}
+
+void EditedWindow::present(const dictionary::EditPresentation& presentation) {
+  window_.setEditing(presentation.isEditing);
+  QAction& edit = item("mnuEdycjaEdytujCzasownik");
+  edit.setProperty(kTagProperty, presentation.isEditing ? QStringLiteral("edit") : QString());
+  edit.setText(fromUtf8(presentation.menuCaption));
+  item("mnuPlikZapiszCzasownik").setEnabled(presentation.isEditing);
+  window_.setWindowTitle(fromUtf8(presentation.windowCaption));
+}
+
+void EditedWindow::showHourglass(bool isShown) {
+  isShown ? pointer_.showHourglass() : pointer_.showDefault();
+}
+
+std::string EditedWindow::conjugate() {
+  window_.conjugate();
+  return window_.infinitive();
+}
+
+std::string EditedWindow::conjugateForEditing() {
+  window_.conjugateForEditing();
+  return window_.infinitive();
+}
+
+bool EditedWindow::writeRecord() {
+  std::array<std::string, engine::kSlotCount> texts;
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    texts[static_cast<std::size_t>(slot)] = toFrench(window_.boxes()[slot].text());
+  showHourglass(true);
+  const dictionary::SaveResult result =
+      userVerbs_.save(dictionary::recordOfBoxes(texts, window_.auxiliary()));
+  showHourglass(false);
+  return result != dictionary::SaveResult::failed;
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,38 @@
+// The main window as edit mode sees it.
+#pragma once
+
+#include <QAction>
+
+#include "dictionary/edit_mode_runner.h"
+#include "dictionary/user_verbs.h"
+
+namespace odmiennik::app {
+
+class MainWindow;
+class WindowPointer;
+
+// Name of the property that holds the marker of edit mode: "edit", or nothing.
+inline constexpr char kTagProperty[] = "Tag";
+
+class EditedWindow final : public dictionary::EditWindow {
+ public:
+  EditedWindow(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs);
+
+  [[nodiscard]] std::string entryText() const override;
+  void setEntryText(std::string_view text) override;
+  void clearBoxes() override;
+  void present(const dictionary::EditPresentation& presentation) override;
+  void showHourglass(bool isShown) override;
+  std::string conjugate() override;
+  std::string conjugateForEditing() override;
+  [[nodiscard]] bool writeRecord() override;
+
+ private:
+  [[nodiscard]] QAction& item(std::string_view name) const;
+
+  MainWindow& window_;
+  WindowPointer& pointer_;
+  dictionary::UserVerbsFile& userVerbs_;
+};
+
+}  // namespace odmiennik::app

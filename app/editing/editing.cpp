@@ -1,0 +1,70 @@
+// The commands that edit and conjugate.
+#include "app/editing/editing.h"
+
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+#include "app/common/text.h"
+#include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+
+namespace odmiennik::app {
+
+using dictionary::EditCommand;
+
+Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs,
+                 dictionary::MessageBoxes& messages)
+    : window_(window),
+      edited_(window, pointer, userVerbs),
+      messages_(messages),
+      mode_(window.windowTitle().toStdString()) {
+  connectCommands();
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);
+}
+
+// Queued, since a command may open a message box: whoever gave it (a screen reader, the menu) is
+// answered before the box waits.
+void Editing::connectCommands() {
+  const auto runs = [this](std::string_view name, auto command) {
+    connect(&menuItem(*window_.menuBar(), name), &QAction::triggered, this, command,
+            Qt::QueuedConnection);
+  };
+  const auto conjugates = [this] { conjugate(); };
+  runs("mnuEdycjaOdmień", conjugates);
+  runs("mnuEdycjaEdytujCzasownik", [this] { edit(); });
+  runs("mnuEdycjaNowyCzasownik", [this] { newVerb(); });
+  runs("mnuPlikZapiszCzasownik", [this] { save(); });
+  connect(&window_.boxes().entry(), &QLineEdit::returnPressed, this, conjugates,
+          Qt::QueuedConnection);
+  connect(&window_.controls().get<QPushButton>(positionOf("cmdOdmień")), &QPushButton::clicked,
+          this, conjugates, Qt::QueuedConnection);
+}
+
+// A second command while the first one's message is on the screen does nothing.
+bool Editing::run(EditCommand command) {
+  if (isRunning_) return false;
+  const QScopedValueRollback<bool> running(isRunning_, true);
+  return dictionary::runEditCommand(command, mode_, edited_, messages_);
+}
+
+bool Editing::conjugate(std::string_view infinitive) {
+  if (isRunning_) return false;
+  edited_.setEntryText(infinitive);
+  return conjugate();
+}
+
+bool Editing::newVerb() {
+  const bool isStarted = run(EditCommand::newVerb);
+  if (isStarted) window_.boxes().selectEntry();
+  return isStarted;
+}
+
+// The text is asked for in edit mode only: a conjugation changes a hundred boxes.
+void Editing::boxChanged() {
+  const std::string infinitive = mode_.isEditing() ? edited_.entryText() : std::string();
+  if (mode_.boxChanged(infinitive))
+    window_.setWindowTitle(fromUtf8(mode_.presentation().windowCaption));
+}
+
+}  // namespace odmiennik::app

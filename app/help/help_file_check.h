@@ -1,0 +1,18 @@
+// Whether a compiled help file is built soundly enough to be read with libchm.
+#pragma once
+
+#include <string_view>
+
+namespace odmiennik::app {
+
+// libchm follows the directory of a file as it stands there: without this check a page that names
+// itself as its successor is followed for ever, and a number without an end is read beyond the
+// page. Refused are directories outside the file, entries that leave their page, and circles.
+// `bytes` is the whole file.
+[[nodiscard]] bool hasSoundDirectory(std::string_view bytes);
+
+// Whether the compressed part can be unpacked: the two records that describe it agree with the
+// buffers that libchm keeps for it.
+[[nodiscard]] bool canBeUnpacked(std::string_view controlData, std::string_view resetTable);
+
+}  // namespace odmiennik::app

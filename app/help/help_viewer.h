@@ -1,0 +1,30 @@
+// The opener of the help: makes the viewer when it is first needed.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include "app/help/help_opener.h"
+#include "app/help/help_window.h"
+
+namespace odmiennik::app {
+
+// Named "Hhopen1" among the main window's objects.
+class HelpViewer final : public QObject, public HelpOpener {
+  Q_OBJECT
+
+ public:
+  // The viewer's window belongs to `parent`; the help file is looked for in `places`.
+  explicit HelpViewer(QWidget& parent, QStringList places = helpFilePlaces());
+  ~HelpViewer() override;
+
+  void open(std::string_view page) override;
+  void openContext(int context) override;
+
+ private:
+  QWidget& parent_;
+  HelpBook book_;
+  QPointer<HelpWindow> window_;
+};
+
+}  // namespace odmiennik::app

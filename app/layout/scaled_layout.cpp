@@ -1,0 +1,116 @@
+// From the layout's twips to widgets.
+#include "app/layout/scaled_layout.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <algorithm>
+
+#include "app/controls/form_box.h"
+#include "app/controls/form_surface.h"
+#include "app/controls/placement.h"
+
+namespace odmiennik::app {
+namespace {
+
+LayoutControl controlOf(const ControlRow& row) {
+  const auto twips = [](int value) { return static_cast<float>(value); };
+  LayoutControl control{.name = row.name,
+                        .tag = row.tag,
+                        .left = twips(row.left),
+                        .top = twips(row.top),
+                        .width = twips(row.width),
+                        .height = twips(row.height),
+                        .fontSize = twips(row.fontHundredths) / 100};
+  if (row.kind != ControlKind::line) return control;
+  control.x1 = control.left;
+  control.y1 = control.top;
+  control.x2 = control.left + control.width;
+  control.y2 = control.top + control.height;
+  return control;
+}
+
+TwipRect rectOf(const LayoutControl& control, ControlKind kind) {
+  if (kind == ControlKind::line)
+    return {control.x1, control.y1, control.x2 - control.x1, control.y2 - control.y1};
+  return {control.left, control.top, control.width, control.height};
+}
+
+bool isPainted(ControlKind kind) {
+  return kind == ControlKind::panel || kind == ControlKind::shape || kind == ControlKind::line;
+}
+
+// The size below which a widget would cut its text. Every rescale rounds boxes down, and what a
+// thousand of them take away must not be seen: a box keeps the height of its letters, and a control
+// without an edge of its own, or one that holds others, its designed proportion.
+QSize leastSize(const QWidget& widget, const ControlRow& row, QSizeF factors) {
+  constexpr int kEdges = 2;
+  if (row.kind == ControlKind::textBox || row.kind == ControlKind::button)
+    return {0, widget.fontMetrics().height() + kEdges};
+  return {static_cast<int>(row.width * factors.width() / kTwipsPerPixel),
+          static_cast<int>(row.height * factors.height() / kTwipsPerPixel)};
+}
+
+QSizeF factorsOf(const TwipSize& window) {
+  return {static_cast<double>(window.width) / kMainWindow[0].width,
+          static_cast<double>(window.height) / kMainWindow[0].height};
+}
+
+// A heading that is underlined, as the link under the pointer, stays so.
+void setFont(QWidget& widget, const ControlRow& row, QFont font) {
+  font.setUnderline(widget.font().underline());
+  if (row.kind == ControlKind::textBox)
+    static_cast<FormBox&>(widget).setFormFont(font);
+  else if (widget.font() != font)
+    widget.setFont(font);
+}
+
+// Small letters keep whole pixels between them and can need more room than in proportion; a label
+// that is too short for its text then narrows it step by step.
+void narrowToFit(QLabel& label) {
+  constexpr int kStep = 3, kLeast = 50;
+  QFont font = label.font();
+  int stretch = font.stretch() == QFont::AnyStretch ? 100 : font.stretch();
+  while (stretch > kLeast && label.sizeHint().width() > label.width()) {
+    font.setStretch(stretch -= kStep);
+    label.setFont(font);
+  }
+}
+
+}  // namespace
+
+Layout designedLayout() {
+  const ControlRow& window = kMainWindow[0];
+  Layout layout{.design = {window.width, window.height},
+                .windowFontSize = static_cast<float>(window.fontHundredths) / 100};
+  for (const ControlRow& row : mainWindowRows().subspan(1))
+    layout.controls.push_back(controlOf(row));
+  return layout;
+}
+
+ScaledLayout::ScaledLayout(const Controls& controls, FormSurface& surface)
+    : controls_(controls), surface_(surface), layout_(designedLayout()) {}
+
+void ScaledLayout::apply() {
+  surface_.setUpdatesEnabled(false);
+  const QSizeF factors = factorsOf(layout_.design);
+  surface_.setFont(fontOf(kMainWindow[0], layout_.windowFontSize, narrowness(factors)));
+  for (std::size_t i = 0; i < layout_.controls.size(); ++i) apply(layout_.controls[i], i + 1);
+  surface_.setUpdatesEnabled(true);
+}
+
+void ScaledLayout::apply(const LayoutControl& control, std::size_t position) {
+  const ControlRow& row = kMainWindow[position];
+  const TwipRect rect = rectOf(control, row.kind);
+  if (isPainted(row.kind)) return surface_.setPlace(position, exactPlace(rect));
+  const QSizeF factors = factorsOf(layout_.design);
+  auto& widget = controls_.get<QWidget>(position);
+  setFont(widget, row, fontOf(row, control.fontSize, narrowness(factors)));
+  QRect place = app::place(rect);
+  place.setSize(place.size().expandedTo(leastSize(widget, row, factors)));
+  widget.setGeometry(place);
+  if (row.kind == ControlKind::label) narrowToFit(static_cast<QLabel&>(widget));
+  if (row.kind == ControlKind::textBox && row.index < engine::kPersonalSlotCount)
+    surface_.pronouns().setBox(row.index, place);
+}
+
+}  // namespace odmiennik::app

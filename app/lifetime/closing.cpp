@@ -1,0 +1,92 @@
+// Closing the main window.
+#include "app/lifetime/closing.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <QSessionManager>
+#include <QWidget>
+#include <algorithm>
+
+#include "app/lifetime/settings_keeper.h"
+
+namespace odmiennik::app {
+
+using dictionary::Button;
+using dictionary::MessageId;
+
+Closing::Closing(QWidget& window, SettingsKeeper& settings, dictionary::MessageBoxes& messages,
+                 std::function<void()> end)
+    : window_(window), settings_(settings), messages_(messages), end_(std::move(end)) {
+  window_.installEventFilter(this);
+  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Closing::commit,
+          Qt::DirectConnection);
+}
+
+void Closing::closeWithoutQuestion() {
+  noExitQuestion_ = true;
+  window_.close();
+}
+
+void Closing::commit(QSessionManager& session) {
+  const bool mayAsk = session.allowsInteraction();
+  if (!prepareForSessionEnd(mayAsk)) session.cancel();
+  if (mayAsk) session.release();
+}
+
+bool Closing::prepareForSessionEnd(bool mayAsk) {
+  if (hasEnded_) return true;
+  const QScopedValueRollback<bool> asking(isAsking_, true);
+  if (mayAsk && !mayClose_()) return false;
+  settings_.SaveSettings();
+  isSessionEnding_ = true;
+  qGuiApp->installEventFilter(this);
+  return true;
+}
+
+// Another program kept the system from shutting down, and the user goes on working.
+void Closing::stayInSession() {
+  isSessionEnding_ = false;
+  qGuiApp->removeEventFilter(this);
+}
+
+bool Closing::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
+    if (isSessionEnding_) stayInSession();
+    return false;
+  }
+  if (watched != &window_ || event->type() != QEvent::Close || close()) return false;
+  event->ignore();
+  return true;
+}
+
+CloseReason Closing::reason() const {
+  return isSessionEnding_ ? CloseReason::systemShutdown : CloseReason::closeBox;
+}
+
+bool Closing::close() {
+  if (hasEnded_) return true;
+  if (isAsking_) return false;  // a second request behind the question of the first
+  const QScopedValueRollback<bool> asking(isAsking_, true);
+  return std::ranges::all_of(closingSteps(reason(), noExitQuestion_),
+                             [this](ClosingStep step) { return run(step); });
+}
+
+bool Closing::run(ClosingStep step) {
+  switch (step) {
+    case ClosingStep::askToExit:
+      return messages_.show(MessageId::endProgram) == Button::yes;
+    case ClosingStep::askToSaveVerb:
+      return isSessionEnding_ || mayClose_();  // an ending session has asked before
+    case ClosingStep::saveSettings:
+      settings_.SaveSettings();
+      return true;
+    case ClosingStep::end:
+      hasEnded_ = true;
+      end_();
+      return true;
+  }
+  return true;
+}
+
+}  // namespace odmiennik::app

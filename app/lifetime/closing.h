@@ -1,0 +1,60 @@
+// The end of the program: what is asked before, and what is saved.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+#include "app/logic/shutdown.h"
+#include "dictionary/messages.h"
+
+class QSessionManager;
+class QWidget;
+
+namespace odmiennik::app {
+
+class SettingsKeeper;
+
+// Answers the close requests of the main window, and the system's when it shuts down.
+class Closing final : public QObject {
+  Q_OBJECT
+
+ public:
+  // `end` ends the program at once; it runs when the window has been closed.
+  Closing(QWidget& window, SettingsKeeper& settings, dictionary::MessageBoxes& messages,
+          std::function<void()> end);
+
+  // The question about a verb that is being edited; false keeps the window, with all its texts.
+  void askWith(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
+
+  // Closes the window without the exit question: a start that is aborted.
+  void closeWithoutQuestion();
+
+  // The system is about to end the session: saves what there is to save, asking about an edited
+  // verb only where the system lets programs ask. False asks the system not to go on.
+  [[nodiscard]] bool prepareForSessionEnd(bool mayAsk);
+
+  // Whether the window has been closed for good.
+  [[nodiscard]] bool hasEnded() const { return hasEnded_; }
+
+  // The window's close event, and the user's doings after a session that did not end.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void commit(QSessionManager& session);
+  void stayInSession();
+  [[nodiscard]] CloseReason reason() const;
+  [[nodiscard]] bool close();
+  [[nodiscard]] bool run(ClosingStep step);
+
+  QWidget& window_;
+  SettingsKeeper& settings_;
+  dictionary::MessageBoxes& messages_;
+  std::function<void()> end_;
+  std::function<bool()> mayClose_ = [] { return true; };
+  bool noExitQuestion_ = false;
+  bool isSessionEnding_ = false;
+  bool isAsking_ = false;
+  bool hasEnded_ = false;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,17 @@
+// The two hidden buttons behind which the developers' tools stand.
+#pragma once
+
+#include <string>
+
+#include "dictionary/user_verbs.h"
+
+namespace odmiennik::app {
+
+class Controls;
+
+// Command1 builds the resource script of the user's verbs, Command3 joins the numbered texts, both
+// in the program's folder (`prefix`). The buttons stay hidden: no user ever meets them.
+void connectDeveloperButtons(const Controls& controls, const std::string& prefix,
+                             const dictionary::UserVerbsFile& userVerbs);
+
+}  // namespace odmiennik::app

@@ -1,0 +1,66 @@
+// The settings of the running program: read at start, written at the end.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "app/logic/colour_dialog.h"
+#include "dictionary/messages.h"
+#include "dictionary/settings.h"
+#include "dictionary/user_verbs.h"
+
+namespace odmiennik::app {
+
+// The colours of the headings, which the window keeps.
+struct HeadingColourPort {
+  std::function<ColourNumbers()> design;       // of the first headings as they were designed
+  std::function<ColourNumbers()> live;         // of the first headings as they stand
+  std::function<void(ColourNumbers)> applyTo;  // the headings and the rules
+};
+
+// Keeps Werbolin.cfg and the counters in it. Whatever happens to the file, the program works on:
+// each failure is told once, where it happens.
+class SettingsKeeper {
+ public:
+  // `end` ends the program at once, without asking and without saving.
+  struct Needs {
+    std::string prefix;  // of every file name
+    const dictionary::UserVerbsFile& userVerbs;
+    HeadingColourPort colours;
+    dictionary::MessageBoxes& messages;
+    std::function<void()> end;
+    dictionary::FileSystem& files = dictionary::systemFiles();
+  };
+  explicit SettingsKeeper(Needs needs) : needs_(std::move(needs)) {}
+
+  // Reads the file, which is created first when there is none, and applies its colours. Of a
+  // damaged file what stands before the damage is taken, and the colours stay as they are.
+  void ReadSettings();
+
+  // Writes the settings of a first start; changes nothing in the running program.
+  void WriteDefaultSettings();
+
+  // Writes the counters and the colours that the headings show.
+  void SaveSettings();
+
+  // The hidden command "resetuj": asks, and unless cancelled leaves the default settings behind and
+  // ends the program. The per-user store is not touched.
+  void ResetSettings();
+
+  // One verb more; one start more. A counter that is full stays there.
+  void countConjugation();
+  void countRun();
+
+  // The verbs conjugated since the first run, and the starts of the program.
+  [[nodiscard]] std::int32_t conjugationCount() const { return settings_.conjugationCount; }
+  [[nodiscard]] std::int32_t runCount() const { return settings_.runCount; }
+
+ private:
+  void write(const dictionary::Settings& settings);
+
+  Needs needs_;
+  dictionary::Settings settings_;
+};
+
+}  // namespace odmiennik::app

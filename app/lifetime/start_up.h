@@ -1,0 +1,62 @@
+// The start of the program, step by step.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/logic/start_up.h"
+#include "dictionary/messages.h"
+#include "dictionary/user_verbs.h"
+
+namespace odmiennik::app {
+
+class Closing;
+class MainWindow;
+class SettingsKeeper;
+class TipOfTheDay;
+class WindowPointer;
+
+// The layout of the window, as far as the start needs it.
+struct LayoutPort {
+  std::function<void()> takeDesignSize = [] {};
+  std::function<int()> screenTwips;  // the screen's width
+  // Fits the layout to the screen; false when the user does not go on in its resolution, which has
+  // ended the program.
+  std::function<bool()> rescale = [] { return true; };
+};
+
+class StartUp {
+ public:
+  struct Needs {
+    std::string folder;  // the program's, and the prefix of its files
+    std::string prefix;
+    MainWindow& window;
+    WindowPointer& pointer;
+    SettingsKeeper& settings;
+    dictionary::UserVerbsFile& userVerbs;
+    TipOfTheDay& tips;
+    Closing& closing;
+    dictionary::MessageBoxes& messages;
+    LayoutPort layout = {};
+  };
+  explicit StartUp(Needs needs) : needs_(std::move(needs)) {}
+
+  // Takes all steps in their order; stops at one that ends the program. To be called from the event
+  // loop, which is what the program is ended through.
+  void run();
+
+  // The help file, UTF-8; empty before the start. Nobody promises that it exists.
+  [[nodiscard]] const std::string& helpFile() const { return helpFile_; }
+
+ private:
+  [[nodiscard]] bool take(StartUpStep step);
+  void showVersionInCaption();
+  [[nodiscard]] bool rescaleForScreen();
+  void readSettings();
+  void checkFirstStart();
+
+  Needs needs_;
+  std::string helpFile_;
+};
+
+}  // namespace odmiennik::app

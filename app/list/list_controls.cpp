@@ -1,0 +1,140 @@
+// The look of the verb list.
+#include "app/list/list_controls.h"
+
+#include <QHBoxLayout>
+#include <QStackedLayout>
+
+#include "app/common/text.h"
+
+namespace odmiennik::app {
+namespace {
+
+constexpr int kBarHeight = 14;
+constexpr int kListHeight = 300;
+constexpr int kPlaceOfUsuń = 3;  // in the column of buttons, as designed
+const QColor kBlue(30, 90, 168);
+
+QString named(std::string_view caption) { return fromUtf8(caption); }
+
+template <typename Widget>
+Widget& create(QDialog& window, std::string_view name) {
+  auto* widget = new Widget(&window);
+  widget->setObjectName(fromUtf8(name));
+  return *widget;
+}
+
+template <typename Widget>
+Widget& createWithText(QDialog& window, std::string_view name, std::string_view caption) {
+  Widget& widget = create<Widget>(window, name);
+  widget.setText(named(caption));
+  return widget;
+}
+
+}  // namespace
+
+// Created in the order of the Tab key.
+ListControls::ListControls(QDialog& dialog)
+    : window(dialog),
+      cmbLista(create<QComboBox>(dialog, "cmbLista")),
+      lstCzasowniki(create<QListWidget>(dialog, "lstCzasowniki")),
+      lblIlość(createWithText<QLabel>(dialog, "lblIlość", "Ilość czasowników:")),
+      lblIlośćCzasowników(create<QLabel>(dialog, "lblIlośćCzasowników")),
+      lblWPrzygotowaniu(createWithText<QLabel>(dialog, "lblWPrzygotowaniu",
+                                               "Przygotowywanie listy czasowników...")),
+      shpStatusBar(create<QFrame>(dialog, "shpStatusBar")),
+      shpNiebieska(create<QWidget>(dialog, "shpNiebieska")),
+      cmdOdmień(createWithText<QPushButton>(dialog, "cmdOdmień", "&Odmień")),
+      cmdEdytuj(createWithText<QPushButton>(dialog, "cmdEdytuj", "&Edytuj")),
+      cmdNowy(createWithText<QPushButton>(dialog, "cmdNowy", "&Nowy")),
+      cmdUsuń(createWithText<QPushButton>(dialog, "cmdUsuń", "&Usuń")),
+      cmdDrukuj(createWithText<QPushButton>(dialog, "cmdDrukuj", "&Drukuj")),
+      cmdZamknij(createWithText<QPushButton>(dialog, "cmdZamknij", "&Zamknij")),
+      buttons_(*new QVBoxLayout),
+      places_(*new QStackedLayout) {
+  furnish();
+  layOut();
+}
+
+void ListControls::furnish() {
+  for (const std::string_view item : dictionary::kListChoices) cmbLista.addItem(fromUtf8(item));
+  lstCzasowniki.setAccessibleName(QStringLiteral("Czasowniki"));
+  lstCzasowniki.setMinimumHeight(kListHeight);
+  lstCzasowniki.setUniformItemSizes(true);  // a long list is laid out at once
+  cmdOdmień.setDefault(true);               // the Enter key in the list
+  shpStatusBar.setFrameShape(QFrame::Box);
+  shpStatusBar.setFixedHeight(kBarHeight);
+  shpNiebieska.setParent(&shpStatusBar);
+  shpNiebieska.setAutoFillBackground(true);
+  shpNiebieska.setPalette(QPalette(kBlue));
+}
+
+QWidget* ListControls::fillingPage() {
+  auto* page = new QWidget(&window);
+  auto* rows = new QVBoxLayout(page);
+  lblWPrzygotowaniu.setAlignment(Qt::AlignCenter);
+  rows->addStretch();
+  rows->addWidget(&lblWPrzygotowaniu);
+  rows->addWidget(&shpStatusBar);
+  rows->addStretch();
+  return page;
+}
+
+void ListControls::layOut() {
+  auto* choice = new QLabel(QStringLiteral("&Lista:"), &window);
+  choice->setBuddy(&cmbLista);
+  auto* count = new QHBoxLayout;
+  count->addWidget(&lblIlość);
+  count->addWidget(&lblIlośćCzasowników, 1);
+  places_.addWidget(&lstCzasowniki);
+  places_.addWidget(fillingPage());
+  auto* lists = new QVBoxLayout;
+  lists->addWidget(choice);
+  lists->addWidget(&cmbLista);
+  lists->addLayout(&places_, 1);
+  lists->addLayout(count);
+  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj})
+    buttons_.addWidget(button);
+  buttons_.addStretch();
+  buttons_.addWidget(&cmdZamknij);
+  auto* columns = new QHBoxLayout(&window);
+  columns->addLayout(lists, 1);
+  columns->addLayout(&buttons_);
+}
+
+// The place is that of the button's row; the hidden ones give theirs up.
+void ListControls::present(const dictionary::ListAppearance& appearance) {
+  window.setWindowTitle(fromUtf8(appearance.caption));
+  buttons_.removeWidget(&cmdUsuń);
+  buttons_.insertWidget(appearance.isDeleteMoved ? 0 : kPlaceOfUsuń, &cmdUsuń);
+  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdDrukuj})
+    button->setVisible(appearance.showsOtherButtons);
+  QWidget* previous = &lstCzasowniki;
+  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj}) {
+    QWidget::setTabOrder(previous, button);
+    previous = button;
+  }
+}
+
+void ListControls::enable(const dictionary::ListEnabling& enabled) {
+  lstCzasowniki.setEnabled(enabled.lstCzasowniki);
+  cmdOdmień.setEnabled(enabled.cmdOdmień);
+  cmdEdytuj.setEnabled(enabled.cmdEdytuj);
+  cmdUsuń.setEnabled(enabled.cmdUsuń);
+  cmdDrukuj.setEnabled(enabled.cmdDrukuj);
+}
+
+void ListControls::showFilling(bool isFilling) {
+  if (isFilling) growBar(0, 0);
+  places_.setCurrentIndex(isFilling ? 1 : 0);
+}
+
+void ListControls::growBar(int filled, int number) {
+  const QRect room = shpStatusBar.contentsRect();
+  const QRect bar(room.topLeft(),
+                  QSize(dictionary::barWidth(filled, number, room.width()), room.height()));
+  if (bar == shpNiebieska.geometry()) return;
+  shpNiebieska.setGeometry(bar);
+  shpNiebieska.repaint();
+}
+
+}  // namespace odmiennik::app

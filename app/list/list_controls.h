@@ -1,0 +1,59 @@
+// The controls of the verb list and their layout.
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QFrame>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "dictionary/verb_list.h"
+#include "dictionary/verb_list_commands.h"
+
+class QStackedLayout;
+
+namespace odmiennik::app {
+
+// Creates the controls as children of `window`, which owns them, and carries their states out.
+class ListControls {
+ public:
+  explicit ListControls(QDialog& window);
+
+  // Caption, hidden buttons and the place of cmdUsuń.
+  void present(const dictionary::ListAppearance& appearance);
+
+  void enable(const dictionary::ListEnabling& enabled);
+
+  // Puts the label and the empty bar in the place of the list, and back.
+  void showFilling(bool isFilling);
+
+  // Lets the bar grow to `filled` of `number` verbs; painted at once.
+  void growBar(int filled, int number);
+
+  QDialog& window;
+  QComboBox& cmbLista;
+  QListWidget& lstCzasowniki;
+  QLabel& lblIlość;
+  QLabel& lblIlośćCzasowników;
+  QLabel& lblWPrzygotowaniu;
+  QFrame& shpStatusBar;
+  QWidget& shpNiebieska;
+  QPushButton& cmdOdmień;
+  QPushButton& cmdEdytuj;
+  QPushButton& cmdNowy;
+  QPushButton& cmdUsuń;
+  QPushButton& cmdDrukuj;
+  QPushButton& cmdZamknij;
+
+ private:
+  void furnish();
+  void layOut();
+  [[nodiscard]] QWidget* fillingPage();
+
+  QVBoxLayout& buttons_;
+  QStackedLayout& places_;  // the list, and what stands in its place while it is filled
+};
+
+}  // namespace odmiennik::app

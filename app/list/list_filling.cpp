@@ -1,0 +1,36 @@
+// Filling the verb list.
+#include "app/list/list_filling.h"
+
+#include <QCoreApplication>
+
+#include "app/common/text.h"
+#include "dictionary/file_names.h"
+#include "dictionary/verb_index.h"
+
+namespace odmiennik::app {
+
+dictionary::UserVerbsFound findUserVerbs(const std::string& prefix,
+                                         dictionary::UserVerbsFile& userVerbs) {
+  const bool isPresent = dictionary::existingFile(prefix, "Czasowniki.dat").has_value();
+  return {isPresent, userVerbs.infinitives(), userVerbs.count()};
+}
+
+void fillLetter(char letter, dictionary::VerbList& list, ListControls& controls) {
+  controls.lstCzasowniki.clear();
+  list.beginLetter();
+  controls.enable(list.enabled());
+  const int number = dictionary::verbCount(letter);
+  controls.showFilling(true);
+  // Once, so that the label can be read before the loop begins.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  for (int k = 1; k <= number; ++k) {
+    const std::string_view verb = dictionary::verbOfLetter(letter, k);
+    list.add(verb);
+    controls.lstCzasowniki.addItem(fromFrench(verb));
+    controls.growBar(k, number);
+  }
+  list.finishLetter();
+  controls.showFilling(false);
+}
+
+}  // namespace odmiennik::app

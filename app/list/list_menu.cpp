@@ -1,0 +1,30 @@
+// Opening the verb list.
+#include "app/list/list_menu.h"
+
+#include <QMenuBar>
+
+#include "app/common/beside.h"
+#include "app/controls/main_menu.h"
+
+namespace odmiennik::app {
+
+ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
+                   dictionary::UserVerbsFile& userVerbs, dictionary::MainCommands& commands)
+    : main_(main), prefix_(prefix), userVerbs_(userVerbs), commands_(commands) {
+  using dictionary::ListPurpose;
+  const auto opens = [this](const char* item, ListPurpose purpose) {
+    QObject::connect(
+        &menuItem(*main_.menuBar(), item), &QAction::triggered, &main_,
+        [this, purpose] { open(purpose); }, Qt::QueuedConnection);
+  };
+  opens("mnuEdycjaLista", ListPurpose::list);
+  opens("mnuEdycjaUsuńCzasownik", ListPurpose::deletion);
+}
+
+void ListMenu::open(dictionary::ListPurpose purpose) {
+  if (window_ == nullptr) window_ = new ListWindow(prefix_, userVerbs_, commands_, &main_);
+  if (!window_->isVisible()) placeBeside(*window_, main_);
+  window_->showFor(purpose);
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,29 @@
+// The menu items that open the verb list.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <string>
+
+#include "app/list/list_window.h"
+
+namespace odmiennik::app {
+
+// Connects mnuEdycjaLista and mnuEdycjaUsuńCzasownik of `main`. The list window is created when it
+// is first asked for and belongs to the main window.
+class ListMenu {
+ public:
+  ListMenu(QMainWindow& main, const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
+           dictionary::MainCommands& commands);
+
+ private:
+  void open(dictionary::ListPurpose purpose);
+
+  QMainWindow& main_;
+  std::string prefix_;
+  dictionary::UserVerbsFile& userVerbs_;
+  dictionary::MainCommands& commands_;
+  ListWindow* window_ = nullptr;
+};
+
+}  // namespace odmiennik::app

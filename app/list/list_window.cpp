@@ -1,0 +1,110 @@
+// The verb list.
+#include "app/list/list_window.h"
+
+#include <QSignalBlocker>
+
+#include "app/common/text.h"
+#include "app/list/list_filling.h"
+
+namespace odmiennik::app {
+
+using dictionary::ListButton;
+
+ListWindow::ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
+                       dictionary::MainCommands& main, QWidget* mainWindow)
+    : QDialog(mainWindow), prefix_(prefix), userVerbs_(userVerbs), main_(main), controls_(*this) {
+  setObjectName(QStringLiteral("frmLista"));
+  connectControls();
+}
+
+// Queued, since a command may ask whether to save: whoever pressed the button is answered first.
+void ListWindow::connectControls() {
+  const auto runs = [this](QPushButton& widget, ListButton button) {
+    connect(
+        &widget, &QPushButton::clicked, this, [this, button] { run(button); },
+        Qt::QueuedConnection);
+  };
+  runs(controls_.cmdOdmień, ListButton::cmdOdmień);
+  runs(controls_.cmdEdytuj, ListButton::cmdEdytuj);
+  runs(controls_.cmdNowy, ListButton::cmdNowy);
+  runs(controls_.cmdDrukuj, ListButton::cmdDrukuj);
+  connect(&controls_.cmdUsuń, &QPushButton::clicked, this, &ListWindow::deleteSelected,
+          Qt::QueuedConnection);
+  connect(&controls_.cmdZamknij, &QPushButton::clicked, this, &ListWindow::close);
+  connect(&controls_.lstCzasowniki, &QListWidget::doubleClicked, &controls_.cmdOdmień, [this] {
+    if (controls_.cmdOdmień.isVisible()) controls_.cmdOdmień.click();
+  });
+  connect(&controls_.lstCzasowniki, &QListWidget::currentRowChanged, this,
+          [this](int row) { list_.select(static_cast<std::size_t>(row)); });
+  connect(&controls_.cmbLista, &QComboBox::currentIndexChanged, this, &ListWindow::choose);
+}
+
+void ListWindow::showFor(dictionary::ListPurpose purpose) {
+  controls_.present(dictionary::appearanceOf(purpose));
+  if (!isVisible()) {
+    const QSignalBlocker silent(controls_.cmbLista);
+    controls_.cmbLista.setCurrentIndex(choice_ = 0);
+    ŁadujListęUżytkownika();
+    controls_.cmbLista.setFocus();
+  }
+  show();
+  raise();
+  activateWindow();
+}
+
+void ListWindow::ŁadujListęUżytkownika() {
+  list_.loadUserVerbs(findUserVerbs(prefix_, userVerbs_));
+  showEntries();
+}
+
+void ListWindow::choose(int choice) {
+  if (list_.isFilling()) {
+    // A letter is being filled: nothing else is begun, and the choice shows what is listed.
+    const QSignalBlocker silent(controls_.cmbLista);
+    controls_.cmbLista.setCurrentIndex(choice_);
+    return;
+  }
+  choice_ = choice;
+  const QSignalBlocker silent(controls_.lstCzasowniki);
+  if (choice > 0) {
+    fillLetter(dictionary::letterOfChoice(choice), list_, controls_);
+    showState();
+  } else {
+    list_.chooseUserVerbs(findUserVerbs(prefix_, userVerbs_));
+    showEntries();
+  }
+}
+
+void ListWindow::showEntries() {
+  const QSignalBlocker silent(controls_.lstCzasowniki);
+  controls_.lstCzasowniki.clear();
+  for (const std::string& verb : list_.entries()) controls_.lstCzasowniki.addItem(fromFrench(verb));
+  showState();
+}
+
+void ListWindow::showState() {
+  const auto selected = list_.selected();
+  controls_.enable(list_.enabled());
+  controls_.lstCzasowniki.setCurrentRow(selected ? static_cast<int>(*selected) : -1);
+  controls_.lblIlośćCzasowników.setText(fromUtf8(list_.countLabel()));
+}
+
+// The main window comes forward for a verb that is to be typed or corrected; after the other
+// commands the next verb can be picked at once.
+void ListWindow::run(ListButton button) {
+  if (list_.isFilling()) return;
+  const std::string selected(list_.selectedVerb());
+  if (!dictionary::runListButton(button, selected, main_)) return;
+  if (button == ListButton::cmdEdytuj || button == ListButton::cmdNowy)
+    parentWidget()->activateWindow();
+}
+
+void ListWindow::deleteSelected() {
+  if (list_.isFilling() || !list_.selected()) return;
+  const std::string infinitive(list_.selectedVerb());
+  if (userVerbs_.remove(infinitive) != dictionary::DeleteResult::deleted) return;
+  list_.drop(infinitive);
+  showEntries();
+}
+
+}  // namespace odmiennik::app

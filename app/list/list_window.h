@@ -1,0 +1,45 @@
+// The window frmLista: verbs to pick one from, the user's own or those of a letter.
+#pragma once
+
+#include <QDialog>
+#include <string>
+
+#include "app/list/list_controls.h"
+#include "dictionary/user_verbs.h"
+#include "dictionary/verb_list.h"
+#include "dictionary/verb_list_commands.h"
+
+namespace odmiennik::app {
+
+// Hands everything that is done with a verb to the main window's commands, but for deleting the
+// user's own. `userVerbs` and `main` outlive it.
+class ListWindow final : public QDialog {
+  Q_OBJECT
+
+ public:
+  // `prefix` names the program's folder; `mainWindow` is the parent and stays usable.
+  ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
+             dictionary::MainCommands& main, QWidget* mainWindow);
+
+  // Shows the window, not modal, as the list or for deleting. One that was closed begins again with
+  // the user's own verbs.
+  void showFor(dictionary::ListPurpose purpose);
+
+ private:
+  void connectControls();
+  void ŁadujListęUżytkownika();
+  void choose(int choice);
+  void showEntries();
+  void showState();
+  void run(dictionary::ListButton button);
+  void deleteSelected();
+
+  std::string prefix_;
+  dictionary::UserVerbsFile& userVerbs_;
+  dictionary::MainCommands& main_;
+  dictionary::VerbList list_;
+  ListControls controls_;
+  int choice_ = 0;
+};
+
+}  // namespace odmiennik::app

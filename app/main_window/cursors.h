@@ -1,0 +1,19 @@
+// The pointers that the program draws itself.
+#pragma once
+
+#include <QCursor>
+
+namespace odmiennik::app {
+
+class Controls;
+
+// The program's arrow, for everything that has no pointer of its own.
+[[nodiscard]] QCursor arrowCursor();
+
+// A hand with a pointing finger, for what can be clicked and is no button.
+[[nodiscard]] QCursor handCursor();
+
+// Gives the hand to the headings that open a page of the help.
+void showHandOverTopics(const Controls& controls);
+
+}  // namespace odmiennik::app

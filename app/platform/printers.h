@@ -1,0 +1,17 @@
+// What the system's printers are asked beyond what Qt knows; one source for Windows, one for other
+// desktops.
+#pragma once
+
+#include <string>
+
+namespace odmiennik::app::platform {
+
+// Makes a printer, named as the system names it in UTF-8, the user's default from now on; false
+// when the system refuses. An empty name is refused.
+bool makeDefaultPrinter(const std::string& printer);
+
+// Whether the print system refused the document that this thread has just handed over. Qt does not
+// tell.
+[[nodiscard]] bool hasPrintSystemRefused();
+
+}  // namespace odmiennik::app::platform

@@ -1,0 +1,90 @@
+// Printing the main window.
+#include "app/printing/printing.h"
+
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <vector>
+
+#include "app/controls/main_menu.h"
+#include "app/printing/printed_picture.h"
+#include "app/printing/printer_setup.h"
+
+namespace odmiennik::app {
+namespace {
+
+// Hides the controls that mean nothing on paper for as long as it lives; then they are shown again,
+// the last one first, and the focus is back where it was.
+class HiddenForPrinting {
+ public:
+  explicit HiddenForPrinting(QWidget& window) : focus_(window.window()->focusWidget()) {
+    constexpr int kLetters = 13;
+    hide(window, QStringLiteral("chkZAvoir"));
+    for (int letter = 0; letter < kLetters; ++letter)
+      hide(window, QStringLiteral("cmdFrancuskaLitera_%1").arg(letter));
+  }
+  HiddenForPrinting(const HiddenForPrinting&) = delete;
+  HiddenForPrinting& operator=(const HiddenForPrinting&) = delete;
+  ~HiddenForPrinting() {
+    for (auto control = hidden_.rbegin(); control != hidden_.rend(); ++control)
+      if (*control) (*control)->show();
+    if (focus_) focus_->setFocus();
+  }
+
+ private:
+  void hide(const QWidget& window, const QString& name) {
+    auto* control = window.findChild<QWidget*>(name);
+    if (control == nullptr || control->isHidden()) return;
+    control->hide();
+    hidden_.emplace_back(control);
+  }
+
+  QPointer<QWidget> focus_;
+  std::vector<QPointer<QWidget>> hidden_;
+};
+
+class Hourglass {
+ public:
+  Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+  ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+// Without a printer Qt would write a file instead; a stopped queue would keep the page for itself.
+bool isReady(const QPrinterInfo& printer) {
+  return !printer.isNull() && printer.state() != QPrinter::Error &&
+         printer.state() != QPrinter::Aborted;
+}
+
+bool printWidget(QWidget& widget, const QString& title) {
+  const Hourglass hourglass;
+  const QPrinterInfo current = QPrinterInfo::defaultPrinter();
+  if (!isReady(current)) return false;
+  QPrinter printer(current, QPrinter::HighResolution);
+  printer.setDocName(title);
+  return printPicture(widget, printer);
+}
+
+}  // namespace
+
+Printing::Printing(QMainWindow& main, dictionary::MessageBoxes& messages)
+    : main_(main), messages_(messages) {
+  QObject::connect(
+      &menuItem(*main.menuBar(), "mnuPlikDrukuj"), &QAction::triggered, &main, [this] { print(); },
+      Qt::QueuedConnection);
+  QObject::connect(
+      &menuItem(*main.menuBar(), "mnuPlikUstawieniaDrukarki"), &QAction::triggered, &main,
+      [&main] { setUpPrinter(main); }, Qt::QueuedConnection);
+}
+
+bool Printing::print() {
+  const HiddenForPrinting hidden(*main_.centralWidget());
+  const bool isPrinted = printWidget(*main_.centralWidget(), main_.windowTitle());
+  if (!isPrinted) messages_.show(dictionary::MessageId::printerNotReady);
+  return isPrinted;
+}
+
+}  // namespace odmiennik::app

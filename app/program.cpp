@@ -1,0 +1,64 @@
+// The parts of the program, put together.
+#include "app/program.h"
+
+#include "app/layout/screen_fit.h"
+#include "app/lifetime/developer_buttons.h"
+#include "app/lifetime/program_settings.h"
+#include "dictionary/app_folder.h"
+
+namespace odmiennik::app {
+Program::Program(const Surroundings& given)
+    : prefix_(dictionary::AppFolder(given.folder)),
+      userVerbs_(prefix_, storedUserVerbCount(prefix_, given.files), given.messages, given.files),
+      shell_(given.messages, [this] { settings_.ResetSettings(); }),
+      driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}),
+      window_(driver_),
+      pointer_(window_),
+      settings_({prefix_, userVerbs_, headingColours(), given.messages, given.end, given.files}),
+      closing_(window_, settings_, given.messages, given.end),
+      tips_(window_, *window_.menuBar(), given.store),
+      startUp_({given.folder, prefix_, window_, pointer_, settings_, userVerbs_, tips_, closing_,
+                given.messages, layout()}),
+      viewMenu_(window_, chooser_),
+      editing_(window_, pointer_, userVerbs_, given.messages),
+      typing_(window_, given.store, given.messages),
+      printing_(window_, given.messages),
+      listMenu_(window_, prefix_, userVerbs_, editing_),
+      demonstration_(window_, editing_, given.pointer),
+      help_(
+          window_, given.messages,
+          [this] {
+            return Usage{settings_.conjugationCount(), settings_.runCount()};
+          },
+          given.helpPlaces) {
+  typing_.openHelpWith(help_.help());
+  window_.scaling().setQuestion([given] {
+    if (given.messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)
+      return true;
+    given.end();
+    return false;
+  });
+  editing_.printWith([this] { return printing_.print(); });
+  closing_.askWith([this] { return editing_.leaveForClosing(); });
+  tips_.demonstrateWith(
+      [&messages = given.messages] { messages.show(dictionary::MessageId::demonstrationWillRun); },
+      [this](int way) { demonstration_.run(way); });
+  connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
+  QObject::connect(&window_, &MainWindow::conjugated, &window_,
+                   [this] { settings_.countConjugation(); });
+}
+
+Program::~Program() = default;
+
+LayoutPort Program::layout() {
+  return {.screenTwips = [this] { return static_cast<int>(screenWidth(window_).twips); },
+          .rescale = [this] { return window_.scaling().rescale(); }};
+}
+
+HeadingColourPort Program::headingColours() {
+  LiveColours& colours = window_.colours();
+  return {[&colours] { return colours.design(); }, [&colours] { return colours.live(); },
+          [&colours](ColourNumbers numbers) { colours.ApplyColours(numbers.mood, numbers.tense); }};
+}
+
+}  // namespace odmiennik::app

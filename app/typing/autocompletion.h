@@ -1,0 +1,35 @@
+// Completion of the infinitive while it is typed, and its switch in the menu.
+#pragma once
+
+#include <QAction>
+#include <QObject>
+
+#include "app/controls/form_box.h"
+#include "dictionary/entry_box.h"
+
+namespace odmiennik::app {
+
+class UserStore;
+
+// The item's check mark is the switch; the user's store keeps it from one run to the next.
+class Autocompletion final : public QObject {
+  Q_OBJECT
+
+ public:
+  Autocompletion(FormBox& entry, QAction& item, UserStore& store);
+
+  [[nodiscard]] bool isOn() const { return switch_.isOn(); }
+
+  // Completes what stands in the entry box: "all" becomes "aller" with "er" selected. A text that
+  // no verb begins with stays as it is, its caret too.
+  void complete();
+
+ private:
+  void invert();
+
+  FormBox& entry_;
+  UserStore& store_;
+  dictionary::CompletionSwitch switch_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,91 @@
+// Keys of the form boxes.
+#include "app/typing/box_keys.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <algorithm>
+
+#include "app/logic/tense_topics.h"
+#include "app/typing/key_codes.h"
+
+namespace odmiennik::app {
+namespace {
+
+using dictionary::KeyReaction;
+using dictionary::ReleasedKey;
+
+constexpr QKeySequence::StandardKey kKeysOfEveryBox[] = {
+    QKeySequence::Copy,      QKeySequence::Cut,  QKeySequence::Paste,
+    QKeySequence::SelectAll, QKeySequence::Undo, QKeySequence::Redo};
+
+ReleasedKey releasedKey(const QKeyEvent& event) {
+  const QString text = event.text();
+  return {virtualKeyOf(event), !text.isEmpty() && text.back().isLetter()};
+}
+
+}  // namespace
+
+BoxKeys::BoxKeys(const FormBoxes& boxes, const QObject& shortcuts, Autocompletion& completion,
+                 dictionary::MessageBoxes& messages)
+    : boxes_(boxes), shortcuts_(shortcuts), completion_(completion), messages_(messages) {
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) boxes_[slot].installEventFilter(this);
+  connect(&boxes_.entry(), &FormBox::committed, this, &BoxKeys::committed);
+}
+
+// Sees a key before its box does; a key that goes up has had its effect when it went down.
+bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut) hint_.focusLeft();
+  if (event->type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    dictionary::KeyStroke stroke = strokeOf(key);
+    stroke.isShortcut = isShortcut(key);
+    hint_.pressed(boxes_.slotOf(*watched), stroke);
+  }
+  if (event->type() == QEvent::KeyRelease)
+    released(boxes_.slotOf(*watched), static_cast<const QKeyEvent&>(*event));
+  return false;
+}
+
+void BoxKeys::released(int slot, const QKeyEvent& event) {
+  const bool isHintKey = hint_.released(slot, strokeOf(event));
+  if (event.isAutoRepeat()) return;
+  switch (dictionary::reactionToKey(slot == engine::slot::kInfinitive, boxes_[slot].isReadOnly(),
+                                    completion_.isOn(), releasedKey(event), isHintKey)) {
+    case KeyReaction::complete:
+      return completion_.complete();
+    case KeyReaction::hint:
+      return askForHint();
+    case KeyReaction::none:
+      return;
+  }
+}
+
+// What a dead key or an input method has put into the entry box, which may have come without a key.
+void BoxKeys::committed(const QString& text) {
+  const ReleasedKey key{.isLetterTyped = !text.isEmpty() && text.back().isLetter()};
+  if (completion_.isOn() && dictionary::completes(key)) completion_.complete();
+}
+
+// Queued: the key's event is over before the box waits for its answer.
+void BoxKeys::askForHint() {
+  if (isHintOpen_) return;
+  isHintOpen_ = true;
+  QMetaObject::invokeMethod(this, &BoxKeys::showHint, Qt::QueuedConnection);
+}
+
+void BoxKeys::showHint() {
+  const dictionary::Button answer = messages_.show(dictionary::MessageId::typeInfinitive);
+  isHintOpen_ = false;
+  if (answer == dictionary::Button::help && help_ != nullptr) help_->openContext(kHowToContext);
+}
+
+bool BoxKeys::isShortcut(const QKeyEvent& event) const {
+  const auto isEvent = [&event](QKeySequence::StandardKey key) { return event.matches(key); };
+  if (std::ranges::any_of(kKeysOfEveryBox, isEvent)) return true;
+  const QKeySequence pressed(event.keyCombination());
+  for (const QAction* action : shortcuts_.findChildren<QAction*>())
+    if (action->shortcuts().contains(pressed)) return true;
+  return false;
+}
+
+}  // namespace odmiennik::app

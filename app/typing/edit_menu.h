@@ -1,0 +1,43 @@
+// The edit commands of the menu, on whichever control has the focus.
+#pragma once
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QObject>
+#include <QPointer>
+#include <string>
+
+#include "app/logic/edit_commands.h"
+#include "app/main_window/form_boxes.h"
+
+class QLineEdit;
+
+namespace odmiennik::app {
+
+// The items are available as the active control and the clipboard allow at the moment: when the
+// menu opens, and when a shortcut is pressed with the menu closed.
+class EditMenu final : public QObject {
+  Q_OBJECT
+
+ public:
+  EditMenu(QMainWindow& window, const FormBoxes& boxes);
+
+  // Computes the items' availability anew.
+  void refresh();
+
+ private:
+  using Command = void (*)(QLineEdit& box);
+
+  void connectItem(std::string_view name, bool EditAvailability::*isAvailable, Command command);
+  void followBoxes(const FormBoxes& boxes);
+  void focusChanged(QWidget* now);
+  void clipboardChanged();
+  [[nodiscard]] EditAvailability availability() const;
+
+  QMainWindow& window_;
+  QMenu& menu_;
+  QPointer<QWidget> active_;  // the control that has the focus, or had it before the menu
+  bool isTextOnClipboard_ = false;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,39 @@
+// Typing letters by clicking.
+#include "app/typing/letter_buttons.h"
+
+#include "app/logic/letters.h"
+
+namespace odmiennik::app {
+
+LetterButtons::LetterButtons(const Controls& controls, CurrentBox& current) : current_(current) {
+  controls.forEach("cmdFrancuskaLitera", [this](const ControlRow&, QWidget& button) {
+    connectButton(static_cast<QPushButton&>(button));
+  });
+  controls.forEach("chkFrancuskaLitera", [this](const ControlRow&, QWidget& box) {
+    connectCheckBox(static_cast<QCheckBox&>(box));
+  });
+}
+
+void LetterButtons::connectButton(QPushButton& button) {
+  button.setFocusPolicy(Qt::TabFocus);
+  QObject::connect(&button, &QPushButton::clicked, &current_, [this, &button] {
+    current_.insert(button.text());
+    current_.focus();
+  });
+}
+
+void LetterButtons::connectCheckBox(QCheckBox& box) {
+  box.setFocusPolicy(Qt::TabFocus);
+  QObject::connect(&box, &QCheckBox::toggled, &current_,
+                   [this, &box](bool isTicked) { checkBoxClicked(box, isTicked); });
+}
+
+// deliberate: unticking the box raises the click once more, and it is that one which types.
+void LetterButtons::checkBoxClicked(QCheckBox& box, bool isTicked) {
+  const LetterClick click = letterBoxClicked(isTicked, current_.isReadOnly());
+  if (click.insertsLetter) current_.insert(box.text());
+  if (click.unticks) box.setChecked(false);
+  current_.focus();
+}
+
+}  // namespace odmiennik::app

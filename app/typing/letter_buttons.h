@@ -1,0 +1,26 @@
+// The French letters that are typed by clicking.
+#pragma once
+
+#include <QCheckBox>
+#include <QPushButton>
+
+#include "app/controls/controls.h"
+#include "app/typing/current_box.h"
+
+namespace odmiennik::app {
+
+// Each button types its caption into the current box; so do the check boxes that share the buttons'
+// places and are not shown. A click with the mouse never takes the focus from the box.
+class LetterButtons {
+ public:
+  LetterButtons(const Controls& controls, CurrentBox& current);
+
+ private:
+  void connectButton(QPushButton& button);
+  void connectCheckBox(QCheckBox& box);
+  void checkBoxClicked(QCheckBox& box, bool isTicked);
+
+  CurrentBox& current_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,17 @@
+// Typing into the boxes.
+#include "app/typing/typing.h"
+
+#include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+
+namespace odmiennik::app {
+
+Typing::Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages)
+    : current_(window.boxes()),
+      completion_(window.boxes().entry(),
+                  menuItem(*window.menuBar(), "mnuCzasownikAutouzupełnianie"), store),
+      keys_(window.boxes(), *window.menuBar(), completion_, messages),
+      letters_(window.controls(), current_),
+      menu_(window, window.boxes()) {}
+
+}  // namespace odmiennik::app

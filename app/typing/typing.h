@@ -1,0 +1,32 @@
+// Everything about typing into the boxes, put together.
+#pragma once
+
+#include "app/typing/autocompletion.h"
+#include "app/typing/box_keys.h"
+#include "app/typing/current_box.h"
+#include "app/typing/edit_menu.h"
+#include "app/typing/letter_buttons.h"
+
+namespace odmiennik::app {
+
+class MainWindow;
+
+class Typing {
+ public:
+  Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages);
+
+  // What the Help button of the read-only boxes' hint opens.
+  void openHelpWith(HelpOpener& help) { keys_.openHelpWith(help); }
+
+  // The box that last had the focus.
+  [[nodiscard]] const CurrentBox& current() const { return current_; }
+
+ private:
+  CurrentBox current_;
+  Autocompletion completion_;
+  BoxKeys keys_;
+  LetterButtons letters_;
+  EditMenu menu_;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,17 @@
+// The colour chooser over QColorDialog.
+#include "app/view/colour_chooser.h"
+
+#include <QColorDialog>
+
+namespace odmiennik::app {
+
+std::optional<QColor> QtColourChooser::choose(QWidget& parent, const QColor& start) {
+  QColorDialog dialog(start, &parent);
+  dialog.setObjectName(QStringLiteral("CommonDialog1"));
+  dialog.setWindowTitle(QStringLiteral("Wybierz kolor"));
+  dialog.setOption(QColorDialog::DontUseNativeDialog);  // that one speaks the system's language
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.selectedColor();
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,52 @@
+// The window frmKolory: the user's two colours.
+#pragma once
+
+#include <QDialog>
+#include <array>
+
+#include "app/main_window/live_colours.h"
+#include "app/view/colour_chooser.h"
+
+class QPushButton;
+
+namespace odmiennik::app {
+
+// A filled rectangle in the colour being edited.
+class ColourSample final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ColourSample(QWidget* parent);
+  void setColour(const QColor& colour);
+  [[nodiscard]] QColor colour() const { return colour_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor colour_;
+};
+
+// Starts with the live colours of the main window; modal.
+class ColourWindow final : public QDialog {
+  Q_OBJECT
+
+ public:
+  ColourWindow(LiveColours& live, ColourChooser& chooser, QWidget* parent);
+
+ private:
+  void addSample(std::size_t index);
+  void addButtons();
+  QPushButton& addButton(const char* name, const QString& caption);
+  void change(std::size_t index);
+  void apply(ColourNumbers colours);
+  void refresh();
+
+  LiveColours& live_;
+  ColourChooser& chooser_;
+  ColourDialog dialog_;
+  std::array<ColourSample*, 2> samples_{};
+  QPushButton* applyButton_ = nullptr;
+};
+
+}  // namespace odmiennik::app

@@ -1,0 +1,37 @@
+// Always on top, and the colours.
+#include "app/view/view_menu.h"
+
+#include <QScreen>
+
+#include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+#include "app/platform/platform.h"
+#include "app/view/colour_window.h"
+
+namespace odmiennik::app {
+namespace {
+
+Screen screenOf(const QWidget& window) {
+  const QSize size = window.screen()->size() * kTwipsPerPixel;
+  const double twipsPerPixel = kTwipsPerPixel / window.devicePixelRatioF();
+  return {size.width(), size.height(), twipsPerPixel, twipsPerPixel};
+}
+
+}  // namespace
+
+ViewMenu::ViewMenu(MainWindow& window, ColourChooser& chooser)
+    : window_(window), chooser_(chooser) {
+  connect(&menuItem(*window.menuBar(), "mnuWidokNaWierzchu"), &QAction::triggered, this,
+          &ViewMenu::setOnTop, Qt::QueuedConnection);
+  connect(&menuItem(*window.menuBar(), "mnuWidokKolory"), &QAction::triggered, this,
+          &ViewMenu::showColours, Qt::QueuedConnection);
+}
+
+// The check mark is the item's own.
+void ViewMenu::setOnTop(bool isOnTop) {
+  platform::setAlwaysOnTop(window_.winId(), isOnTop, screenOf(window_));
+}
+
+void ViewMenu::showColours() { ColourWindow(window_.colours(), chooser_, &window_).exec(); }
+
+}  // namespace odmiennik::app

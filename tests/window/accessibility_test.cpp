@@ -1,0 +1,231 @@
+// Every window as a screen reader and a keyboard meet it.
+#include <QAccessible>
+#include <QComboBox>
+#include <QListWidget>
+#include <QSet>
+
+#include "app/about/about_window.h"
+#include "app/common/text.h"
+#include "app/help/help_window.h"
+#include "app/list/list_window.h"
+#include "app/logic/tense_topics.h"
+#include "app/tips/tip_window.h"
+#include "app/view/colour_window.h"
+#include "tests/window/program_under_test.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+// What Tab reaches while the window is shown.
+QList<QWidget*> reachedControls(QWidget& window) {
+  QList<QWidget*> controls;
+  for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (next->window() == &window && next->isVisibleTo(&window) && next->isEnabled() &&
+        (next->focusPolicy() & Qt::TabFocus) != 0)
+      controls.push_back(next);
+  return controls;
+}
+
+QString accessibleName(QWidget& control) {
+  return QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name);
+}
+
+// What tells two controls of one name apart: in a letter's two arrays, in the two samples.
+QString spokenAs(QWidget& control) {
+  const auto* accessible = QAccessible::queryAccessibleInterface(&control);
+  return accessible->text(QAccessible::Name) + '|' + accessible->text(QAccessible::Description);
+}
+
+QString accessKey(const QString& caption) {
+  const qsizetype mark = caption.indexOf('&');
+  return mark < 0 ? QString() : caption.mid(mark + 1, 1).toLower();
+}
+
+// The first control without a name or with another's name; empty when there is none.
+QString faultOfNames(QWidget& window) {
+  QSet<QString> names;
+  for (QWidget* control : reachedControls(window)) {
+    if (accessibleName(*control).isEmpty()) return control->objectName() + " has no name";
+    if (names.contains(spokenAs(*control))) return control->objectName() + " has another's name";
+    names.insert(spokenAs(*control));
+  }
+  return names.isEmpty() ? "nothing is reached" : QString();
+}
+
+// The first control that stands above and left of the one before it in the order of Tab. Reading
+// goes down a block and then to the next one right of it or below.
+QString faultOfOrder(QWidget& window) {
+  QPoint before;
+  for (QWidget* control : reachedControls(window)) {
+    const QPoint place = control->mapTo(&window, QPoint());
+    if (place.x() < before.x() && place.y() < before.y()) return control->objectName();
+    before = place;
+  }
+  return {};
+}
+
+}  // namespace
+
+class AccessibilitySuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { program_ = std::make_unique<ProgramUnderTest>(); }
+  void cleanup() { program_.reset(); }
+
+  void everyControlOfTheMainWindowHasANameOfItsOwn();
+  void everyControlOfTheMainWindowIsReachedWithTab();
+  void everyWindowsControlsHaveNamesOfTheirOwn_data();
+  void everyWindowsControlsHaveNamesOfTheirOwn();
+  void theOrderOfTheTabKeyIsThatOfReading_data();
+  void theOrderOfTheTabKeyIsThatOfReading();
+  void noAccessKeyStandsTwiceInAMenu();
+  void deliberateTheMenuBarHasOneAccessKeyTwice();
+  void noShortcutStandsTwice();
+  void everyHeadingOfATenseLabelsItsFirstBox();
+  void everyHeadingThatOpensAPageHasBoxesWhoseF1OpensIt();
+  void theMainWindowsControlsAreUsedWithoutAMouse();
+
+ private:
+  [[nodiscard]] std::unique_ptr<QDialog> made(const QString& window);
+  void addWindows();
+
+  std::unique_ptr<ProgramUnderTest> program_;
+  app::QtColourChooser chooser_;
+  app::HelpBook book_{app::helpFilePlaces()};
+  bool isForced_ = true;
+};
+
+std::unique_ptr<QDialog> AccessibilitySuite::made(const QString& window) {
+  app::MainWindow& parent = program_->window;
+  if (window == "frmLista") {
+    auto list = std::make_unique<app::ListWindow>(program_->folder.path().string() + "/",
+                                                  program_->program.userVerbs(),
+                                                  program_->program.editing(), &parent);
+    list->showFor(dictionary::ListPurpose::list);
+    list->findChild<QComboBox*>("cmbLista")->setCurrentIndex(1);
+    return list;
+  }
+  if (window == "frmKolory")
+    return std::make_unique<app::ColourWindow>(parent.colours(), chooser_, &parent);
+  if (window == "frmTip") {
+    auto tip =
+        std::make_unique<app::TipWindow>(&parent, program_->store, isForced_, [] { return 0.5; });
+    tip->offerDemonstrations([] {});
+    return tip;
+  }
+  if (window == "frmAbout")
+    return std::make_unique<app::AboutWindow>(&parent, app::Usage{}, program_->messages);
+  auto help = std::make_unique<app::HelpWindow>(book_, &parent);
+  help->showPage(app::fromUtf8(app::kWelcomePage));
+  return help;
+}
+
+void AccessibilitySuite::addWindows() {
+  QTest::addColumn<QString>("window");
+  for (const char* window : {"frmLista", "frmKolory", "frmTip", "frmAbout", "frmPomoc"})
+    QTest::newRow(window) << window;
+}
+
+void AccessibilitySuite::everyControlOfTheMainWindowHasANameOfItsOwn() {
+  QCOMPARE(faultOfNames(program_->window), QString());
+}
+
+// The 101 boxes, thirteen letters, the conjugate button; the auxiliary's box where it is enabled.
+void AccessibilitySuite::everyControlOfTheMainWindowIsReachedWithTab() {
+  QCOMPARE(reachedControls(program_->window).size(), 101 + 13 + 1 + 1);
+}
+
+void AccessibilitySuite::everyWindowsControlsHaveNamesOfTheirOwn_data() { addWindows(); }
+
+void AccessibilitySuite::everyWindowsControlsHaveNamesOfTheirOwn() {
+  QFETCH(QString, window);
+  const auto shown = made(window);
+  shown->show();
+  QCOMPARE(shown->objectName(), window);
+  QCOMPARE(faultOfNames(*shown), QString());
+}
+
+void AccessibilitySuite::theOrderOfTheTabKeyIsThatOfReading_data() {
+  addWindows();
+  QTest::newRow("frmCzasowniki") << "frmCzasowniki";
+}
+
+void AccessibilitySuite::theOrderOfTheTabKeyIsThatOfReading() {
+  QFETCH(QString, window);
+  const auto shown = window == "frmCzasowniki" ? nullptr : made(window);
+  if (shown) shown->show();
+  QWidget& walked = shown ? static_cast<QWidget&>(*shown) : program_->window;
+  QCOMPARE(faultOfOrder(walked), QString());
+}
+
+void AccessibilitySuite::noAccessKeyStandsTwiceInAMenu() {
+  const auto menus = program_->window.menuBar()->actions();
+  QCOMPARE(menus.size(), 5);
+  for (const QAction* menu : menus) {
+    QSet<QString> keys;
+    for (const QAction* item : menu->menu()->actions()) {
+      const QString key = accessKey(item->text());
+      QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(item->text()));
+      keys.insert(key);
+    }
+  }
+}
+
+void AccessibilitySuite::deliberateTheMenuBarHasOneAccessKeyTwice() {
+  QStringList keys;
+  for (const QAction* menu : program_->window.menuBar()->actions())
+    keys.push_back(accessKey(menu->text()));
+  QCOMPARE(keys, QStringList({"p", "e", "c", "w", "c"}));
+}
+
+void AccessibilitySuite::noShortcutStandsTwice() {
+  QSet<QKeySequence> keys;
+  for (const QAction* item : program_->window.findChildren<QAction*>())
+    for (const QKeySequence& key : item->shortcuts()) {
+      QVERIFY2(!keys.contains(key), qPrintable(key.toString()));
+      keys.insert(key);
+    }
+  QVERIFY(keys.contains(QKeySequence(Qt::CTRL | Qt::Key_O)));
+}
+
+void AccessibilitySuite::everyHeadingOfATenseLabelsItsFirstBox() {
+  for (int heading = 0; heading < app::kTenseHeadings; ++heading) {
+    const auto& label = program_->widget<QLabel>(QString("lblCzas_%1").arg(heading));
+    QCOMPARE(label.buddy(),
+             &program_->box(app::kTenseTopics[static_cast<std::size_t>(heading)].firstSlot));
+    QVERIFY(label.geometry().bottom() <= label.buddy()->geometry().top());
+  }
+  QCOMPARE(program_->widget<QLabel>("lblImiesłówZłożony").buddy(), &program_->box(100));
+}
+
+void AccessibilitySuite::everyHeadingThatOpensAPageHasBoxesWhoseF1OpensIt() {
+  for (int heading = 0; heading < app::kTopicHeadings; ++heading) {
+    const int slot = app::kTenseTopics[static_cast<std::size_t>(heading)].firstSlot;
+    QCOMPARE(app::topicOfSlot(slot), app::topicOf(heading));
+  }
+}
+
+void AccessibilitySuite::theMainWindowsControlsAreUsedWithoutAMouse() {
+  program_->conjugate("monter");
+  QTest::keyClick(&program_->auxiliary(), Qt::Key_Space);
+  QCOMPARE(program_->form(24), "suis monté(e)");
+  program_->entry().setFocus();
+  program_->entry().clear();
+  auto& letter = program_->widget<QPushButton>("cmdFrancuskaLitera_4");
+  letter.setFocus();
+  QTest::keyClick(&letter, Qt::Key_Space);
+  QTRY_COMPARE(program_->entry().text(), "è");
+  program_->entry().setText("finir");
+  auto& button = program_->widget<QPushButton>("cmdOdmień");
+  button.setFocus();
+  QTest::keyClick(&button, Qt::Key_Space);
+  QTRY_COMPARE(program_->form(0), "finis");
+}
+
+std::unique_ptr<QObject> accessibilitySuite() { return std::make_unique<AccessibilitySuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "accessibility_test.moc"

@@ -1,0 +1,192 @@
+// What closing the program asks, saves and ends.
+#include <QCloseEvent>
+#include <QGuiApplication>
+
+#include "tests/window/program_run.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+using dictionary::Button;
+using dictionary::MessageId;
+using Messages = std::vector<MessageId>;
+
+constexpr char kBefore[] = "0\r\n255\r\n65280\r\n41\r\n1112\r\n";
+
+}  // namespace
+
+class ClosingSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+
+  void noIsTheDefaultAnswer();
+  void answeredNoTheWindowStaysAndNothingIsSaved();
+  void answeredYesTheSettingsAreSavedAndTheProgramEnds();
+  void noThenYesAsksTwice();
+  void koniecAsksToo();
+  void aSecondRequestBehindTheQuestionIsPassedOver();
+  void aClosedProgramIsNotClosedAgain();
+  void theSaveQuestionComesAfterTheExitQuestion();
+  void anEditedVerbIsNotAskedAboutWhenTheUserStays();
+  void aRefusedSaveKeepsTheWindow();
+  void anEndingSessionAsksNothing();
+  void anEndingSessionAsksAboutAnEditedVerbOnce();
+  void anEndingSessionThatMayNotBeAskedSavesTheSettings();
+  void aRefusedSaveStopsTheEndOfTheSession();
+  void aSessionThatGoesOnAsksAgain();
+
+ private:
+  app::MainWindow& window() { return run_->program.window(); }
+
+  std::unique_ptr<ProgramHome> home_;
+  std::unique_ptr<ProgramRun> run_;
+};
+
+void ClosingSuite::init() {
+  home_ = std::make_unique<ProgramHome>();
+  home_->write("Werbolin.cfg", kBefore);
+  run_ = std::make_unique<ProgramRun>(*home_);
+  run_->program.start();
+}
+
+void ClosingSuite::cleanup() {
+  run_.reset();
+  home_.reset();
+}
+
+void ClosingSuite::noIsTheDefaultAnswer() {
+  const dictionary::MessageRow& question = dictionary::row(MessageId::endProgram);
+  QCOMPARE(question.defaultButton, Button::no);
+  QCOMPARE(question.buttons, Button::yes | Button::no);
+  QCOMPARE(question.icon, dictionary::Icon::question);
+  QCOMPARE(dictionary::messageText(MessageId::endProgram),
+           "Czy na pewno chcesz zakończyć program?");
+}
+
+void ClosingSuite::answeredNoTheWindowStaysAndNothingIsSaved() {
+  run_->messages.answer = Button::no;
+  run_->conjugate("parler");
+  QVERIFY(!window().close());
+  QCOMPARE(run_->messages.shown, Messages{MessageId::endProgram});
+  QVERIFY(window().isVisible());
+  QCOMPARE(home_->settings(), kBefore);
+  QCOMPARE(run_->ends, 0);
+}
+
+void ClosingSuite::answeredYesTheSettingsAreSavedAndTheProgramEnds() {
+  QVERIFY(window().close());
+  QVERIFY(!window().isVisible());
+  QCOMPARE(home_->setting(5), "1113");
+  QCOMPARE(run_->ends, 1);
+}
+
+void ClosingSuite::noThenYesAsksTwice() {
+  run_->messages.answer = Button::no;
+  QVERIFY(!window().close());
+  run_->messages.answer = Button::yes;
+  QVERIFY(window().close());
+  QCOMPARE(run_->messages.shown, (Messages{MessageId::endProgram, MessageId::endProgram}));
+  QCOMPARE(run_->ends, 1);
+}
+
+void ClosingSuite::koniecAsksToo() {
+  app::menuItem(*window().menuBar(), "mnuPlikKoniec").trigger();
+  QTRY_COMPARE(run_->ends, 1);
+  QCOMPARE(run_->messages.shown, Messages{MessageId::endProgram});
+}
+
+void ClosingSuite::aSecondRequestBehindTheQuestionIsPassedOver() {
+  bool isSecondAccepted = true;
+  run_->messages.whileShown = [&] {
+    QCloseEvent second;
+    QApplication::sendEvent(&window(), &second);
+    isSecondAccepted = second.isAccepted();
+  };
+  QVERIFY(window().close());
+  QVERIFY(!isSecondAccepted);
+  QCOMPARE(run_->messages.shown.size(), 1U);
+  QCOMPARE(run_->ends, 1);
+}
+
+void ClosingSuite::aClosedProgramIsNotClosedAgain() {
+  QVERIFY(window().close());
+  QCloseEvent again;
+  QApplication::sendEvent(&window(), &again);
+  QVERIFY(again.isAccepted());
+  QCOMPARE(run_->messages.shown.size(), 1U);
+  QCOMPARE(run_->ends, 1);
+}
+
+void ClosingSuite::theSaveQuestionComesAfterTheExitQuestion() {
+  std::size_t messagesBefore = 0;
+  run_->program.closing().askWith([&] {
+    messagesBefore = run_->messages.shown.size();
+    return true;
+  });
+  QVERIFY(window().close());
+  QCOMPARE(messagesBefore, 1U);
+}
+
+void ClosingSuite::anEditedVerbIsNotAskedAboutWhenTheUserStays() {
+  int asked = 0;
+  run_->program.closing().askWith([&] { return ++asked > 0; });
+  run_->messages.answer = Button::no;
+  QVERIFY(!window().close());
+  QCOMPARE(asked, 0);
+}
+
+void ClosingSuite::aRefusedSaveKeepsTheWindow() {
+  run_->program.closing().askWith([] { return false; });
+  QVERIFY(!window().close());
+  QVERIFY(window().isVisible());
+  QCOMPARE(home_->settings(), kBefore);
+  QCOMPARE(run_->ends, 0);
+}
+
+void ClosingSuite::anEndingSessionAsksNothing() {
+  QVERIFY(run_->program.closing().prepareForSessionEnd(true));
+  QCOMPARE(home_->setting(5), "1113");
+  QVERIFY(window().close());
+  QVERIFY(run_->messages.shown.empty());
+  QCOMPARE(run_->ends, 1);
+}
+
+void ClosingSuite::anEndingSessionAsksAboutAnEditedVerbOnce() {
+  int asked = 0;
+  run_->program.closing().askWith([&] { return ++asked > 0; });
+  QVERIFY(run_->program.closing().prepareForSessionEnd(true));
+  QVERIFY(window().close());
+  QCOMPARE(asked, 1);
+}
+
+void ClosingSuite::anEndingSessionThatMayNotBeAskedSavesTheSettings() {
+  int asked = 0;
+  run_->program.closing().askWith([&] { return ++asked < 0; });
+  QVERIFY(run_->program.closing().prepareForSessionEnd(false));
+  QCOMPARE(asked, 0);
+  QCOMPARE(home_->setting(5), "1113");
+}
+
+void ClosingSuite::aRefusedSaveStopsTheEndOfTheSession() {
+  run_->program.closing().askWith([] { return false; });
+  QVERIFY(!run_->program.closing().prepareForSessionEnd(true));
+  QVERIFY(window().isVisible());
+  QCOMPARE(home_->settings(), kBefore);
+}
+
+void ClosingSuite::aSessionThatGoesOnAsksAgain() {
+  QVERIFY(run_->program.closing().prepareForSessionEnd(true));
+  QTest::keyClick(&run_->entry(), Qt::Key_Right);
+  QVERIFY(window().close());
+  QCOMPARE(run_->messages.shown, Messages{MessageId::endProgram});
+}
+
+std::unique_ptr<QObject> closingSuite() { return std::make_unique<ClosingSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "closing_test.moc"

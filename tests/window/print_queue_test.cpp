@@ -1,0 +1,229 @@
+// Printing to real queues of a private print server.
+#include <QComboBox>
+#include <QFile>
+#include <QListWidget>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+
+#include "tests/window/print_server.h"
+#include "tests/window/program_run.h"
+#include "tests/window/program_under_test.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+using dictionary::MessageId;
+using Messages = std::vector<MessageId>;
+
+constexpr char kQueue[] = "First";
+constexpr char kOtherQueue[] = "Second";
+
+// Columns of pdfimages.
+constexpr int kWidth = 3;
+constexpr int kEncoding = 8;
+constexpr int kResolution = 12;
+
+// Whether all dots of a part of the picture have one colour.
+bool isEmpty(const QImage& picture, const QRect& part) {
+  for (int y = part.top(); y <= part.bottom(); ++y)
+    for (int x = part.left(); x <= part.right(); ++x)
+      if (picture.pixel(x, y) != picture.pixel(part.topLeft())) return false;
+  return true;
+}
+
+}  // namespace
+
+class PrintQueueSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase();
+  void init();
+  void cleanup();
+  void cleanupTestCase() { server_.reset(); }
+
+  void theWindowIsOnePageLyingDown();
+  void thePictureIsFineAndWithoutLoss();
+  void thePictureLacksWhatMeansNothingOnPaper();
+  void afterPrintingTheHiddenControlsAreBack();
+  void theListPrintsTheVerbSelectedThere();
+  void aRejectingQueueIsNotReady();
+  void aStoppedQueueIsNotReady();
+  void aQueueThatRefusesTheJobIsNotReady();
+  void theChosenPrinterBecomesTheDefault();
+  void cancelLeavesTheDefault();
+
+ private:
+  void print() const { program_->item("mnuPlikDrukuj").trigger(); }
+  void verifyRefusal() const;
+  [[nodiscard]] QStringList pictureFacts() const;
+  [[nodiscard]] QImage printedPicture() const;
+  static void choosePrinter(QDialog& dialog, const QString& name);
+
+  std::unique_ptr<PrintServer> server_;
+  std::unique_ptr<ProgramUnderTest> program_;
+};
+
+void PrintQueueSuite::initTestCase() {
+  const QString obstacle = PrintServer::obstacle();
+  if (!obstacle.isEmpty()) QSKIP(qPrintable("printing to a real queue is not tested: " + obstacle));
+  server_ = std::make_unique<PrintServer>();
+  QVERIFY(server_->isRunning());
+}
+
+void PrintQueueSuite::init() {
+  server_->addQueue(kQueue);
+  server_->addQueue(kOtherQueue);
+  server_->makeDefault(kQueue);
+  QCOMPARE(QPrinterInfo::defaultPrinterName(), kQueue);
+  program_ = std::make_unique<ProgramUnderTest>();
+}
+
+void PrintQueueSuite::cleanup() {
+  program_.reset();
+  if (!server_) return;
+  server_->removeQueue(kQueue);
+  server_->removeQueue(kOtherQueue);
+}
+
+// Wider than the page would be upright, whichever way round the printer is fed.
+void PrintQueueSuite::theWindowIsOnePageLyingDown() {
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  const QString facts = outputOf("pdfinfo", {server_->document(kQueue)});
+  QVERIFY2(facts.contains(QRegularExpression("Pages: +1\n")), qPrintable(facts));
+  constexpr double kUprightInches = 8.5;
+  const QStringList picture = pictureFacts();
+  QVERIFY2(
+      picture.value(kWidth).toDouble() / picture.value(kResolution).toDouble() > kUprightInches,
+      qPrintable(picture.join(' ')));
+  QVERIFY(program_->messages.shown.empty());
+}
+
+// The one line of pdfimages: page, number, type, width, height, colour, components, bits, encoding
+// …
+QStringList PrintQueueSuite::pictureFacts() const {
+  const QString list = outputOf("pdfimages", {"-list", server_->document(kQueue)});
+  const QStringList pictures = list.trimmed().split('\n').mid(2);
+  return pictures.size() == 1 ? pictures[0].simplified().split(' ') : QStringList();
+}
+
+void PrintQueueSuite::thePictureIsFineAndWithoutLoss() {
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  const QStringList picture = pictureFacts();
+  QCOMPARE(picture.value(kEncoding), "image");
+  QVERIFY2(picture.value(kWidth).toInt() > 2500, qPrintable(picture.join(' ')));
+  QVERIFY2(picture.value(kResolution).toInt() >= 300, qPrintable(picture.join(' ')));
+}
+
+// The picture alone, out of the printed document.
+QImage PrintQueueSuite::printedPicture() const {
+  const QString root = server_->document(kQueue) + "-picture";
+  outputOf("pdfimages", {"-png", server_->document(kQueue), root});
+  return QImage(root + "-000.png");
+}
+
+void PrintQueueSuite::thePictureLacksWhatMeansNothingOnPaper() {
+  program_->conjugate("monter");
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  const QImage picture = printedPicture();
+  QVERIFY(!picture.isNull());
+  const qreal scale =
+      static_cast<qreal>(picture.width()) / program_->window.centralWidget()->width();
+  const auto placeOf = [scale](const QWidget& control) {
+    const QRect place = control.geometry().adjusted(1, 1, -1, -1);
+    return QRect((place.topLeft() * scale), place.size() * scale);
+  };
+  QVERIFY(isEmpty(picture, placeOf(program_->auxiliary())));
+  for (int letter = 0; letter < 13; ++letter)
+    QVERIFY(isEmpty(picture, placeOf(program_->widget<QPushButton>(
+                                 QString("cmdFrancuskaLitera_%1").arg(letter)))));
+  QVERIFY(!isEmpty(picture, placeOf(program_->widget<QPushButton>("cmdOdmień"))));
+  QVERIFY(!isEmpty(picture, placeOf(program_->box(0))));
+}
+
+void PrintQueueSuite::afterPrintingTheHiddenControlsAreBack() {
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  QVERIFY(program_->auxiliary().isVisible());
+  for (int letter = 0; letter < 13; ++letter)
+    QVERIFY(
+        program_->widget<QPushButton>(QString("cmdFrancuskaLitera_%1").arg(letter)).isVisible());
+}
+
+void PrintQueueSuite::theListPrintsTheVerbSelectedThere() {
+  program_->item("mnuEdycjaLista").trigger();
+  QTRY_VERIFY(program_->window.findChild<QDialog*>("frmLista") != nullptr);
+  auto& list = program_->widget<QDialog>("frmLista");
+  list.findChild<QComboBox*>("cmbLista")->setCurrentIndex(25);
+  const QString verb = list.findChild<QListWidget*>("lstCzasowniki")->currentItem()->text();
+  list.findChild<QPushButton*>("cmdDrukuj")->click();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  QCOMPARE(program_->form(96), verb);
+  QVERIFY(!program_->form(0).isEmpty());
+}
+
+void PrintQueueSuite::verifyRefusal() const {
+  print();
+  QTRY_COMPARE(program_->messages.shown, Messages{MessageId::printerNotReady});
+  QVERIFY(program_->auxiliary().isVisible());
+  QVERIFY(program_->widget<QPushButton>("cmdFrancuskaLitera_12").isVisible());
+  QVERIFY(!QFile::exists(server_->document(kQueue)));
+}
+
+void PrintQueueSuite::aRejectingQueueIsNotReady() {
+  outputOf("cupsreject", {kQueue});
+  verifyRefusal();
+}
+
+void PrintQueueSuite::aStoppedQueueIsNotReady() {
+  outputOf("cupsdisable", {kQueue});
+  verifyRefusal();
+}
+
+void PrintQueueSuite::aQueueThatRefusesTheJobIsNotReady() {
+  outputOf("lpadmin", {"-p", kQueue, "-u", "allow:nobody"});
+  verifyRefusal();
+}
+
+void PrintQueueSuite::choosePrinter(QDialog& dialog, const QString& name) {
+  QCOMPARE(dialog.objectName(), "dlgCommonDialog");
+  QCOMPARE(dialog.windowTitle(), "Page Setup");
+  for (QComboBox* box : dialog.findChildren<QComboBox*>())
+    if (const int row = box->findText(name); row >= 0) box->setCurrentIndex(row);
+}
+
+void PrintQueueSuite::theChosenPrinterBecomesTheDefault() {
+  QTimer poll;
+  connect(&poll, &QTimer::timeout, &poll, [&poll] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    poll.stop();
+    choosePrinter(*dialog, kOtherQueue);
+    dialog->accept();
+  });
+  poll.start(1);
+  program_->item("mnuPlikUstawieniaDrukarki").trigger();
+  QTRY_COMPARE(QPrinterInfo::defaultPrinterName(), kOtherQueue);
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kOtherQueue), 20'000);
+  QVERIFY(!server_->hasPrinted(kQueue));
+}
+
+void PrintQueueSuite::cancelLeavesTheDefault() {
+  ModalVisitor visitor([](QDialog& dialog) { choosePrinter(dialog, kOtherQueue); });
+  program_->item("mnuPlikUstawieniaDrukarki").trigger();
+  QTRY_COMPARE(visitor.visits, 1);
+  QCoreApplication::processEvents();
+  QCOMPARE(QPrinterInfo::defaultPrinterName(), kQueue);
+  QVERIFY(program_->messages.shown.empty());
+}
+
+std::unique_ptr<QObject> printQueueSuite() { return std::make_unique<PrintQueueSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "print_queue_test.moc"

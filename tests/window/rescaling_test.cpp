@@ -1,0 +1,277 @@
+// The layout follows the window's size.
+#include <QGroupBox>
+#include <QLabel>
+#include <QScreen>
+#include <random>
+
+#include "app/common/text.h"
+#include "app/controls/placement.h"
+#include "app/layout/scaled_layout.h"
+#include "tests/window/program_run.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+using app::ControlRow;
+using dictionary::Button;
+using dictionary::MessageId;
+
+// The window with one verb shown, and how its size is changed.
+struct ScaledProgram : ProgramUnderTest {
+  QWidget& surface() const { return *entry().parentWidget(); }
+  const app::Layout& layout() const { return window.scaling().layout(); }
+
+  // Gives the surface a size in pixels; the layout has followed when this returns.
+  void resizeTo(QSize size) const {
+    const QSize rest = window.size() - surface().size();
+    window.resize(size + rest);
+    QTRY_COMPARE(surface().size(), size);
+    QTRY_COMPARE(layout().design, (app::TwipSize{size.width() * 15, size.height() * 15}));
+  }
+
+  void maximiseAndRestore() const {
+    const QSize before = surface().size();
+    window.setWindowState(Qt::WindowMaximized);
+    QTRY_VERIFY(surface().size() != before);
+    window.setWindowState(Qt::WindowNoState);
+    QTRY_COMPARE(surface().size(), before);
+  }
+
+  QSize designed() const { return app::place(app::kMainWindow[0]).size(); }
+};
+
+// The control of the layout that belongs to a row.
+const app::LayoutControl& control(const app::Layout& layout, std::size_t row) {
+  return layout.controls.at(row - 1);
+}
+
+QString clippedOrOverlapping(const ScaledProgram& program) {
+  QList<QWidget*> widgets = program.surface().findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  widgets.removeIf([](const QWidget* widget) {
+    return !widget->isVisible() || qobject_cast<const QGroupBox*>(widget) != nullptr;
+  });
+  for (qsizetype i = 0; i < widgets.size(); ++i) {
+    QWidget* widget = widgets[i];
+    if (!program.surface().rect().contains(widget->geometry())) return widget->objectName();
+    if (widget->fontMetrics().height() > widget->height()) return widget->objectName() + " is low";
+    for (qsizetype k = i + 1; k < widgets.size(); ++k)
+      if (widget->geometry().intersects(widgets[k]->geometry()))
+        return widget->objectName() + " on " + widgets[k]->objectName();
+    const auto* label = qobject_cast<QLabel*>(widget);
+    if (label != nullptr && label->sizeHint().width() > label->width())
+      return label->objectName() + " is narrow";
+  }
+  return {};
+}
+
+}  // namespace
+
+class RescalingSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theWindowStartsAsDesigned();
+  void theSameSizeChangesNothingAndAsksNothing();
+  void everyWidgetStandsWhereTheArithmeticPutsIt();
+  void theFontsFollowTheHeight();
+  void aBoxHasAWholeSizeAndAShapeAFraction();
+  void deliberateAControlWithoutATagKeepsItsPlaceThoughItGrows();
+  void theResizesOfOneDragAreRescaledTogether();
+  void maximisingAndRestoringRescaleAtOnce();
+  void aMinimisedWindowIsLeftAlone();
+  void restoredFromMinimisedToItsSizeItIsNotRescaled();
+  void thePronounsStandBeforeTheirBoxes();
+  void afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped();
+  void nothingIsClippedInAnySmallOrNarrowWindow_data();
+  void nothingIsClippedInAnySmallOrNarrowWindow();
+  void theWindowCannotBecomeTooSmallForItsBoxes();
+  void theLongestFormIsReadableWithoutATooltipAt1024By768();
+};
+
+void RescalingSuite::theWindowStartsAsDesigned() {
+  const ScaledProgram program;
+  QCOMPARE(program.surface().size(), program.designed());
+  QCOMPARE(program.layout().design, (app::TwipSize{11970, 8220}));
+  QVERIFY(program.messages.shown.empty());
+}
+
+void RescalingSuite::theSameSizeChangesNothingAndAsksNothing() {
+  const ScaledProgram program;
+  bool isAsked = false;
+  program.window.scaling().setQuestion([&isAsked] { return isAsked = true; });
+  QVERIFY(program.window.scaling().rescale());
+  QCOMPARE(program.layout().horizontalFactor, 1.0F);
+  QCOMPARE(program.box(0).geometry(),
+           app::place(app::kMainWindow[app::positionOf("txtCzasownik", 0)]));
+  QVERIFY(!isAsked);
+}
+
+void RescalingSuite::everyWidgetStandsWhereTheArithmeticPutsIt() {
+  const ScaledProgram program;
+  program.resizeTo({1000, 701});
+  app::Layout expected = app::designedLayout();
+  QCOMPARE(app::RescaleLayout(expected, {15000, 10515}, {}, [] { return true; }),
+           app::Rescaled::rescaled);
+  const std::size_t box = app::positionOf("txtCzasownik", 42);
+  const app::LayoutControl& wanted = control(expected, box);
+  QCOMPARE(wanted.width, std::trunc(1545 * (15000.0F / 11970)));
+  QCOMPARE(control(program.layout(), box).height, wanted.height);
+  QCOMPARE(program.box(42).geometry(),
+           app::place({wanted.left, wanted.top, wanted.width, wanted.height}));
+  const QWidget& button = program.widget<QWidget>(QString::fromUtf8("cmdOdmień"));
+  QCOMPARE(button.x(), qRound(10335 * (1000.0 / 798) / 15));
+  QCOMPARE(button.y(), qRound(7740 * (701.0 / 548) / 15));
+}
+
+void RescalingSuite::theFontsFollowTheHeight() {
+  const ScaledProgram program;
+  const auto pixelsOf = [&program](const char* name) {
+    return program.widget<QWidget>(QString::fromUtf8(name)).font().pixelSize();
+  };
+  QCOMPARE(pixelsOf("txtCzasownik_0"), 11);
+  program.resizeTo({798 * 2, 548 * 2});
+  QCOMPARE(pixelsOf("txtCzasownik_0"), 22);
+  QCOMPARE(pixelsOf("lblTryb_0"), 26);
+  QCOMPARE(pixelsOf("lblGrupaWartość"), 22);
+  QCOMPARE(program.surface().font().pixelSize(), 22);
+  program.resizeTo({798 * 2, 548});
+  QCOMPARE(pixelsOf("txtCzasownik_0"), 11);
+}
+
+void RescalingSuite::aBoxHasAWholeSizeAndAShapeAFraction() {
+  const ScaledProgram program;
+  program.resizeTo({1001, 701});
+  const app::LayoutControl& box = control(program.layout(), app::positionOf("txtCzasownik", 0));
+  const app::LayoutControl& rule = control(program.layout(), app::positionOf("shpLiniaTrybu", 0));
+  QCOMPARE(box.width, std::trunc(box.width));
+  QVERIFY(rule.width != std::trunc(rule.width));
+}
+
+// No control of this window is without a tag, so one is put beside them.
+void RescalingSuite::deliberateAControlWithoutATagKeepsItsPlaceThoughItGrows() {
+  app::Layout layout = app::designedLayout();
+  layout.controls = {{.name = "txtCzasownik", .left = 150, .top = 90, .width = 300, .height = 30}};
+  QCOMPARE(app::RescaleLayout(layout, {23940, 16440}, {}, [] { return true; }),
+           app::Rescaled::rescaled);
+  QCOMPARE(layout.controls[0].left, 150.0F);
+  QCOMPARE(layout.controls[0].top, 90.0F);
+  QCOMPARE(layout.controls[0].width, 600.0F);
+}
+
+void RescalingSuite::theResizesOfOneDragAreRescaledTogether() {
+  const ScaledProgram program;
+  const QSize rest = program.window.size() - program.surface().size();
+  for (int width = 800; width < 1000; width += 7) program.window.resize(QSize(width, 600) + rest);
+  QCOMPARE(program.layout().design.width, 11970);
+  program.resizeTo({1000, 600});
+  QCOMPARE(program.layout().horizontalFactor, 15000.0F / 11970);
+}
+
+void RescalingSuite::maximisingAndRestoringRescaleAtOnce() {
+  const ScaledProgram program;
+  const QSize before = program.surface().size();
+  program.window.setWindowState(Qt::WindowMaximized);
+  QTRY_VERIFY(program.surface().size() != before);
+  QCOMPARE(program.layout().design.height, program.surface().height() * 15);
+  program.window.setWindowState(Qt::WindowNoState);
+  QTRY_COMPARE(program.surface().size(), before);
+  QCOMPARE(program.layout().design.height, before.height() * 15);
+}
+
+void RescalingSuite::aMinimisedWindowIsLeftAlone() {
+  const ScaledProgram program;
+  program.window.showMinimized();
+  QTRY_VERIFY(program.window.isMinimized());
+  program.window.resize(900, 640);
+  QVERIFY(program.window.scaling().rescale());
+  QCOMPARE(program.layout().design, (app::TwipSize{11970, 8220}));
+}
+
+void RescalingSuite::restoredFromMinimisedToItsSizeItIsNotRescaled() {
+  const ScaledProgram program;
+  program.window.showMinimized();
+  QTRY_VERIFY(program.window.isMinimized());
+  program.window.showNormal();
+  QTRY_VERIFY(!program.window.isMinimized());
+  QVERIFY(program.window.scaling().rescale());
+  QCOMPARE(program.layout().horizontalFactor, 1.0F);
+  QCOMPARE(program.surface().size(), program.designed());
+}
+
+// Painted pronouns are looked for where they have to be: between the box and its left neighbour.
+void RescalingSuite::thePronounsStandBeforeTheirBoxes() {
+  ScaledProgram program;
+  program.resizeTo({1197, 822});
+  const auto inkBefore = [&program](int slot) {
+    const QRect box = program.box(slot).geometry();
+    const QRect gap(box.left() - 22, box.top(), 22, box.height());
+    const QImage image = program.surface().grab(gap).toImage();
+    int ink = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) ink += qGray(image.pixel(x, y)) < 100 ? 1 : 0;
+    return ink;
+  };
+  QVERIFY(inkBefore(0) > 0);
+  QVERIFY(inkBefore(89) > 0);
+  QCOMPARE(inkBefore(96), 0);
+}
+
+void RescalingSuite::afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped() {
+  const ScaledProgram program;
+  program.conjugate("falloir");
+  std::mt19937 random(50);
+  std::uniform_int_distribution<int> width(640, 1900), height(450, 1000);
+  for (int time = 0; time < 50; ++time) {
+    program.maximiseAndRestore();
+    program.resizeTo({width(random), height(random)});
+    QCOMPARE(clippedOrOverlapping(program), QString());
+  }
+  program.resizeTo(program.designed());
+  QCOMPARE(clippedOrOverlapping(program), QString());
+  // Rounding has taken less than a tenth of a box's width, and its letters have their old size.
+  QVERIFY(program.box(0).width() > 103 * 0.9);
+  QCOMPARE(program.box(0).font().pixelSize(), 11);
+}
+
+void RescalingSuite::nothingIsClippedInAnySmallOrNarrowWindow_data() {
+  QTest::addColumn<QSize>("size");
+  QTest::newRow("smallest") << QSize(599, 411);
+  QTest::newRow("narrow") << QSize(600, 900);
+  QTest::newRow("low") << QSize(1800, 420);
+  QTest::newRow("1366") << QSize(1366, 700);
+  QTest::newRow("1920") << QSize(1920, 1010);
+}
+
+void RescalingSuite::nothingIsClippedInAnySmallOrNarrowWindow() {
+  QFETCH(QSize, size);
+  const ScaledProgram program;
+  program.conjugate("falloir");
+  program.resizeTo(size);
+  QCOMPARE(clippedOrOverlapping(program), QString());
+}
+
+void RescalingSuite::theWindowCannotBecomeTooSmallForItsBoxes() {
+  const ScaledProgram program;
+  program.window.resize(10, 10);
+  QTRY_COMPARE(program.layout().design.width, 599 * 15);
+  QTRY_COMPARE(program.surface().height(), 411);
+  QVERIFY(program.box(0).width() >= 75);
+}
+
+void RescalingSuite::theLongestFormIsReadableWithoutATooltipAt1024By768() {
+  const ScaledProgram program;
+  program.conjugate("s'entr'apprendre");
+  program.resizeTo({1022, 720});
+  QCOMPARE(program.form(87), "nous fussions entr'appris(e)s");
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    QVERIFY2(!program.box(slot).isClipped(), qPrintable(program.form(slot)));
+  program.resizeTo(program.designed());
+  QVERIFY(program.box(87).isClipped());  // shown as a tooltip
+}
+
+std::unique_ptr<QObject> rescalingSuite() { return std::make_unique<RescalingSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "rescaling_test.moc"

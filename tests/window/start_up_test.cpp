@@ -1,0 +1,264 @@
+// The start of the program, in its order.
+#include <QVersionNumber>
+
+#include "app/controls/form_surface.h"
+#include "app/logic/start_up.h"
+#include "app/main_window/cursors.h"
+#include "tests/window/program_run.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+using dictionary::MessageId;
+using Messages = std::vector<MessageId>;
+
+// Remembers what the start asks of the layout.
+struct Layout {
+  bool mayGoOn = true;
+  QString steps;
+};
+
+Qt::CursorShape pointerOf(const QWidget& widget) { return widget.cursor().shape(); }
+
+}  // namespace
+
+class StartUpSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { home_ = std::make_unique<ProgramHome>(); }
+  void cleanup() { home_.reset(); }
+
+  void theWindowStandsReadyForTheFirstVerb();
+  void theCaptionHasTheVersion();
+  void thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown();
+  void theHelpFileLiesInTheProgramsFolder();
+  void thePointerIsAnHourglassUntilTheStartIsOver();
+  void theWindowHasAnArrowOfItsOwn();
+  void aHandPointsAtTheHeadingsThatOpenAPage();
+  void theDrawnPointersDiffer();
+  void theMarkerOfAFirstStartEndsTheProgramWithoutAQuestion();
+  void theMarkerIsFoundWhateverItsCase();
+  void aStartThatIsAbortedShowsNoTipAndCountsNoRun();
+  void verbsLostInACrashComeBack();
+  void theTipIsShownOverTheWindowBeforeTheRunIsCounted();
+  void theTipIsNotShownWhenItIsSwitchedOff();
+  void theLayoutIsNotRescaledOnAScreenOf800Pixels();
+  void anyOtherScreenIsRescaledFor();
+  void aStartEndedByTheResolutionReadsNoSettings();
+  void theDevelopersButtonsAreOutOfReach();
+  void theDevelopersToolsWork();
+
+ private:
+  std::unique_ptr<ProgramHome> home_;
+
+  // Starts over a layout, on a screen of that width.
+  void run(Layout& layout, int screenTwips) {
+    ProgramRun run(*home_);
+    app::WindowPointer pointer(run.program.window());
+    app::StartUp start({.folder = home_->path().string(),
+                        .prefix = home_->prefix(),
+                        .window = run.program.window(),
+                        .pointer = pointer,
+                        .settings = run.program.settings(),
+                        .userVerbs = run.program.userVerbs(),
+                        .tips = run.program.tips(),
+                        .closing = run.program.closing(),
+                        .messages = run.messages,
+                        .layout = {.takeDesignSize = [&layout] { layout.steps += "design size"; },
+                                   .screenTwips = [=] { return screenTwips; },
+                                   .rescale =
+                                       [&layout] {
+                                         layout.steps += ", rescaled";
+                                         return layout.mayGoOn;
+                                       }}});
+    start.run();
+  }
+};
+
+void StartUpSuite::theWindowStandsReadyForTheFirstVerb() {
+  ProgramRun run(*home_);
+  QVERIFY(!run.program.window().isVisible());
+  run.program.start();
+  QVERIFY(QTest::qWaitForWindowActive(&run.program.window()));
+  QCOMPARE(run.entry().text(), "infinitif");
+  QCOMPARE(run.entry().selectedText(), "infinitif");
+  QCOMPARE(run.entry().selectionStart(), 0);
+  QCOMPARE(QApplication::focusWidget(), &run.entry());
+  QVERIFY(run.messages.shown.empty());
+}
+
+void StartUpSuite::theCaptionHasTheVersion() {
+  ProgramRun run(*home_);
+  QCOMPARE(run.program.window().windowTitle(), "Odmiennik");
+  const auto version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
+  QCOMPARE(version.segmentCount(), 3);
+  run.program.start();
+  QCOMPARE(run.program.window().windowTitle(), "Odmiennik v." + version.toString());
+}
+
+void StartUpSuite::thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown() {
+  ProgramRun run(*home_);
+  run.program.window().showEmptyTable();
+  QVERIFY(!run.program.window().isVisible());
+  QCOMPARE(run.program.window().findChild<app::FormSurface*>()->pronouns().pronoun(0), "je");
+}
+
+void StartUpSuite::theHelpFileLiesInTheProgramsFolder() {
+  ProgramRun run(*home_);
+  run.program.start();
+  QCOMPARE(run.program.startUp().helpFile(), (home_->path() / "Werbolin.chm").string());
+}
+
+// A damaged settings file stops the start at a message, where the pointer can be looked at.
+void StartUpSuite::thePointerIsAnHourglassUntilTheStartIsOver() {
+  home_->write("Werbolin.cfg", "x");
+  ProgramRun run(*home_);
+  auto whileStarting = Qt::BlankCursor;
+  run.messages.whileShown = [&] { whileStarting = pointerOf(run.program.window()); };
+  run.program.start();
+  QCOMPARE(whileStarting, Qt::WaitCursor);
+  QCOMPARE(pointerOf(run.program.window()), Qt::BitmapCursor);
+}
+
+void StartUpSuite::theWindowHasAnArrowOfItsOwn() {
+  const QCursor arrow = app::arrowCursor();
+  QCOMPARE(arrow.shape(), Qt::BitmapCursor);
+  QCOMPARE(arrow.pixmap().deviceIndependentSize(), QSizeF(32, 32));
+  QVERIFY(arrow.pixmap().toImage().pixelColor(arrow.hotSpot() + QPoint(1, 3)).alpha() == 255);
+}
+
+void StartUpSuite::aHandPointsAtTheHeadingsThatOpenAPage() {
+  ProgramRun run(*home_);
+  run.program.start();
+  const QImage hand = app::handCursor().pixmap().toImage();
+  for (int heading = 0; heading < 21; ++heading) {
+    const auto& label = run.widget<QLabel>(qPrintable(QString("lblCzas_%1").arg(heading)));
+    const bool isHand = label.cursor().pixmap().toImage() == hand;
+    QVERIFY2(isHand == (heading <= 16), qPrintable(label.objectName()));
+  }
+}
+
+void StartUpSuite::theDrawnPointersDiffer() {
+  const QCursor hand = app::handCursor();
+  QVERIFY(hand.pixmap().toImage() != app::arrowCursor().pixmap().toImage());
+  QVERIFY(hand.pixmap().toImage().pixelColor(hand.hotSpot()).alpha() > 0);
+}
+
+void StartUpSuite::theMarkerOfAFirstStartEndsTheProgramWithoutAQuestion() {
+  home_->write("tmp.dat", "");
+  ProgramRun run(*home_);
+  bool isVisible = false;
+  run.messages.whileShown = [&] { isVisible = run.program.window().isVisible(); };
+  run.program.start();
+  QCOMPARE(run.messages.shown, Messages{MessageId::restartSystemFirst});
+  QVERIFY(isVisible);
+  QVERIFY(!run.program.window().isVisible());
+  QCOMPARE(run.ends, 1);
+}
+
+void StartUpSuite::theMarkerIsFoundWhateverItsCase() {
+  home_->write("TMP.DAT", "");
+  ProgramRun run(*home_);
+  run.program.start();
+  QCOMPARE(run.messages.shown, Messages{MessageId::restartSystemFirst});
+}
+
+// Its settings are saved all the same, as whenever the window is unloaded.
+void StartUpSuite::aStartThatIsAbortedShowsNoTipAndCountsNoRun() {
+  home_->write("Werbolin.cfg", "3\r\n1\r\n2\r\n7\r\n1112\r\n");
+  home_->write("tmp.dat", "");
+  home_->store.setTipShownAtStart(true);
+  ProgramRun run(*home_);
+  ModalVisitor visitor([](QDialog&) {});
+  run.program.start();
+  QCOMPARE(visitor.visits, 0);
+  QCOMPARE(home_->settings(), "3\r\n1\r\n2\r\n7\r\n1112\r\n");
+}
+
+void StartUpSuite::verbsLostInACrashComeBack() {
+  home_->write("Werbolin.cfg", "1\r\n0\r\n0\r\n0\r\n10\r\n");
+  home_->write("Czas.dat", "kept");
+  ProgramRun run(*home_);
+  run.program.start();
+  QVERIFY(home_->read("Czasowniki.dat") == "kept");
+  QVERIFY(!home_->has("Czas.dat"));
+}
+
+void StartUpSuite::theTipIsShownOverTheWindowBeforeTheRunIsCounted() {
+  home_->store.setTipShownAtStart(true);
+  ProgramRun run(*home_);
+  QString name;
+  int runsBefore = -1;
+  bool isWindowThere = false;
+  ModalVisitor visitor([&](QDialog& dialog) {
+    name = dialog.objectName();
+    runsBefore = run.program.settings().runCount();
+    isWindowThere =
+        run.program.window().isVisible() && dialog.parentWidget() == &run.program.window();
+  });
+  run.program.start();
+  QCOMPARE(visitor.visits, 1);
+  QCOMPARE(name, "frmTip");
+  QVERIFY(isWindowThere);
+  QCOMPARE(runsBefore, 0);
+  QCOMPARE(run.program.settings().runCount(), 1);
+}
+
+void StartUpSuite::theTipIsNotShownWhenItIsSwitchedOff() {
+  ProgramRun run(*home_);
+  ModalVisitor visitor([](QDialog&) {});
+  run.program.start();
+  QCOMPARE(visitor.visits, 0);
+}
+
+void StartUpSuite::theLayoutIsNotRescaledOnAScreenOf800Pixels() {
+  Layout layout;
+  run(layout, 12000);
+  QCOMPARE(layout.steps, "design size");
+}
+
+void StartUpSuite::anyOtherScreenIsRescaledFor() {
+  Layout layout;
+  run(layout, 15360);
+  QCOMPARE(layout.steps, "design size, rescaled");
+  QVERIFY(home_->has("Werbolin.cfg"));
+}
+
+void StartUpSuite::aStartEndedByTheResolutionReadsNoSettings() {
+  Layout layout{.mayGoOn = false};
+  run(layout, 9600);
+  QCOMPARE(layout.steps, "design size, rescaled");
+  QVERIFY(!home_->has("Werbolin.cfg"));
+}
+
+void StartUpSuite::theDevelopersButtonsAreOutOfReach() {
+  ProgramRun run(*home_);
+  run.program.start();
+  for (const char* name : {"Command1", "Command3"}) {
+    auto& button = run.widget<QPushButton>(name);
+    QVERIFY(!button.isVisible());
+    QVERIFY(button.shortcut().isEmpty());
+  }
+}
+
+void StartUpSuite::theDevelopersToolsWork() {
+  home_->write("Werbolin.cfg", "1\r\n0\r\n0\r\n0\r\n10\r\n");
+  home_->write("Czasowniki.dat", testing::lineOf("aimer"));
+  std::filesystem::create_directory(home_->path() / "teksty");
+  home_->write("teksty/196.txt", "a\n");
+  ProgramRun run(*home_);
+  run.program.start();
+  run.widget<QPushButton>("Command1").click();
+  run.widget<QPushButton>("Command3").click();
+  QVERIFY(QString::fromStdString(home_->read("odmiana.rc")).startsWith("3000"));
+  QVERIFY(home_->read("odmiana.rc").find("\"aimer\"") != std::string::npos);
+  QVERIFY(!home_->read("teksty/Połącz.txt").empty());
+}
+
+std::unique_ptr<QObject> startUpSuite() { return std::make_unique<StartUpSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "start_up_test.moc"
