@@ -1,0 +1,67 @@
+"""A private desktop: a screen, a session bus, a window manager and a home that nobody else uses."""
+
+import contextlib
+import os
+import pathlib
+import subprocess
+import tempfile
+
+from waiting import wait_for
+
+# A program started in this environment sees the private desktop alone.
+KEPT = ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+
+
+def ended(process, seconds=5):
+    """Ends a process that was started here."""
+    process.terminate()
+    try:
+        process.wait(seconds)
+    except subprocess.TimeoutExpired:
+        process.kill()
+        process.wait()
+
+
+@contextlib.contextmanager
+def screen(size):
+    """A screen of `size` ("1024x768"), as the value of DISPLAY.
+
+    It is not reset when its last client leaves: that would throw out the one just coming.
+    """
+    reading, writing = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+         "-noreset"],
+        pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(writing)
+    try:
+        with os.fdopen(reading) as number:
+            yield ":" + number.readline().strip()
+    finally:
+        ended(server)
+
+
+@contextlib.contextmanager
+def home(display):
+    """An environment with a home of its own, in a folder that is gone afterwards."""
+    with tempfile.TemporaryDirectory(prefix="odmiennik-") as folder:
+        runtime = pathlib.Path(folder, "runtime")
+        runtime.mkdir(mode=0o700)
+        kept = {name: os.environ[name] for name in KEPT if name in os.environ}
+        yield kept | {
+            "DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": str(runtime),
+            "LANG": "C.UTF-8", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "QT_QPA_PLATFORM": "xcb", "NO_AT_BRIDGE": "0"}
+
+
+@contextlib.contextmanager
+def window_manager():
+    """The window manager of the screen in DISPLAY, ready: it gives each new window the focus."""
+    ready = pathlib.Path(os.environ["HOME"], "window manager is ready")
+    manager = subprocess.Popen(["openbox", "--startup", f"touch '{ready}'"],
+                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    try:
+        wait_for(ready.exists, "the window manager")
+        yield
+    finally:
+        ended(manager)

@@ -1,0 +1,96 @@
+"""What a screen reader knows of one part of a window."""
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+import pyatspi  # noqa: E402  (needs the version)
+from gi.repository import GLib  # noqa: E402
+
+from waiting import wait_equal, wait_for  # noqa: E402
+
+
+class Element:
+    """A box, button, menu item or window on the accessibility bus; asked anew at each question."""
+
+    def __init__(self, accessible):
+        self._accessible = accessible
+
+    @property
+    def name(self):
+        return self._accessible.name
+
+    @property
+    def description(self):
+        return self._accessible.description
+
+    @property
+    def role(self):
+        return self._accessible.getRoleName()
+
+    @property
+    def text(self):
+        text = self._accessible.queryText()
+        return text.getText(0, text.characterCount)
+
+    @property
+    def selection(self):
+        """The selected text."""
+        text = self._accessible.queryText()
+        if text.getNSelections() == 0:
+            return ""
+        start, end = text.getSelection(0)
+        return text.getText(start, end)
+
+    @property
+    def caret(self):
+        return self._accessible.queryText().caretOffset
+
+    @property
+    def bounds(self):
+        """(x, y, width, height) on the screen."""
+        extents = self._accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return extents.x, extents.y, extents.width, extents.height
+
+    def has(self, state):
+        """Whether a state is set: has("checked"), has("read only"), has("focused")."""
+        wanted = getattr(pyatspi, "STATE_" + state.upper().replace(" ", "_"))
+        return self._accessible.getState().contains(wanted)
+
+    def has_parts(self):
+        return self._accessible.childCount > 0
+
+    def children(self):
+        """The parts that still exist; a window may go while it is being looked at."""
+        for position in range(self._accessible.childCount):
+            child = self._accessible.getChildAtIndex(position)
+            if child is not None:
+                yield Element(child)
+
+    def descendants(self):
+        for child in self.children():
+            yield child
+            yield from child.descendants()
+
+    def press(self):
+        """What a click does: the button's or the menu item's own action."""
+        self._accessible.queryAction().doAction(0)
+
+    def focus(self):
+        self._accessible.queryComponent().grabFocus()
+        wait_for(lambda: self.has("focused"), f"the focus in {self.name!r}")
+
+    def write(self, text):
+        """Replaces the text, as a screen reader's dictation does."""
+        self._accessible.queryEditableText().setTextContents(text)
+
+    def select_all(self):
+        text = self._accessible.queryText()
+        text.addSelection(0, text.characterCount)
+
+    def await_text(self, expected):
+        wait_equal(lambda: self.text, expected, f"text of {self.name!r}")
+
+
+def gone():
+    """The errors of asking a window that has just been closed."""
+    return GLib.Error, LookupError, NotImplementedError, AttributeError

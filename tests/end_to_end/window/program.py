@@ -1,0 +1,220 @@
+"""The program under test, run and asked from outside."""
+
+import pathlib
+import shutil
+import subprocess
+
+import pyatspi
+from gi.repository import Atspi
+
+import keyboard
+from element import Element, gone
+from waiting import wait_equal, wait_for
+
+ENTRY = "Infinitif présent"
+TITLE = "Odmiennik"
+# The tip of the day is switched off as the program itself does it.
+NO_TIP = "[Ustawienia]\nPokazuj%20porad%U0119%20dnia=0\n"
+
+
+class Program:
+    """`odmiennik`, with a folder and a home of its own; ended with the scenario."""
+
+    def __init__(self, executable, home):
+        self._executable = executable
+        self.folder = pathlib.Path(home, "program folder")
+        self.folder.mkdir()
+        self._store = pathlib.Path(home, ".config", "Odmiennik", "Odmiennik.conf")
+        self._store.parent.mkdir(parents=True)
+        self._store.write_text(NO_TIP, encoding="utf-8")
+        self._log = open(pathlib.Path(home, "log"), "w+b")
+        self._process = None
+        self._known = {}
+
+    # Starting and ending
+
+    def launch(self):
+        """Starts the process; the window may still be on its way, or a message before it."""
+        self._known = {}
+        self._process = subprocess.Popen([self._executable, "--folder", str(self.folder)],
+                                         stdout=self._log, stderr=self._log)
+
+    def start(self):
+        """Starts the program and waits until a verb can be typed."""
+        self.launch()
+        wait_for(lambda: self.box(ENTRY).has("focused"), "the focus in the entry box")
+
+    def forget_user_store(self):
+        """Leaves nothing of the user's in the home, as on a new computer: the tip will show."""
+        self._store.unlink()
+
+    def is_running(self):
+        return self._process.poll() is None
+
+    def await_end(self):
+        wait_for(lambda: not self.is_running(), "the program's end")
+        assert self._process.returncode == 0, f"it ended with {self._process.returncode}"
+
+    def quit(self):
+        """Closes the window and answers the exit question with Yes."""
+        self.menu_item("Plik", "Koniec").press()
+        self.message("Czy na pewno chcesz zakończyć program?").answer("Tak")
+        self.await_end()
+
+    def clean_up(self):
+        if self._process is not None and self.is_running():
+            self._process.kill()
+            self._process.wait()
+        self._log.seek(0)
+        shutil.copyfileobj(self._log, open(2, "wb", closefd=False))
+        self._log.close()
+
+    # Finding
+
+    def _application(self):
+        desktop = pyatspi.Registry.getDesktop(0)
+        desktop.set_cache_mask(Atspi.Cache.NONE)
+        for position in range(desktop.childCount):
+            application = desktop.getChildAtIndex(position)
+            if application is not None and application.get_process_id() == self._process.pid:
+                return Element(application)
+        return None
+
+    def windows(self):
+        """The windows on the screen, the main window included."""
+        try:
+            application = self._application()
+            return [] if application is None else list(application.children())
+        except gone():
+            return []
+
+    def window(self, name):
+        """The window of that caption, waited for."""
+        return wait_for(lambda: next((w for w in self.windows() if w.name == name), None),
+                        f"the window {name!r}")
+
+    def main_window(self):
+        """The main window, whatever its caption."""
+        return wait_for(lambda: next((w for w in self.windows() if is_main(w)), None),
+                        "the main window")
+
+    def _find(self, kind, name, matches):
+        def search():
+            try:
+                return next((part for part in self.main_window().descendants() if matches(part)),
+                            None)
+            except gone():
+                return None
+        if (kind, name) not in self._known:
+            self._known[kind, name] = wait_for(search, f"{kind} {name!r} in the main window")
+        return self._known[kind, name]
+
+    def box(self, name):
+        """The text box of that accessible name."""
+        return self._find("box", name, lambda part: part.role == "text" and part.name == name)
+
+    def boxes(self):
+        """All text boxes of the main window, in its order."""
+        return [part for part in self.main_window().descendants() if part.role == "text"]
+
+    def button(self, name):
+        return self._find("button", name, lambda part: part.role in ("push button", "button")
+                          and part.name == name)
+
+    def check_box(self):
+        """The one that shows the auxiliary."""
+        return self._find("check box", "", lambda part: part.role == "check box"
+                          and part.has("showing"))
+
+    def menu_item(self, menu, name):
+        """The item of that caption in that menu, also while the menu is closed."""
+        opened = self._find("menu", menu, lambda part: part.name == menu
+                            and part.role == "menu item" and part.has_parts())
+        return wait_for(lambda: next((part for part in opened.descendants() if part.name == name),
+                                     None), f"the item {name!r} of {menu!r}")
+
+    def message(self, text):
+        """The message box that says `text`, waited for."""
+        def search():
+            return next((box for box in self.messages() if text in box.texts()), None)
+        try:
+            return wait_for(search, f"the message {text!r}")
+        except AssertionError as late:
+            shown = [box.texts() for box in self.messages()]
+            raise AssertionError(f"{late}; shown: {shown}") from None
+
+    def messages(self):
+        """All message boxes on the screen."""
+        return [Message(window) for window in self.windows() if window.role in ("alert", "dialog")]
+
+    # Working
+
+    def enter(self, text):
+        """Types into the entry box, replacing what it says."""
+        entry = self.box(ENTRY)
+        entry.focus()
+        keyboard.keys("ctrl+a")
+        wait_equal(lambda: entry.selection, entry.text, "the selected text")
+        keyboard.type_text(text)
+        entry.await_text(text)
+
+    def conjugate(self, verb):
+        """Types a verb and presses Enter."""
+        self.enter(verb)
+        keyboard.keys("Return")
+
+    def await_title(self, title):
+        wait_equal(lambda: self.main_window().name, title, "caption of the main window")
+
+    def dialog(self, title):
+        """The secondary window of that caption."""
+        return Message(self.window(title))
+
+    def settings(self):
+        """The lines of the settings file."""
+        return (self.folder / "Werbolin.cfg").read_bytes().decode("ascii").split("\r\n")[:-1]
+
+
+class Message:
+    """A message box or another window with buttons on the screen."""
+
+    def __init__(self, window):
+        self._window = window
+        self.title = window.name
+
+    def texts(self):
+        try:
+            return [part.name for part in self._window.descendants() if part.role == "label"]
+        except gone():
+            return []
+
+    def buttons(self):
+        return [part for part in self._window.descendants()
+                if part.role in ("push button", "button")]
+
+    def button(self, caption):
+        button = next((b for b in self.buttons() if b.name == caption), None)
+        assert button is not None, f"{caption!r} is not among {[b.name for b in self.buttons()]}"
+        return button
+
+    def check_box(self):
+        return next(part for part in self._window.descendants() if part.role == "check box")
+
+    def answer(self, caption):
+        """Presses a button and waits until the box is gone."""
+        self.button(caption).press()
+        self.await_end()
+
+    def await_end(self):
+        wait_for(self._is_gone, f"the end of the window {self.title!r}")
+
+    def _is_gone(self):
+        try:
+            return not self._window.has("showing")
+        except gone():
+            return True
+
+
+def is_main(window):
+    return window.role == "frame"
+

@@ -1,0 +1,76 @@
+"""A learner without a mouse."""
+
+import keyboard
+from program import ENTRY
+from waiting import wait_for
+
+HINT = "Wpisz bezokolicznik w polu 'Infinitif' i naciśnij klawisz Enter"
+
+
+def tab_goes_through_all_boxes_without_a_message(program):
+    program.start()
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    boxes = program.boxes()
+    assert len(boxes) == 101
+    assert len({box.name for box in boxes}) == 101
+    for box in boxes[1:]:
+        keyboard.keys("Tab")
+        wait_for(lambda box=box: box.has("focused"), f"Tab's way to {box.name!r}")
+    assert program.messages() == []
+
+
+def shift_and_tab_go_back(program):
+    program.start()
+    keyboard.keys("Tab")
+    wait_for(lambda: program.box("Infinitif passé").has("focused"), "Tab's way to the next box")
+    keyboard.keys("shift+Tab")
+    wait_for(lambda: program.box(ENTRY).has("focused"), "the way back")
+
+
+def a_verb_is_conjugated_and_the_program_left_by_keys_alone(program):
+    program.start()
+    keyboard.type_text("finir")
+    program.box(ENTRY).await_text("finir")
+    keyboard.keys("ctrl+o")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    keyboard.keys("ctrl+q")
+    exit_question = program.message("Czy na pewno chcesz zakończyć program?")
+    keyboard.keys("alt+t")
+    exit_question.await_end()
+    program.await_end()
+
+
+def a_letter_typed_into_a_form_gives_the_hint(program):
+    program.start()
+    program.conjugate("finir")
+    form = program.box("Indicatif présent, nous")
+    form.await_text("finissons")
+    form.focus()
+    keyboard.keys("x")
+    program.message(HINT).answer("OK")
+    assert form.text == "finissons"
+
+
+def a_beginning_is_completed_and_backspace_takes_the_rest_away(program):
+    program.start()
+    keyboard.keys("a", "l", "l")
+    entry = program.box(ENTRY)
+    entry.await_text("allaiter")
+    wait_for(lambda: entry.selection == "aiter", "the selection of what was added")
+    keyboard.keys("BackSpace")
+    entry.await_text("all")
+
+
+def the_menu_switches_completion_off(program):
+    program.start()
+    switch = program.menu_item("Czasownik", "Autouzupełnianie")
+    wait_for(lambda: switch.has("checked"), "the switch that is on at first")
+    switch.press()
+    wait_for(lambda: not switch.has("checked"), "the switch to be off")
+    keyboard.keys("a", "l", "l")
+    program.box(ENTRY).await_text("all")
+    keyboard.keys("Return")
+    program.message("Podany czasownik nie został znaleziony "
+                    "i nie było możliwe odmienienie go regularnie.").answer("OK")
+    assert program.box(ENTRY).text == "all"

@@ -1,0 +1,109 @@
+"""What is kept between two runs, and what is asked before it is given up."""
+
+from program import Message
+from waiting import wait_for
+
+EXIT_QUESTION = "Czy na pewno chcesz zakończyć program?"
+RESET_QUESTION = "Ustawienia zostaną zresetowane, a program zamknięty."
+# Seven verbs, two colours, twelve conjugations, twelve runs.
+KEPT = b"7\r\n255\r\n32768\r\n12\r\n1112\r\n"
+
+
+def _settings_file(program):
+    return program.folder / "Werbolin.cfg"
+
+
+def the_first_start_writes_five_lines(program):
+    program.forget_user_store()
+    program.launch()
+    Message(program.window("Porada dnia")).answer("OK")
+    lines = program.settings()
+    assert len(lines) == 5
+    assert (lines[0], lines[3], lines[4]) == ("0", "0", "10")
+    assert all(0 <= int(colour) <= 0xFFFFFF for colour in lines[1:3])
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    program.quit()
+    assert program.settings() == [*lines[:3], "1", "11"]
+
+
+def a_tip_that_was_switched_off_stays_away(program):
+    program.forget_user_store()
+    program.launch()
+    tip = Message(program.window("Porada dnia"))
+    tip.check_box().press()
+    wait_for(lambda: not tip.check_box().has("checked"), "the tip to be switched off")
+    tip.answer("OK")
+    program.quit()
+    program.start()
+    assert [window.role for window in program.windows()] == ["frame"]
+
+
+def counters_and_colours_come_back_as_they_were(program):
+    _settings_file(program).write_bytes(KEPT)
+    program.start()
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    program.quit()
+    assert program.settings() == ["7", "255", "32768", "13", "1113"]
+
+
+def damaged_settings_are_told_once_and_the_program_works_on(program):
+    _settings_file(program).write_bytes(b"0\r\n255\r\n255\r\n0\r\nzz\r\n")
+    program.launch()
+    program.message("Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. "
+                    "Program może działać niepoprawnie.").answer("OK")
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    assert program.messages() == []
+
+
+def the_exit_question_answered_no_keeps_the_program(program):
+    _settings_file(program).write_bytes(KEPT)
+    program.start()
+    program.menu_item("Plik", "Koniec").press()
+    question = program.message(EXIT_QUESTION)
+    assert question.button("Nie").has("focused"), "No is the default"
+    question.answer("Nie")
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    assert _settings_file(program).read_bytes() == KEPT
+
+
+def the_exit_question_answered_yes_saves_and_ends(program):
+    _settings_file(program).write_bytes(KEPT)
+    program.start()
+    program.quit()
+    assert program.settings() == ["7", "255", "32768", "12", "1113"]
+
+
+def resetuj_cancelled_changes_nothing(program):
+    _settings_file(program).write_bytes(KEPT)
+    program.start()
+    program.conjugate("resetuj")
+    program.message(RESET_QUESTION).answer("Anuluj")
+    assert _settings_file(program).read_bytes() == KEPT
+    program.quit()
+    assert program.settings() == ["7", "255", "32768", "12", "1113"]
+
+
+def resetuj_confirmed_writes_the_defaults_and_ends_at_once(program):
+    _settings_file(program).write_bytes(KEPT)
+    program.start()
+    program.conjugate("resetuj")
+    program.message(RESET_QUESTION).answer("OK")
+    program.await_end()
+    lines = program.settings()
+    assert (lines[0], lines[3], lines[4]) == ("0", "0", "10")
+    assert lines[1:3] != ["255", "32768"]
+
+
+def the_marker_of_a_first_start_ends_the_program(program):
+    (program.folder / "tmp.dat").write_bytes(b"")
+    program.launch()
+    message = program.message(
+        "Przed pierwszym uruchomieniem programu należy zrestartować system, "
+        "w przeciwnym wypadku program nie będzie działał prawidłowo!")
+    assert message.title == "Zrestartuj system!"
+    message.answer("OK")
+    program.await_end()

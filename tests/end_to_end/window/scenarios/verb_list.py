@@ -1,0 +1,32 @@
+"""The list of verbs beside the main window."""
+
+from program import ENTRY
+from waiting import wait_for
+
+USER_VERBS_NONE = "0/7342"
+
+
+def _open(program):
+    program.menu_item("Czasownik", "Lista").press()
+    return program.dialog("Lista czasowników")
+
+
+def without_own_verbs_the_list_is_empty(program):
+    program.start()
+    listed = _open(program)
+    wait_for(lambda: USER_VERBS_NONE in listed.texts(), "the count of no verbs")
+    for caption in ("Odmień", "Edytuj", "Usuń", "Drukuj"):
+        assert not listed.button(caption).has("enabled"), caption
+    assert listed.button("Nowy").has("enabled")
+    listed.answer("Zamknij")
+
+
+def deleting_needs_an_own_verb(program):
+    program.start()
+    program.menu_item("Czasownik", "Usuń").press()
+    listed = program.dialog("Usuń czasownik")
+    wait_for(lambda: USER_VERBS_NONE in listed.texts(), "the count of no verbs")
+    assert not listed.button("Usuń").has("enabled")
+    assert [b.name for b in listed.buttons() if b.has("showing")] == ["Usuń", "Zamknij"]
+    listed.answer("Zamknij")
+    assert program.box(ENTRY).text == "infinitif"
