@@ -14,11 +14,16 @@ QPoint besidePlace(const QRect& main, QSize size, const QRect& screen) {
   return {std::max(screen.x(), left), std::max(screen.y(), std::min(main.y(), lowest))};
 }
 
-// A window that was never shown has no frame yet; it will have one like the main window's.
+// A window that was never shown has no frame yet; it will have one like the main window's. What is
+// placed is what is inside the frame: a frame that comes later grows around it.
 void placeBeside(QWidget& window, const QWidget& main) {
   const QRect taken = main.frameGeometry();
   const QSize frame = taken.size() - main.size();
-  window.move(besidePlace(taken, window.sizeHint() + frame, main.screen()->availableGeometry()));
+  const QPoint inside = main.geometry().topLeft() - taken.topLeft();
+  const QSize size =
+      window.testAttribute(Qt::WA_WState_Created) ? window.size() : window.sizeHint();
+  const QRect screen = main.screen()->availableGeometry();
+  window.setGeometry(QRect(besidePlace(taken, size + frame, screen) + inside, size));
 }
 
 }  // namespace odmiennik::app

@@ -34,6 +34,12 @@ HeadingColours designColours(const QPalette& palette) {
                          : HeadingColours{kMoodOnLight, kTenseOnLight};
 }
 
+bool losesEdges(const QPalette& palette) {
+  constexpr int kNearlyBlack = 16;
+  return palette.color(QPalette::Window).lightness() < kNearlyBlack &&
+         palette.color(QPalette::Base).lightness() < kNearlyBlack;
+}
+
 QColor panelColour(const QPalette& palette) {
   constexpr float kShareOfHighlight = 0.18F;
   return mixed(palette.color(QPalette::Window), palette.color(QPalette::Highlight),

@@ -31,6 +31,9 @@ inline constexpr QRgb kTenseOnDark = 0xFF9CC5FF;
 // The colours of the window's design: on light and on dark grounds at a contrast of 4.5:1 or more.
 [[nodiscard]] HeadingColours designColours(const QPalette& palette);
 
+// Whether the ground is so dark that the edges, which the style draws darker than it, are lost.
+[[nodiscard]] bool losesEdges(const QPalette& palette);
+
 // The ground behind the entry box, which marks the place to start.
 [[nodiscard]] QColor panelColour(const QPalette& palette);
 

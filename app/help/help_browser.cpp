@@ -6,6 +6,8 @@
 namespace odmiennik::app {
 namespace {
 
+constexpr qreal kMargin = 14;
+
 QPalette paperPalette() {
   QPalette palette(QColor(0xF0, 0xF0, 0xF0));
   palette.setColor(QPalette::Base, Qt::white);
@@ -33,6 +35,7 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
   setOpenExternalLinks(false);
   setPalette(paperPalette());
   setMinimumSize(320, 240);
+  document()->setDocumentMargin(kMargin);
 }
 
 // Every answer holds something, if only an empty text: without one the text view looks for a local

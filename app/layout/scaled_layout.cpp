@@ -57,7 +57,7 @@ QSizeF factorsOf(const TwipSize& window) {
 
 // A heading that is underlined, as the link under the pointer, stays so.
 void setFont(QWidget& widget, const ControlRow& row, QFont font) {
-  font.setUnderline(widget.font().underline());
+  if (widget.font().underline()) font.setUnderline(true);
   if (row.kind == ControlKind::textBox)
     static_cast<FormBox&>(widget).setFormFont(font);
   else if (widget.font() != font)

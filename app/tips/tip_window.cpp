@@ -66,6 +66,7 @@ void TipWindow::create() {
   QPalette colours;
   colours.setColor(QPalette::WindowText, designColours(palette()).mood);
   heading_->setPalette(colours);
+  heading_->setForegroundRole(QPalette::WindowText);  // which paper would make the text's
   text_ = named<QLabel>("lblTipText");
   text_->setFont(enlarged(font(), kTextPixels, false));
   text_->setTextFormat(Qt::PlainText);

@@ -46,6 +46,7 @@ class LookSuite : public QObject {
   void headingsAreReadableOnLightAndDark_data();
   void headingsAreReadableOnLightAndDark();
   void headingsFollowAChangeOfTheTheme();
+  void boxesHaveAnEdgeOnBlackGroundToo();
 };
 
 void LookSuite::theProgramCarriesItsFont() {
@@ -90,6 +91,16 @@ void LookSuite::headingsFollowAChangeOfTheTheme() {
   QVERIFY(colourOfMood() != before);
   QApplication::setPalette(light);
   QTRY_COMPARE(colourOfMood(), before);
+}
+
+void LookSuite::boxesHaveAnEdgeOnBlackGroundToo() {
+  constexpr double kVisibleContrast = 1.5;
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(Qt::black, Qt::black));
+  ProgramUnderTest program;
+  const QImage box = program.box(0).grab().toImage();
+  QApplication::setPalette(before);
+  QVERIFY(contrast(box.pixelColor(0, box.height() / 2), Qt::black) >= kVisibleContrast);
 }
 
 std::unique_ptr<QObject> lookSuite() { return std::make_unique<LookSuite>(); }
