@@ -18,19 +18,17 @@ Program::Program(const Surroundings& given)
       closing_(window_, settings_, given.messages, given.end),
       tips_(window_, *window_.menuBar(), given.store),
       startUp_({given.folder, prefix_, window_, pointer_, settings_, userVerbs_, tips_, closing_,
-                given.messages, layout()}),
+                given.messages, layout(),
+                [this, places = given.helpPlaces] { help_.help().lookIn(places); }}),
       viewMenu_(window_, chooser_),
       editing_(window_, pointer_, userVerbs_, given.messages),
       typing_(window_, given.store, given.messages),
       printing_(window_, given.messages),
       listMenu_(window_, prefix_, userVerbs_, editing_),
       demonstration_(window_, editing_, given.pointer),
-      help_(
-          window_, given.messages,
-          [this] {
-            return Usage{settings_.conjugationCount(), settings_.runCount()};
-          },
-          given.helpPlaces) {
+      help_(window_, given.messages, [this] {
+        return Usage{settings_.conjugationCount(), settings_.runCount()};
+      }) {
   typing_.openHelpWith(help_.help());
   window_.scaling().setQuestion([given] {
     if (given.messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)

@@ -54,7 +54,6 @@ class Program {
   [[nodiscard]] Typing& typing() { return typing_; }
   [[nodiscard]] TipOfTheDay& tips() { return tips_; }
   [[nodiscard]] DemonstrationRunner& demonstration() { return demonstration_; }
-  [[nodiscard]] const StartUp& startUp() const { return startUp_; }
 
  private:
   [[nodiscard]] HeadingColourPort headingColours();

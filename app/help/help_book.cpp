@@ -3,6 +3,8 @@
 
 #include <QFileInfo>
 
+#include "app/common/text.h"
+#include "app/logic/start_up.h"
 #include "dictionary/program_folder.h"
 
 namespace odmiennik::app {
@@ -32,11 +34,13 @@ QUrl helpAddress(const QString& page) {
 
 QStringList helpFilePlaces() {
   const std::filesystem::path folder = dictionary::executablePath().parent_path();
-  const auto place = [](const std::filesystem::path& file) {
-    return QString::fromStdU16String(file.u16string());
+  const std::filesystem::path shared = folder.parent_path() / "share" / "odmiennik";
+  const auto place = [](const std::filesystem::path& in) {
+    constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+    const QString utf8 = QString::fromStdU16String(in.u16string());
+    return fromUtf8(helpFilePath(utf8.toStdString(), kSeparator));
   };
-  return {place(folder / "Werbolin.chm"),
-          place(folder.parent_path() / "share" / "odmiennik" / "Werbolin.chm")};
+  return {place(folder), place(shared)};
 }
 
 bool HelpBook::open() {

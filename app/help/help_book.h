@@ -24,7 +24,8 @@ inline constexpr char kHelpScheme[] = "chm";
 class HelpBook {
  public:
   // The first file found in `places` is the help file.
-  explicit HelpBook(QStringList places) : places_(std::move(places)) {}
+  explicit HelpBook(QStringList places = {}) : places_(std::move(places)) {}
+  void lookIn(QStringList places) { places_ = std::move(places); }
 
   // Opens the help file unless it is open; true when it has been opened just now.
   bool open();

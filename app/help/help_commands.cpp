@@ -10,8 +10,8 @@
 namespace odmiennik::app {
 
 HelpCommands::HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages,
-                           std::function<Usage()> usage, QStringList helpPlaces)
-    : help_(window, std::move(helpPlaces)), headings_(window.controls(), help_, nullptr) {
+                           std::function<Usage()> usage)
+    : help_(window), headings_(window.controls(), help_, nullptr) {
   QObject::connect(
       &menuItem(*window.menuBar(), "mnuPomocTematy"), &QAction::triggered, &help_,
       [this] { help_.open(kWelcomePage); }, Qt::QueuedConnection);

@@ -17,10 +17,10 @@ class MainWindow;
 class HelpCommands {
  public:
   // `usage` is asked whenever the about window opens.
-  HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages, std::function<Usage()> usage,
-               QStringList helpPlaces = helpFilePlaces());
+  HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages,
+               std::function<Usage()> usage);
 
-  [[nodiscard]] HelpOpener& help() { return help_; }
+  [[nodiscard]] HelpViewer& help() { return help_; }
 
  private:
   void openForFocus(const MainWindow& window);

@@ -6,8 +6,7 @@
 
 namespace odmiennik::app {
 
-HelpViewer::HelpViewer(QWidget& parent, QStringList places)
-    : QObject(&parent), parent_(parent), book_(std::move(places)) {
+HelpViewer::HelpViewer(QWidget& parent) : QObject(&parent), parent_(parent) {
   setObjectName(QStringLiteral("Hhopen1"));
 }
 

@@ -14,9 +14,12 @@ class HelpViewer final : public QObject, public HelpOpener {
   Q_OBJECT
 
  public:
-  // The viewer's window belongs to `parent`; the help file is looked for in `places`.
-  explicit HelpViewer(QWidget& parent, QStringList places = helpFilePlaces());
+  // The viewer's window belongs to `parent`; no help file is known yet.
+  explicit HelpViewer(QWidget& parent);
   ~HelpViewer() override;
+
+  // Where the help file is looked for, the first place first.
+  void lookIn(QStringList places) { book_.lookIn(std::move(places)); }
 
   void open(std::string_view page) override;
   void openContext(int context) override;

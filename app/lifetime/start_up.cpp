@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QVersionNumber>
-#include <filesystem>
 
 #include "app/common/text.h"
 #include "app/controls/main_menu.h"
@@ -17,12 +16,6 @@
 #include "dictionary/file_names.h"
 
 namespace odmiennik::app {
-namespace {
-
-constexpr char kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
-
-}  // namespace
-
 void StartUp::run() {
   for (const StartUpStep step : kStartUpSteps)
     if (!take(step) || needs_.closing.hasEnded()) return;
@@ -34,15 +27,14 @@ bool StartUp::take(StartUpStep step) {
       needs_.pointer.showHourglass();
       break;
     case StartUpStep::setHelpFile:
-      helpFile_ = helpFilePath(needs_.folder, kSeparator);
+      needs_.setHelpFile();
       break;
     case StartUpStep::loadCursors:
       needs_.pointer.setDefault(arrowCursor());
       showHandOverTopics(needs_.window.controls());
       break;
     case StartUpStep::takeDesignSize:
-      needs_.layout.takeDesignSize();
-      break;
+      break;  // the layout is made with it
     case StartUpStep::showEmptyPronouns:
       needs_.window.showEmptyTable();
       break;

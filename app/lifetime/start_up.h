@@ -18,7 +18,6 @@ class WindowPointer;
 
 // The layout of the window, as far as the start needs it.
 struct LayoutPort {
-  std::function<void()> takeDesignSize = [] {};
   std::function<int()> screenTwips;  // the screen's width
   // Fits the layout to the screen; false when the user does not go on in its resolution, which has
   // ended the program.
@@ -38,15 +37,13 @@ class StartUp {
     Closing& closing;
     dictionary::MessageBoxes& messages;
     LayoutPort layout = {};
+    std::function<void()> setHelpFile = [] {};  // tells the help where its file is
   };
   explicit StartUp(Needs needs) : needs_(std::move(needs)) {}
 
   // Takes all steps in their order; stops at one that ends the program. To be called from the event
   // loop, which is what the program is ended through.
   void run();
-
-  // The help file, UTF-8; empty before the start. Nobody promises that it exists.
-  [[nodiscard]] const std::string& helpFile() const { return helpFile_; }
 
  private:
   [[nodiscard]] bool take(StartUpStep step);
@@ -56,7 +53,6 @@ class StartUp {
   void checkFirstStart();
 
   Needs needs_;
-  std::string helpFile_;
 };
 
 }  // namespace odmiennik::app

@@ -237,8 +237,8 @@ void HelpSuite::thePageIsLightInADarkTheme() {
 }
 
 void HelpSuite::aMissingFileIsToldInPolish() {
-  app::HelpViewer help(program_->window, {"/nie/ma/Werbolin.chm"});
-  help.open("strony\\default.htm");
+  viewer().lookIn({"/nie/ma/Werbolin.chm"});
+  viewer().open("strony\\default.htm");
   QVERIFY(pages().toPlainText().startsWith("Nie znaleziono pliku pomocy"));
   QVERIFY(pages().toPlainText().contains("Werbolin.chm"));
   QCOMPARE(contents().topLevelItemCount(), 0);
@@ -252,8 +252,8 @@ void HelpSuite::aDamagedFileIsToldInPolish() {
                                   whole.read(5000).replace("PMG", "XXX")}) {
     QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write(bytes) == bytes.size());
     damaged.close();
-    app::HelpViewer help(program_->window, {damaged.fileName()});
-    help.open("strony\\default.htm");
+    viewer().lookIn({damaged.fileName()});
+    viewer().open("strony\\default.htm");
     QVERIFY(pages().toPlainText().startsWith("Plik pomocy jest uszkodzony"));
   }
 }
@@ -268,11 +268,11 @@ void HelpSuite::aMissingPageIsToldInPolish() {
 
 void HelpSuite::aFileThatComesLaterIsOpened() {
   const QString place = QString::fromStdString((program_->folder.path() / "W.chm").string());
-  app::HelpViewer help(program_->window, {place});
-  help.open("strony\\default.htm");
+  viewer().lookIn({place});
+  viewer().open("strony\\default.htm");
   QVERIFY(pages().toPlainText().startsWith("Nie znaleziono pliku pomocy"));
   QVERIFY(QFile::copy(app::helpFilePlaces().front(), place));
-  help.open("strony\\default.htm");
+  viewer().open("strony\\default.htm");
   QVERIFY(pages().toPlainText().startsWith("Witaj w Odmienniku"));
   QVERIFY(contents().topLevelItemCount() > 5);
 }

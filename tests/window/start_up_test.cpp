@@ -33,7 +33,6 @@ class StartUpSuite : public QObject {
   void theWindowStandsReadyForTheFirstVerb();
   void theCaptionHasTheVersion();
   void thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown();
-  void theHelpFileLiesInTheProgramsFolder();
   void thePointerIsAnHourglassUntilTheStartIsOver();
   void theWindowHasAnArrowOfItsOwn();
   void aHandPointsAtTheHeadingsThatOpenAPage();
@@ -66,13 +65,13 @@ class StartUpSuite : public QObject {
                         .tips = run.program.tips(),
                         .closing = run.program.closing(),
                         .messages = run.messages,
-                        .layout = {.takeDesignSize = [&layout] { layout.steps += "design size"; },
-                                   .screenTwips = [=] { return screenTwips; },
+                        .layout = {.screenTwips = [=] { return screenTwips; },
                                    .rescale =
                                        [&layout] {
                                          layout.steps += ", rescaled";
                                          return layout.mayGoOn;
-                                       }}});
+                                       }},
+                        .setHelpFile = [&layout] { layout.steps += "help file"; }});
     start.run();
   }
 };
@@ -103,12 +102,6 @@ void StartUpSuite::thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown() {
   run.program.window().showEmptyTable();
   QVERIFY(!run.program.window().isVisible());
   QCOMPARE(run.program.window().findChild<app::FormSurface*>()->pronouns().pronoun(0), "je");
-}
-
-void StartUpSuite::theHelpFileLiesInTheProgramsFolder() {
-  ProgramRun run(*home_);
-  run.program.start();
-  QCOMPARE(run.program.startUp().helpFile(), (home_->path() / "Werbolin.chm").string());
 }
 
 // A damaged settings file stops the start at a message, where the pointer can be looked at.
@@ -216,20 +209,20 @@ void StartUpSuite::theTipIsNotShownWhenItIsSwitchedOff() {
 void StartUpSuite::theLayoutIsNotRescaledOnAScreenOf800Pixels() {
   Layout layout;
   run(layout, 12000);
-  QCOMPARE(layout.steps, "design size");
+  QCOMPARE(layout.steps, "help file");
 }
 
 void StartUpSuite::anyOtherScreenIsRescaledFor() {
   Layout layout;
   run(layout, 15360);
-  QCOMPARE(layout.steps, "design size, rescaled");
+  QCOMPARE(layout.steps, "help file, rescaled");
   QVERIFY(home_->has("Werbolin.cfg"));
 }
 
 void StartUpSuite::aStartEndedByTheResolutionReadsNoSettings() {
   Layout layout{.mayGoOn = false};
   run(layout, 9600);
-  QCOMPARE(layout.steps, "design size, rescaled");
+  QCOMPARE(layout.steps, "help file, rescaled");
   QVERIFY(!home_->has("Werbolin.cfg"));
 }
 
