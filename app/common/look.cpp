@@ -3,17 +3,16 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QLocale>
 #include <QTranslator>
 
+#include "app/common/program_style.h"
 #include "app/common/text.h"
 #include "dictionary/messages.h"
 
 namespace odmiennik::app {
 namespace {
-
-// The same calm look on every system; native styles differ in the room that a box needs.
-constexpr char kStyle[] = "Fusion";
 
 // Menus and message boxes: 9 points at 96 dots an inch, like everything else in pixels.
 constexpr int kFontPixels = 12;
@@ -25,17 +24,25 @@ void speakPolish(QApplication& application) {
     QApplication::installTranslator(translator);
 }
 
+QIcon programIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 128})
+    icon.addFile(QStringLiteral(":/odmiennik/icon-%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
 }  // namespace
 
 void prepare(QApplication& application) {
   QApplication::setApplicationName(fromUtf8(dictionary::kApplicationTitle));
   QApplication::setApplicationVersion(QStringLiteral(ODMIENNIK_VERSION));
   QApplication::setOrganizationName(fromUtf8(dictionary::kApplicationTitle));
-  QApplication::setStyle(QLatin1String(kStyle));
+  QApplication::setStyle(new ProgramStyle);  // the application owns it
   for (const char* file :
        {":/odmiennik/LiberationSans-Regular.ttf", ":/odmiennik/LiberationSans-Bold.ttf"})
     QFontDatabase::addApplicationFont(QLatin1String(file));
   QApplication::setFont(programFont());
+  QApplication::setWindowIcon(programIcon());
   speakPolish(application);
 }
 

@@ -7,8 +7,8 @@ class QApplication;
 
 namespace odmiennik::app {
 
-// Gives the application its style, the font that it carries, its title and Polish as its language.
-// Called once, before the first window.
+// Gives the application its style, its icon, the font that it carries, its title and Polish as its
+// language. Called once, before the first window.
 void prepare(QApplication& application);
 
 // The font that the program carries: the metric twin of Arial.

@@ -2,14 +2,12 @@
 #include "app/controls/form_box.h"
 
 #include <QHelpEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolTip>
 #include <algorithm>
 
-#include "app/common/colours.h"
 #include "app/common/text.h"
 
 namespace odmiennik::app {
@@ -86,15 +84,6 @@ void FormBox::changeEvent(QEvent* event) {
   if (event->type() != QEvent::ReadOnlyChange) return;
   fitLetters();
   emit lockChanged();
-}
-
-// On black ground the boxes need an edge of their own; the one that is typed into is lit already.
-void FormBox::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
-  if (hasFocus() || !losesEdges(palette())) return;
-  QPainter painter(this);
-  painter.setPen(separatorColour(palette()));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 // The menu bar takes the focus for as long as it is worked with; the box counts as the place where

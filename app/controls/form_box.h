@@ -45,7 +45,6 @@ class FormBox final : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
 
  private:
   [[nodiscard]] int room() const;

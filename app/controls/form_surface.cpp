@@ -23,6 +23,7 @@ FormSurface::FormSurface(QWidget* parent) : QWidget(parent) {
 }
 
 void FormSurface::setMoodColour(const QColor& colour) {
+  if (moodColour_ == colour) return;
   moodColour_ = colour;
   update();
 }

@@ -14,6 +14,7 @@ ColourNumbers numbersOf(const HeadingColours& colours) {
 }
 
 void colour(QWidget& label, const QColor& colour) {
+  if (label.palette().color(QPalette::WindowText) == colour) return;  // no repaint for nothing
   QPalette palette;
   palette.setColor(QPalette::WindowText, colour);
   label.setPalette(palette);

@@ -1,45 +1,20 @@
-// The demonstrations, with their clock sped up, from their beginning to an end.
-#include "app/demonstration/demonstration.h"
-
+// The demonstrations, with their clock sped up, from their beginning to their end.
 #include <QComboBox>
 #include <QListWidget>
-#include <QSignalSpy>
 
 #include "app/common/beside.h"
 #include "app/common/text.h"
-#include "tests/window/edited_program.h"
+#include "tests/window/demonstrated_program.h"
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
-namespace {
-
-constexpr int kLimit = 20000;  // milliseconds; a demonstration that is sped up takes far less
-
-// A pointer that is only written down, or that cannot be moved.
-struct WrittenPointer {
-  bool isMovable = true;
-  QPoint place{5, 6};
-  std::vector<QPoint> path;
-
-  app::ScreenPointer port() {
-    return {.position = [this] { return place; },
-            .moveTo =
-                [this](QPoint to) {
-                  if (!isMovable) return false;
-                  path.push_back(place = to);
-                  return true;
-                }};
-  }
-};
-
-}  // namespace
 
 class DemonstrationSuite : public QObject {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
+  void init() { shown_ = std::make_unique<DemonstratedProgram>(); }
+  void cleanup() { shown_.reset(); }
 
   void theFirstTypesAVerbAndConjugatesIt();
   void theFirstTypesOneLetterATick();
@@ -49,114 +24,70 @@ class DemonstrationSuite : public QObject {
   void completionIsOffWhileAVerbIsTyped();
   void everythingIsAsBeforeAfterTheEnd_data();
   void everythingIsAsBeforeAfterTheEnd();
-  void aKeyStopsIt();
-  void aMouseButtonStopsIt();
-  void aShortcutStopsItAndDoesNothingElse();
-  void stoppedAmongTheLettersTheTextComesBack();
-  void stoppedInTheListTheListIsClosed();
   void inEditModeItAsksToSaveFirst();
   void anEditedVerbThatIsKeptKeepsItFromBeginning();
   void theWindowStandsBesideTheMainOneAndOnTheScreen();
 
  private:
-  [[nodiscard]] app::DemonstrationRunner& runner() { return *runner_; }
-  void toItsEnd(int way);
-  void verifyAtRest();
-  [[nodiscard]] QDialog* list() {
-    return program_->window.findChild<QDialog*>(QStringLiteral("frmLista"));
-  }
-
-  std::unique_ptr<EditedProgram> program_;
-  WrittenPointer pointer_;
-  std::unique_ptr<app::DemonstrationRunner> runner_;
+  std::unique_ptr<DemonstratedProgram> shown_;
 };
 
-void DemonstrationSuite::init() {
-  program_ = std::make_unique<EditedProgram>();
-  pointer_ = {};
-  runner_ = std::make_unique<app::DemonstrationRunner>(
-      program_->window, program_->program.editing(), pointer_.port());
-  runner_->setPace(0);
-}
-
-void DemonstrationSuite::cleanup() {
-  runner_.reset();
-  program_.reset();
-}
-
-void DemonstrationSuite::toItsEnd(int way) {
-  runner().run(way);
-  QVERIFY(runner().isRunning());
-  QTRY_VERIFY_WITH_TIMEOUT(!runner().isRunning(), kLimit);
-}
-
-void DemonstrationSuite::verifyAtRest() {
-  for (const char* name : {"timCzas", "timCzas2", "timCzasClick", "timCzasLiterki"}) {
-    const auto timers = program_->window.findChildren<QTimer*>(QLatin1String(name));
-    QVERIFY2(!timers.isEmpty(), name);
-    for (const QTimer* timer : timers) QVERIFY2(!timer->isActive(), name);
-  }
-  QVERIFY(list() == nullptr || !list()->isVisible());
-  QVERIFY(QApplication::activePopupWidget() == nullptr);
-  QCOMPARE(pointer_.place, QPoint(5, 6));
-}
-
 void DemonstrationSuite::theFirstTypesAVerbAndConjugatesIt() {
-  toItsEnd(0);
-  QTRY_COMPARE(program_->form(0), "chante");
-  QCOMPARE(program_->form(96), "chanter");
-  verifyAtRest();
+  shown_->toItsEnd(0);
+  QTRY_COMPARE(shown_->form(0), "chante");
+  QCOMPARE(shown_->form(96), "chanter");
+  shown_->verifyAtRest();
 }
 
 void DemonstrationSuite::theFirstTypesOneLetterATick() {
   QStringList texts;
-  connect(&program_->entry(), &QLineEdit::textChanged, this,
+  connect(&shown_->entry(), &QLineEdit::textChanged, this,
           [&](const QString& text) { texts.append(text); });
-  toItsEnd(0);
+  shown_->toItsEnd(0);
   QCOMPARE(texts.mid(0, 7), (QStringList{"c", "ch", "cha", "chan", "chant", "chante", "chanter"}));
 }
 
 void DemonstrationSuite::theSecondPicksAVerbFromTheList() {
-  toItsEnd(1);
-  QTRY_COMPARE(program_->form(96), "naître");
-  QCOMPARE(program_->form(0), "nais");
-  QVERIFY(list() != nullptr);
-  QCOMPARE(list()->findChild<QComboBox*>("cmbLista")->currentText(), "n");
-  verifyAtRest();
+  shown_->toItsEnd(1);
+  QTRY_COMPARE(shown_->form(96), "naître");
+  QCOMPARE(shown_->form(0), "nais");
+  QVERIFY(shown_->list() != nullptr);
+  QCOMPARE(shown_->list()->findChild<QComboBox*>("cmbLista")->currentText(), "n");
+  shown_->verifyAtRest();
 }
 
 void DemonstrationSuite::thePointerGoesToTheBoxInSmallSteps() {
-  toItsEnd(0);
-  const QPoint box = program_->entry().mapToGlobal(program_->entry().rect().center());
-  QVERIFY(pointer_.path.size() > 15);
-  QCOMPARE(pointer_.path[pointer_.path.size() - 2], box);  // the last is the way back
+  shown_->toItsEnd(0);
+  const QPoint box = shown_->entry().mapToGlobal(shown_->entry().rect().center());
+  QVERIFY(shown_->pointer.path.size() > 15);
+  QCOMPARE(shown_->pointer.path[shown_->pointer.path.size() - 2], box);  // the last is the way back
   QPoint last(5, 6);
-  for (std::size_t i = 0; i + 1 < pointer_.path.size(); ++i) {
-    QVERIFY((pointer_.path[i] - last).manhattanLength() < 90);
-    last = pointer_.path[i];
+  for (std::size_t i = 0; i + 1 < shown_->pointer.path.size(); ++i) {
+    QVERIFY((shown_->pointer.path[i] - last).manhattanLength() < 90);
+    last = shown_->pointer.path[i];
   }
 }
 
 void DemonstrationSuite::wherePointersCannotBeMovedBothStillConjugate() {
-  pointer_.isMovable = false;
-  toItsEnd(0);
-  QTRY_COMPARE(program_->form(0), "chante");
-  toItsEnd(1);
-  QTRY_COMPARE(program_->form(0), "nais");
-  QVERIFY(pointer_.path.empty());
-  verifyAtRest();
+  shown_->pointer.isMovable = false;
+  shown_->toItsEnd(0);
+  QTRY_COMPARE(shown_->form(0), "chante");
+  shown_->toItsEnd(1);
+  QTRY_COMPARE(shown_->form(0), "nais");
+  QVERIFY(shown_->pointer.path.empty());
+  shown_->verifyAtRest();
 }
 
 void DemonstrationSuite::completionIsOffWhileAVerbIsTyped() {
-  QAction& completion = app::menuItem(*program_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
+  QAction& completion = app::menuItem(*shown_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
   completion.setChecked(true);
   bool wasOn = false;
-  connect(&program_->entry(), &QLineEdit::textEdited, this,
+  connect(&shown_->entry(), &QLineEdit::textEdited, this,
           [&] { wasOn = wasOn || completion.isChecked(); });
-  toItsEnd(0);
+  shown_->toItsEnd(0);
   QVERIFY(!wasOn);
   QVERIFY(completion.isChecked());
-  QVERIFY(program_->store.isCompletionOn());
+  QVERIFY(shown_->store.isCompletionOn());
 }
 
 void DemonstrationSuite::everythingIsAsBeforeAfterTheEnd_data() {
@@ -171,78 +102,23 @@ void DemonstrationSuite::everythingIsAsBeforeAfterTheEnd_data() {
 void DemonstrationSuite::everythingIsAsBeforeAfterTheEnd() {
   QFETCH(int, way);
   QFETCH(bool, isCompletionOn);
-  QAction& completion = app::menuItem(*program_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
+  QAction& completion = app::menuItem(*shown_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
   completion.setChecked(isCompletionOn);
-  toItsEnd(way);
-  verifyAtRest();
+  shown_->toItsEnd(way);
+  shown_->verifyAtRest();
   QCOMPARE(completion.isChecked(), isCompletionOn);
-  QVERIFY(program_->messages.shown.empty());
-}
-
-void DemonstrationSuite::aKeyStopsIt() {
-  runner().run(0);
-  QTest::keyClick(&program_->entry(), Qt::Key_X);
-  QVERIFY(!runner().isRunning());
-  QCOMPARE(program_->entry().text(), "infinitif");
-  verifyAtRest();
-}
-
-void DemonstrationSuite::aMouseButtonStopsIt() {
-  QSignalSpy finished(&runner(), &app::DemonstrationRunner::finished);
-  runner().run(1);
-  QTest::mouseClick(&program_->widget<QPushButton>("cmdOdmień"), Qt::LeftButton);
-  QVERIFY(!runner().isRunning());
-  QCOMPARE(finished.size(), 1);
-  QCoreApplication::processEvents();
-  QCOMPARE(program_->form(0), "");  // the button that stopped it was not clicked
-  verifyAtRest();
-}
-
-void DemonstrationSuite::aShortcutStopsItAndDoesNothingElse() {
-  QAction command;
-  command.setShortcut(Qt::Key_F5);
-  program_->window.addAction(&command);
-  QSignalSpy commanded(&command, &QAction::triggered);
-  runner().run(0);
-  QTest::keyClick(&program_->entry(), Qt::Key_F5);
-  QVERIFY(!runner().isRunning());
-  QVERIFY(commanded.isEmpty());
-  QTest::keyClick(&program_->entry(), Qt::Key_F5);
-  QCOMPARE(commanded.size(), 1);
-}
-
-void DemonstrationSuite::stoppedAmongTheLettersTheTextComesBack() {
-  connect(&program_->entry(), &QLineEdit::textChanged, &runner(), [&](const QString& text) {
-    if (text != "cha") return;
-    QMetaObject::invokeMethod(
-        &runner(), [&] { QTest::keyClick(&program_->entry(), Qt::Key_Escape); },
-        Qt::QueuedConnection);
-  });
-  toItsEnd(0);
-  QCOMPARE(program_->entry().text(), "infinitif");
-  QCOMPARE(program_->form(0), "");
-  verifyAtRest();
-}
-
-void DemonstrationSuite::stoppedInTheListTheListIsClosed() {
-  runner().setPace(0.2);  // slow enough for the list to be seen
-  runner().run(1);
-  QTRY_VERIFY_WITH_TIMEOUT(list() != nullptr && list()->isVisible(), kLimit);
-  QVERIFY(runner().isRunning());
-  QTest::mouseClick(list(), Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
-  QVERIFY(!runner().isRunning());
-  verifyAtRest();
+  QVERIFY(shown_->messages.shown.empty());
 }
 
 void DemonstrationSuite::inEditModeItAsksToSaveFirst() {
-  program_->edit("parler");
-  program_->box(0).setText("x");
-  QTest::keyClick(&program_->box(0), Qt::Key_Y);
-  program_->messages.answer = dictionary::Button::no;
-  toItsEnd(0);
-  QCOMPARE(program_->messages.shown.size(), 1U);
-  QVERIFY(!program_->isEditing());
-  QTRY_COMPARE(program_->form(0), "chante");
+  shown_->edit("parler");
+  shown_->box(0).setText("x");
+  QTest::keyClick(&shown_->box(0), Qt::Key_Y);
+  shown_->messages.answer = dictionary::Button::no;
+  shown_->toItsEnd(0);
+  QCOMPARE(shown_->messages.shown.size(), 1U);
+  QVERIFY(!shown_->isEditing());
+  QTRY_COMPARE(shown_->form(0), "chante");
 }
 
 // deliberate: edit mode is left like by every other command; what stops these stops it too.
@@ -255,11 +131,11 @@ void DemonstrationSuite::anEditedVerbThatIsKeptKeepsItFromBeginning() {
     bool conjugate(std::string_view) override { return false; }
     bool print() override { return false; }
   } kept;
-  app::DemonstrationRunner other(program_->window, kept, pointer_.port());
+  app::DemonstrationRunner other(shown_->window, kept, shown_->pointer.port());
   other.run(0);
   QCOMPARE(kept.asked, 1);
   QVERIFY(!other.isRunning());
-  verifyAtRest();
+  shown_->verifyAtRest();
 }
 
 void DemonstrationSuite::theWindowStandsBesideTheMainOneAndOnTheScreen() {

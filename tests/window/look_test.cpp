@@ -42,6 +42,7 @@ class LookSuite : public QObject {
 
  private slots:
   void theProgramCarriesItsFont();
+  void theProgramHasItsIconInEverySize();
   void theProgramSpeaksPolish();
   void headingsAreReadableOnLightAndDark_data();
   void headingsAreReadableOnLightAndDark();
@@ -55,6 +56,15 @@ void LookSuite::theProgramCarriesItsFont() {
   QCOMPARE(QFontInfo(app::programFont()).family(), "Liberation Sans");
   QVERIFY(QFontInfo(bold).bold() && QFontInfo(bold).exactMatch());
   QVERIFY(QFile::exists(":/odmiennik/LiberationSans-Bold.ttf"));
+}
+
+void LookSuite::theProgramHasItsIconInEverySize() {
+  for (const int size : {16, 24, 32, 48, 128})
+    QCOMPARE(QApplication::windowIcon()
+                 .pixmap(QSize(size, size))
+                 .toImage()
+                 .pixelColor(size / 8, size / 2),
+             QColor(0x1D, 0x4F, 0x91));
 }
 
 void LookSuite::theProgramSpeaksPolish() {

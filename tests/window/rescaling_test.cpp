@@ -1,68 +1,16 @@
 // The layout follows the window's size.
-#include <QGroupBox>
 #include <QLabel>
-#include <QScreen>
-#include <random>
 
 #include "app/common/text.h"
-#include "app/controls/placement.h"
-#include "app/layout/scaled_layout.h"
-#include "tests/window/program_run.h"
+#include "tests/window/scaled_program.h"
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
 namespace {
 
-using app::ControlRow;
-using dictionary::Button;
-using dictionary::MessageId;
-
-// The window with one verb shown, and how its size is changed.
-struct ScaledProgram : ProgramUnderTest {
-  QWidget& surface() const { return *entry().parentWidget(); }
-  const app::Layout& layout() const { return window.scaling().layout(); }
-
-  // Gives the surface a size in pixels; the layout has followed when this returns.
-  void resizeTo(QSize size) const {
-    const QSize rest = window.size() - surface().size();
-    window.resize(size + rest);
-    QTRY_COMPARE(surface().size(), size);
-    QTRY_COMPARE(layout().design, (app::TwipSize{size.width() * 15, size.height() * 15}));
-  }
-
-  void maximiseAndRestore() const {
-    const QSize before = surface().size();
-    window.setWindowState(Qt::WindowMaximized);
-    QTRY_VERIFY(surface().size() != before);
-    window.setWindowState(Qt::WindowNoState);
-    QTRY_COMPARE(surface().size(), before);
-  }
-
-  QSize designed() const { return app::place(app::kMainWindow[0]).size(); }
-};
-
 // The control of the layout that belongs to a row.
 const app::LayoutControl& control(const app::Layout& layout, std::size_t row) {
   return layout.controls.at(row - 1);
-}
-
-QString clippedOrOverlapping(const ScaledProgram& program) {
-  QList<QWidget*> widgets = program.surface().findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-  widgets.removeIf([](const QWidget* widget) {
-    return !widget->isVisible() || qobject_cast<const QGroupBox*>(widget) != nullptr;
-  });
-  for (qsizetype i = 0; i < widgets.size(); ++i) {
-    QWidget* widget = widgets[i];
-    if (!program.surface().rect().contains(widget->geometry())) return widget->objectName();
-    if (widget->fontMetrics().height() > widget->height()) return widget->objectName() + " is low";
-    for (qsizetype k = i + 1; k < widgets.size(); ++k)
-      if (widget->geometry().intersects(widgets[k]->geometry()))
-        return widget->objectName() + " on " + widgets[k]->objectName();
-    const auto* label = qobject_cast<QLabel*>(widget);
-    if (label != nullptr && label->sizeHint().width() > label->width())
-      return label->objectName() + " is narrow";
-  }
-  return {};
 }
 
 }  // namespace
@@ -82,11 +30,6 @@ class RescalingSuite : public QObject {
   void aMinimisedWindowIsLeftAlone();
   void restoredFromMinimisedToItsSizeItIsNotRescaled();
   void thePronounsStandBeforeTheirBoxes();
-  void afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped();
-  void nothingIsClippedInAnySmallOrNarrowWindow_data();
-  void nothingIsClippedInAnySmallOrNarrowWindow();
-  void theWindowCannotBecomeTooSmallForItsBoxes();
-  void theLongestFormIsReadableWithoutATooltipAt1024By768();
 };
 
 void RescalingSuite::theWindowStartsAsDesigned() {
@@ -215,59 +158,6 @@ void RescalingSuite::thePronounsStandBeforeTheirBoxes() {
   QVERIFY(inkBefore(0) > 0);
   QVERIFY(inkBefore(89) > 0);
   QCOMPARE(inkBefore(96), 0);
-}
-
-void RescalingSuite::afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped() {
-  const ScaledProgram program;
-  program.conjugate("falloir");
-  std::mt19937 random(50);
-  std::uniform_int_distribution<int> width(640, 1900), height(450, 1000);
-  for (int time = 0; time < 50; ++time) {
-    program.maximiseAndRestore();
-    program.resizeTo({width(random), height(random)});
-    QCOMPARE(clippedOrOverlapping(program), QString());
-  }
-  program.resizeTo(program.designed());
-  QCOMPARE(clippedOrOverlapping(program), QString());
-  // Rounding has taken less than a tenth of a box's width, and its letters have their old size.
-  QVERIFY(program.box(0).width() > 103 * 0.9);
-  QCOMPARE(program.box(0).font().pixelSize(), 11);
-}
-
-void RescalingSuite::nothingIsClippedInAnySmallOrNarrowWindow_data() {
-  QTest::addColumn<QSize>("size");
-  QTest::newRow("smallest") << QSize(599, 411);
-  QTest::newRow("narrow") << QSize(600, 900);
-  QTest::newRow("low") << QSize(1800, 420);
-  QTest::newRow("1366") << QSize(1366, 700);
-  QTest::newRow("1920") << QSize(1920, 1010);
-}
-
-void RescalingSuite::nothingIsClippedInAnySmallOrNarrowWindow() {
-  QFETCH(QSize, size);
-  const ScaledProgram program;
-  program.conjugate("falloir");
-  program.resizeTo(size);
-  QCOMPARE(clippedOrOverlapping(program), QString());
-}
-
-void RescalingSuite::theWindowCannotBecomeTooSmallForItsBoxes() {
-  const ScaledProgram program;
-  program.window.resize(10, 10);
-  QTRY_COMPARE(program.layout().design.width, 599 * 15);
-  QTRY_COMPARE(program.surface().height(), 411);
-  QVERIFY(program.box(0).width() >= 75);
-}
-
-void RescalingSuite::theLongestFormIsReadableWithoutATooltipAt1024By768() {
-  const ScaledProgram program;
-  program.conjugate("s'entr'apprendre");
-  program.resizeTo({1022, 720});
-  QCOMPARE(program.form(87), "nous fussions entr'appris(e)s");
-  for (int slot = 0; slot < engine::kSlotCount; ++slot)
-    QVERIFY2(!program.box(slot).isClipped(), qPrintable(program.form(slot)));
-  program.resizeTo(program.designed());
-  QVERIFY(program.box(87).isClipped());  // shown as a tooltip
 }
 
 std::unique_ptr<QObject> rescalingSuite() { return std::make_unique<RescalingSuite>(); }

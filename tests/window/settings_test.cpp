@@ -1,9 +1,7 @@
 // The settings file as the running program reads and writes it.
 #include <limits>
 
-#include "app/common/text.h"
-#include "tests/unit/dictionary/faulty_files.h"
-#include "tests/window/program_run.h"
+#include "tests/window/coloured_settings.h"
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
@@ -12,13 +10,6 @@ namespace {
 using dictionary::Button;
 using dictionary::MessageId;
 using Messages = std::vector<MessageId>;
-using testing::FaultyFiles;
-
-constexpr char kColoured[] = "0\r\n255\r\n65280\r\n41\r\n1112\r\n";
-
-QColor colourOf(ProgramRun& run, const char* label) {
-  return run.widget<QLabel>(label).palette().color(QPalette::WindowText);
-}
 
 }  // namespace
 
@@ -39,13 +30,6 @@ class SettingsSuite : public QObject {
   void theWordThatResetsDoesNotCount();
   void fullCountersStayFull();
   void theUsersVerbsAreCountedOverRuns();
-  void damageIsToldOnceAndTheProgramWorksOn_data();
-  void damageIsToldOnceAndTheProgramWorksOn();
-  void whatStandsBeforeTheDamageIsTaken();
-  void aDamagedFileChangesNoColour();
-  void aFileThatCannotBeOpenedIsToldOnce();
-  void aFolderThatCannotBeWrittenToIsToldInEachOfItsPlaces();
-  void aFailedSaveKeepsTheOldFileAndClosesTheProgram();
   void resetujAnsweredCancelChangesNothing();
   void resetujAnsweredOkLeavesTheDefaultsAndEndsTheProgram();
   void aResetLeavesTheUsersStoreAlone();
@@ -73,18 +57,18 @@ void SettingsSuite::aFirstRunEndsWithARunCountOfOne() {
 }
 
 void SettingsSuite::theStoredColoursAreApplied() {
-  home_->write("Werbolin.cfg", kColoured);
+  home_->write("Werbolin.cfg", kColouredSettings);
   ProgramRun run(*home_);
-  QVERIFY(colourOf(run, "lblTryb_0") != QColor(Qt::red));
+  QVERIFY(headingColour(run, "lblTryb_0") != QColor(Qt::red));
   run.program.start();
-  QCOMPARE(colourOf(run, "lblTryb_0"), QColor(Qt::red));
-  QCOMPARE(colourOf(run, "lblTryb_5"), QColor(Qt::red));
-  QCOMPARE(colourOf(run, "lblCzas_0"), QColor(Qt::green));
-  QCOMPARE(colourOf(run, "lblCzas_20"), QColor(Qt::green));
+  QCOMPARE(headingColour(run, "lblTryb_0"), QColor(Qt::red));
+  QCOMPARE(headingColour(run, "lblTryb_5"), QColor(Qt::red));
+  QCOMPARE(headingColour(run, "lblCzas_0"), QColor(Qt::green));
+  QCOMPARE(headingColour(run, "lblCzas_20"), QColor(Qt::green));
 }
 
 void SettingsSuite::theColoursOfTheHeadingsAreSaved() {
-  home_->write("Werbolin.cfg", kColoured);
+  home_->write("Werbolin.cfg", kColouredSettings);
   ProgramRun run(*home_);
   run.program.start();
   run.program.window().colours().ApplyColours(16711680, 255);
@@ -94,7 +78,7 @@ void SettingsSuite::theColoursOfTheHeadingsAreSaved() {
 }
 
 void SettingsSuite::anUnchangedFileOnlyCountsTheRun() {
-  home_->write("Werbolin.cfg", kColoured);
+  home_->write("Werbolin.cfg", kColouredSettings);
   ProgramRun run(*home_);
   run.program.start();
   run.program.window().close();
@@ -154,103 +138,19 @@ void SettingsSuite::theUsersVerbsAreCountedOverRuns() {
   QCOMPARE(run.widget<QLineEdit>("txtCzasownik_0").text(), "bricolus");
 }
 
-void SettingsSuite::damageIsToldOnceAndTheProgramWorksOn_data() {
-  QTest::addColumn<QByteArray>("text");
-  QTest::newRow("empty") << QByteArray();
-  QTest::newRow("too few lines") << QByteArray("0\r\n1\r\n2\r\n");
-  QTest::newRow("no numbers") << QByteArray("a\r\nb\r\nc\r\nd\r\n10\r\n");
-  QTest::newRow("decimals") << QByteArray("0\r\n1.5\r\n2\r\n3\r\n10\r\n");
-  QTest::newRow("zz") << QByteArray("0\r\n1\r\n2\r\n3\r\nzz\r\n");
-  QTest::newRow("half a pair") << QByteArray("0\r\n1\r\n2\r\n3\r\n101\r\n");
-  QTest::newRow("2^31") << QByteArray("2147483648\r\n1\r\n2\r\n3\r\n10\r\n");
-  QTest::newRow("encoded 2^31") << QByteArray("0\r\n1\r\n2\r\n3\r\n12111417141813161418\r\n");
-  QTest::newRow("quotes") << QByteArray("\"0\"\"\r\n");
-  QTest::newRow("binary rubbish") << QByteArray("\x00\xFF\x1A\x7F\x80,\x00\r\r\n\xC5", 12);
-  QTest::newRow("very long") << QByteArray(100000, '7');
-  QTest::newRow("many lines") << QByteArray("x\r\n").repeated(100000);
-}
-
-void SettingsSuite::damageIsToldOnceAndTheProgramWorksOn() {
-  QFETCH(QByteArray, text);
-  home_->write("Werbolin.cfg", text.toStdString());
-  ProgramRun run(*home_);
-  run.program.start();
-  QCOMPARE(run.messages.shown, Messages{MessageId::settingsNotRead});
-  run.conjugate("parler");
-  QCOMPARE(run.widget<QLineEdit>("txtCzasownik_0").text(), "parle");
-  run.program.window().close();
-  QCOMPARE(run.messages.shown, (Messages{MessageId::settingsNotRead, MessageId::endProgram}));
-  QCOMPARE(home_->setting(5), "11");
-}
-
-void SettingsSuite::whatStandsBeforeTheDamageIsTaken() {
-  home_->write("Werbolin.cfg", "7\r\n255\r\n65280\r\n41\r\nzz\r\n");
-  ProgramRun run(*home_);
-  run.program.start();
-  QCOMPARE(run.program.userVerbs().count(), 7);
-  QCOMPARE(run.program.settings().conjugationCount(), 41);
-  QCOMPARE(run.program.settings().runCount(), 1);
-}
-
-void SettingsSuite::aDamagedFileChangesNoColour() {
-  home_->write("Werbolin.cfg", "0\r\n255\r\n65280\r\n41\r\nzz\r\n");
-  ProgramRun run(*home_);
-  const QColor mood = colourOf(run, "lblTryb_0"), tense = colourOf(run, "lblCzas_0");
-  run.program.start();
-  QCOMPARE(colourOf(run, "lblTryb_0"), mood);
-  QCOMPARE(colourOf(run, "lblCzas_0"), tense);
-}
-
-// A folder in the file's place can be neither read nor replaced, whoever asks.
-void SettingsSuite::aFileThatCannotBeOpenedIsToldOnce() {
-  std::filesystem::create_directory(home_->path() / "Werbolin.cfg");
-  ProgramRun run(*home_);
-  run.program.start();
-  QCOMPARE(run.messages.shown, Messages{MessageId::settingsNotRead});
-  run.program.window().close();
-  QCOMPARE(run.messages.shown, (Messages{MessageId::settingsNotRead, MessageId::endProgram,
-                                         MessageId::settingsNotWritten}));
-  QCOMPARE(run.ends, 1);
-}
-
-void SettingsSuite::aFolderThatCannotBeWrittenToIsToldInEachOfItsPlaces() {
-  FaultyFiles readOnly(0);
-  ProgramRun run(*home_, readOnly);
-  run.program.start();
-  const Messages atStart{MessageId::settingsNotWritten, MessageId::settingsNotRead};
-  QCOMPARE(run.messages.shown, atStart);
-  run.conjugate("parler");
-  QCOMPARE(run.widget<QLineEdit>("txtCzasownik_0").text(), "parle");
-  QVERIFY(run.program.window().close());
-  QCOMPARE(run.messages.shown.size(), 4U);
-  QCOMPARE(run.messages.shown.back(), MessageId::settingsNotWritten);
-}
-
-void SettingsSuite::aFailedSaveKeepsTheOldFileAndClosesTheProgram() {
-  home_->write("Werbolin.cfg", kColoured);
-  FaultyFiles readOnly(0);
-  ProgramRun run(*home_, readOnly);
-  run.program.start();
-  QVERIFY(run.messages.shown.empty());
-  QVERIFY(run.program.window().close());
-  QCOMPARE(run.messages.shown, (Messages{MessageId::endProgram, MessageId::settingsNotWritten}));
-  QCOMPARE(home_->settings(), kColoured);
-  QCOMPARE(run.ends, 1);
-}
-
 void SettingsSuite::resetujAnsweredCancelChangesNothing() {
-  home_->write("Werbolin.cfg", kColoured);
+  home_->write("Werbolin.cfg", kColouredSettings);
   ProgramRun run(*home_);
   run.program.start();
   run.messages.answer = Button::cancel;
   run.conjugate("resetuj");
   QCOMPARE(run.messages.shown, Messages{MessageId::settingsWillBeReset});
-  QCOMPARE(home_->settings(), kColoured);
+  QCOMPARE(home_->settings(), kColouredSettings);
   QCOMPARE(run.ends, 0);
 }
 
 void SettingsSuite::resetujAnsweredOkLeavesTheDefaultsAndEndsTheProgram() {
-  home_->write("Werbolin.cfg", kColoured);
+  home_->write("Werbolin.cfg", kColouredSettings);
   ProgramRun run(*home_);
   run.program.start();
   run.messages.answer = Button::ok;

@@ -3,7 +3,6 @@
 
 #include "app/controls/form_surface.h"
 #include "app/logic/start_up.h"
-#include "app/main_window/cursors.h"
 #include "tests/window/program_run.h"
 #include "tests/window/suites.h"
 
@@ -19,8 +18,6 @@ struct Layout {
   QString steps;
 };
 
-Qt::CursorShape pointerOf(const QWidget& widget) { return widget.cursor().shape(); }
-
 }  // namespace
 
 class StartUpSuite : public QObject {
@@ -33,10 +30,6 @@ class StartUpSuite : public QObject {
   void theWindowStandsReadyForTheFirstVerb();
   void theCaptionHasTheVersion();
   void thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown();
-  void thePointerIsAnHourglassUntilTheStartIsOver();
-  void theWindowHasAnArrowOfItsOwn();
-  void aHandPointsAtTheHeadingsThatOpenAPage();
-  void theDrawnPointersDiffer();
   void theMarkerOfAFirstStartEndsTheProgramWithoutAQuestion();
   void theMarkerIsFoundWhateverItsCase();
   void aStartThatIsAbortedShowsNoTipAndCountsNoRun();
@@ -102,41 +95,6 @@ void StartUpSuite::thePronounsOfTheEmptyTableStandBeforeTheWindowIsShown() {
   run.program.window().showEmptyTable();
   QVERIFY(!run.program.window().isVisible());
   QCOMPARE(run.program.window().findChild<app::FormSurface*>()->pronouns().pronoun(0), "je");
-}
-
-// A damaged settings file stops the start at a message, where the pointer can be looked at.
-void StartUpSuite::thePointerIsAnHourglassUntilTheStartIsOver() {
-  home_->write("Werbolin.cfg", "x");
-  ProgramRun run(*home_);
-  auto whileStarting = Qt::BlankCursor;
-  run.messages.whileShown = [&] { whileStarting = pointerOf(run.program.window()); };
-  run.program.start();
-  QCOMPARE(whileStarting, Qt::WaitCursor);
-  QCOMPARE(pointerOf(run.program.window()), Qt::BitmapCursor);
-}
-
-void StartUpSuite::theWindowHasAnArrowOfItsOwn() {
-  const QCursor arrow = app::arrowCursor();
-  QCOMPARE(arrow.shape(), Qt::BitmapCursor);
-  QCOMPARE(arrow.pixmap().deviceIndependentSize(), QSizeF(32, 32));
-  QVERIFY(arrow.pixmap().toImage().pixelColor(arrow.hotSpot() + QPoint(1, 3)).alpha() == 255);
-}
-
-void StartUpSuite::aHandPointsAtTheHeadingsThatOpenAPage() {
-  ProgramRun run(*home_);
-  run.program.start();
-  const QImage hand = app::handCursor().pixmap().toImage();
-  for (int heading = 0; heading < 21; ++heading) {
-    const auto& label = run.widget<QLabel>(qPrintable(QString("lblCzas_%1").arg(heading)));
-    const bool isHand = label.cursor().pixmap().toImage() == hand;
-    QVERIFY2(isHand == (heading <= 16), qPrintable(label.objectName()));
-  }
-}
-
-void StartUpSuite::theDrawnPointersDiffer() {
-  const QCursor hand = app::handCursor();
-  QVERIFY(hand.pixmap().toImage() != app::arrowCursor().pixmap().toImage());
-  QVERIFY(hand.pixmap().toImage().pixelColor(hand.hotSpot()).alpha() > 0);
 }
 
 void StartUpSuite::theMarkerOfAFirstStartEndsTheProgramWithoutAQuestion() {

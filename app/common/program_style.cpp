@@ -1,0 +1,66 @@
+// The frames of boxes.
+#include "app/common/program_style.h"
+
+#include <qdrawutil.h>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QStyleOption>
+
+#include "app/common/colours.h"
+
+namespace odmiennik::app {
+namespace {
+
+// What is kept of a frame: its corners; what lies between them is drawn out.
+constexpr int kCorner = 4;
+constexpr int kSide = 3 * kCorner;
+
+bool isPlain(const QStyleOption& option) {
+  return option.rect.width() > kSide && option.rect.height() > kSide;
+}
+
+// On black ground; the box that is typed into is lit already.
+bool needsEdge(const QStyleOption& option) {
+  return losesEdges(option.palette) && !option.state.testFlag(QStyle::State_HasFocus);
+}
+
+}  // namespace
+
+ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
+  if (element != PE_FrameLineEdit || !isPlain(*option))
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const QPixmap frame = frameOf(*option, painter->device()->devicePixelRatio());
+  qDrawBorderPixmap(painter, option->rect, QMargins(kCorner, kCorner, kCorner, kCorner), frame);
+}
+
+QPixmap ProgramStyle::frameOf(const QStyleOption& option, qreal pixelRatio) const {
+  const QString key = QStringLiteral("odmiennik-frame-%1-%2-%3")
+                          .arg(option.palette.cacheKey())
+                          .arg(option.state.toInt())
+                          .arg(pixelRatio);
+  QPixmap frame;
+  if (QPixmapCache::find(key, &frame)) return frame;
+  frame = paintedFrame(option, pixelRatio);
+  QPixmapCache::insert(key, frame);
+  return frame;
+}
+
+QPixmap ProgramStyle::paintedFrame(const QStyleOption& option, qreal pixelRatio) const {
+  QPixmap frame(QSize(kSide, kSide) * pixelRatio);
+  frame.setDevicePixelRatio(pixelRatio);
+  frame.fill(Qt::transparent);
+  QPainter painter(&frame);
+  QStyleOption small(option);
+  small.rect = QRect(0, 0, kSide, kSide);
+  QProxyStyle::drawPrimitive(PE_FrameLineEdit, &small, &painter, nullptr);
+  if (needsEdge(option)) {
+    painter.setPen(separatorColour(option.palette));
+    painter.drawRect(small.rect.adjusted(0, 0, -1, -1));
+  }
+  return frame;
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,102 @@
+// Whatever size the window has been given, nothing overlaps and everything can be read.
+#include <QGroupBox>
+#include <QLabel>
+#include <random>
+
+#include "tests/window/scaled_program.h"
+#include "tests/window/suites.h"
+
+namespace odmiennik::window_test {
+namespace {
+
+// The first widget that overlaps another or cannot be read; empty when there is none.
+QString clippedOrOverlapping(const ScaledProgram& program) {
+  QList<QWidget*> widgets = program.surface().findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  widgets.removeIf([](const QWidget* widget) {
+    return !widget->isVisible() || qobject_cast<const QGroupBox*>(widget) != nullptr;
+  });
+  for (qsizetype i = 0; i < widgets.size(); ++i) {
+    QWidget* widget = widgets[i];
+    if (!program.surface().rect().contains(widget->geometry())) return widget->objectName();
+    if (widget->fontMetrics().height() > widget->height()) return widget->objectName() + " is low";
+    for (qsizetype k = i + 1; k < widgets.size(); ++k)
+      if (widget->geometry().intersects(widgets[k]->geometry()))
+        return widget->objectName() + " on " + widgets[k]->objectName();
+    const auto* label = qobject_cast<QLabel*>(widget);
+    if (label != nullptr && label->sizeHint().width() > label->width())
+      return label->objectName() + " is narrow";
+  }
+  return {};
+}
+
+}  // namespace
+
+class ClippingSuite : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped();
+  void nothingIsClippedInAnySmallOrNarrowWindow_data();
+  void nothingIsClippedInAnySmallOrNarrowWindow();
+  void theWindowCannotBecomeTooSmallForItsBoxes();
+  void theLongestFormIsReadableWithoutATooltipAt1024By768();
+};
+
+void ClippingSuite::afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped() {
+  const ScaledProgram program;
+  program.conjugate("falloir");
+  std::mt19937 random(50);
+  std::uniform_int_distribution<int> width(640, 1900), height(450, 1000);
+  for (int time = 0; time < 50; ++time) {
+    program.maximiseAndRestore();
+    program.resizeTo({width(random), height(random)});
+    QCOMPARE(clippedOrOverlapping(program), QString());
+  }
+  program.resizeTo(program.designed());
+  QCOMPARE(clippedOrOverlapping(program), QString());
+  // Rounding has taken less than a tenth of a box's width, and its letters have their old size.
+  QVERIFY(program.box(0).width() > 103 * 0.9);
+  QCOMPARE(program.box(0).font().pixelSize(), 11);
+}
+
+void ClippingSuite::nothingIsClippedInAnySmallOrNarrowWindow_data() {
+  QTest::addColumn<QSize>("size");
+  QTest::newRow("smallest") << QSize(599, 411);
+  QTest::newRow("narrow") << QSize(600, 900);
+  QTest::newRow("low") << QSize(1800, 420);
+  QTest::newRow("1366") << QSize(1366, 700);
+  QTest::newRow("1920") << QSize(1920, 1010);
+}
+
+void ClippingSuite::nothingIsClippedInAnySmallOrNarrowWindow() {
+  QFETCH(QSize, size);
+  const ScaledProgram program;
+  program.conjugate("falloir");
+  program.resizeTo(size);
+  QCOMPARE(clippedOrOverlapping(program), QString());
+}
+
+void ClippingSuite::theWindowCannotBecomeTooSmallForItsBoxes() {
+  const ScaledProgram program;
+  program.window.resize(10, 10);
+  QTRY_COMPARE(program.layout().design.width, 599 * 15);
+  QTRY_COMPARE(program.surface().height(), 411);
+  QVERIFY(program.box(0).width() >= 75);
+}
+
+void ClippingSuite::theLongestFormIsReadableWithoutATooltipAt1024By768() {
+  const ScaledProgram program;
+  program.conjugate("s'entr'apprendre");
+  program.resizeTo({1022, 720});
+  QCOMPARE(program.form(87), "nous fussions entr'appris(e)s");
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    QVERIFY2(!program.box(slot).isClipped(), qPrintable(program.form(slot)));
+  program.resizeTo(program.designed());
+  QVERIFY(program.box(87).isClipped());  // shown as a tooltip
+}
+
+std::unique_ptr<QObject> clippingSuite() { return std::make_unique<ClippingSuite>(); }
+
+}  // namespace odmiennik::window_test
+
+#include "clipping_test.moc"
