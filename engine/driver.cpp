@@ -11,8 +11,17 @@ namespace {
 constexpr std::string_view kResetWord = "resetuj";
 
 bool isVerbShown(const Conjugation& conjugation, std::string_view typed) {
-  return conjugation.flags.isConjugationShown &&
-         lookupKey(typed) == conjugation.flags.normalizedInput;
+  std::string asTyped, asShown;
+  normalize(typed, asTyped);
+  normalize(conjugation.forms[slot::kInfinitive], asShown);
+  return conjugation.flags.isConjugationShown && asTyped == asShown;
+}
+
+// Of a verb that has both, the auxiliary that the user has chosen is not lost to its record.
+void keepAuxiliary(std::uint8_t chosen, Conjugation& conjugation) {
+  const bool isFree =
+      conjugation.information.chkZAvoir.isEnabled && !conjugation.flags.isPronominal;
+  if (isFree) setAuxiliary(chosen, conjugation.flags, conjugation.information);
 }
 
 void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
@@ -37,7 +46,7 @@ Outcome Driver::conjugate(Conjugation& conjugation, std::string_view typed) {
   conjugation.flags.isConjugationShown = false;
   setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
   conjugation.forms[slot::kInfinitive].assign(typed);
-  const Outcome outcome = fill(conjugation, false);
+  const Outcome outcome = fill(conjugation, false, std::nullopt);
   if (outcome == Outcome::reset) return outcome;
   show(conjugation, false);
   conjugation.flags.isConjugationShown = true;
@@ -45,11 +54,14 @@ Outcome Driver::conjugate(Conjugation& conjugation, std::string_view typed) {
 }
 
 Outcome Driver::conjugateForEditing(Conjugation& conjugation, std::string_view typed) {
-  if (!isVerbShown(conjugation, typed))
+  std::optional<std::uint8_t> chosen;
+  if (isVerbShown(conjugation, typed))
+    chosen = conjugation.flags.auxiliary;
+  else
     setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
   conjugation.flags.isConjugationShown = false;
   conjugation.forms[slot::kInfinitive].assign(typed);
-  const Outcome outcome = fill(conjugation, true);
+  const Outcome outcome = fill(conjugation, true, chosen);
   if (outcome == Outcome::reset) return outcome;
   show(conjugation, true);
   conjugation.information.chkZAvoir.isEnabled = true;
@@ -71,7 +83,7 @@ void Driver::show(Conjugation& conjugation, bool isEditing) {
   flags.isPronominal = false;
 }
 
-Outcome Driver::fill(Conjugation& conjugation, bool isEditing) {
+Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std::uint8_t> chosen) {
   EngineFlags& flags = conjugation.flags;
   conjugation.source = Source::none;
   conjugation.model = {};
@@ -84,6 +96,7 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing) {
   const std::string_view record = ports_.index.record(flags.normalizedInput);
   applyRecord(record, flags, conjugation.information);
   if (flags.isPronominal) applyPronominal(flags, conjugation.information);
+  if (chosen) keepAuxiliary(*chosen, conjugation);
   if (loadUserVerb(conjugation, isEditing) || loadBuiltinVerb(conjugation, isEditing))
     return Outcome::conjugated;
   return conjugateByRule(conjugation, !record.empty(), isEditing);

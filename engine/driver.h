@@ -1,6 +1,7 @@
 // The driver: takes an infinitive to a filled and displayed form table.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "engine/conjugation.h"
@@ -33,7 +34,9 @@ class Driver {
   static void toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEditing);
 
  private:
-  Outcome fill(Conjugation& conjugation, bool isEditing);
+  // `chosen` is the auxiliary that the user has chosen for the verb that is shown, if it is this
+  // one.
+  Outcome fill(Conjugation& conjugation, bool isEditing, std::optional<std::uint8_t> chosen);
   bool loadUserVerb(Conjugation& conjugation, bool isEditing);
   bool loadBuiltinVerb(Conjugation& conjugation, bool isEditing);
   Outcome conjugateByRule(Conjugation& conjugation, bool isKnown, bool isEditing);

@@ -82,6 +82,25 @@ TEST(EditMode, KeepsTheAuxiliaryOfTheVerbThatIsShown) {
   EXPECT_EQ(program.box(24), "suis trululé(e)");
 }
 
+TEST(EditMode, KeepsTheAuxiliaryChosenOfTwo) {
+  TestProgram program;
+  program.tellRecord("trululer", "|1|1|1|3");
+  program.conjugate("trululer");
+  program.chooseAuxiliary(kEtre);
+  program.edit("trululer");
+  EXPECT_EQ(program.state().flags.auxiliary, kEtre);
+  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.box(24), "suis trululé(e)");
+}
+
+TEST(EditMode, TakesTheAuxiliaryOfAVerbThatHasButOne) {
+  TestProgram program;
+  program.tellRecord("trululer", "|1|1|1|1");
+  program.conjugate("se trululer");
+  program.edit("trululer");
+  EXPECT_EQ(program.state().flags.auxiliary, kAvoir);
+}
+
 TEST(EditMode, StartsWithAvoirForAnotherVerb) {
   TestProgram program;
   program.conjugate("aller");
