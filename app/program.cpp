@@ -36,8 +36,11 @@ Program::Program(const Surroundings& given)
     given.end();
     return false;
   });
+  demonstration_.suspendCompletionWith(
+      [this](bool isSuspended) { typing_.suspendCompletion(isSuspended); });
   editing_.printWith([this] { return printing_.print(); });
   closing_.askWith([this] { return editing_.leaveForClosing(); });
+  closing_.stayWith([this] { editing_.stay(); });
   tips_.demonstrateWith(
       [&messages = given.messages] { messages.show(dictionary::MessageId::demonstrationWillRun); },
       [this](int way) { demonstration_.run(way); });
@@ -56,7 +59,7 @@ LayoutPort Program::layout() {
 HeadingColourPort Program::headingColours() {
   LiveColours& colours = window_.colours();
   return {[&colours] { return colours.design(); }, [&colours] { return colours.live(); },
-          [&colours](ColourNumbers numbers) { colours.ApplyColours(numbers.mood, numbers.tense); }};
+          [&colours](ColourNumbers numbers) { colours.adopt(numbers); }};
 }
 
 }  // namespace odmiennik::app

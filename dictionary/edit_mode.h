@@ -72,6 +72,10 @@ class EditMode {
   // The program has filled the boxes with the conjugation of `infinitive` (slot 96).
   void filled(std::string_view infinitive);
 
+  // The window stays after all, though it has been asked to close: changes that were given up by an
+  // answer No are changes again.
+  void stay() { isGivenUp_ = false; }
+
   [[nodiscard]] bool isEditing() const { return isEditing_; }
   // The tag of mnuEdycjaEdytujCzasownik.
   [[nodiscard]] std::string_view marker() const { return isEditing_ ? "edit" : ""; }

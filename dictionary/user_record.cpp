@@ -11,6 +11,7 @@ namespace odmiennik::dictionary {
 namespace {
 
 constexpr int kFieldCount = engine::kSlotCount + 1;
+constexpr std::string_view kLineEnd = "\r\n";
 
 void appendForm(std::string& line, std::string_view form) {
   for (const char letter : engine::trimmed(form))
@@ -21,7 +22,7 @@ void appendForm(std::string& line, std::string_view form) {
 void appendFlag(std::string& line, std::uint8_t flag) {
   line += ' ';
   line += std::to_string(flag);
-  line += "\r\n";
+  line += kLineEnd;
 }
 
 struct RecordParts {
@@ -88,6 +89,11 @@ std::string recordLine(const UserVerbRecord& record) {
   for (const std::string& form : record.forms) appendForm(line, form);
   appendFlag(line, record.auxiliary);
   return line;
+}
+
+bool isReadable(const UserVerbRecord& record) {
+  const std::string line = recordLine(record);
+  return outlineOf(std::string_view(line).substr(0, line.size() - kLineEnd.size())).has_value();
 }
 
 std::string rewrittenLine(std::string_view line) {

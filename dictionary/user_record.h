@@ -45,8 +45,12 @@ void readForms(std::string_view line, engine::FormTable& forms);
 // and the flag, CR LF. A line break inside a form becomes a blank, since it would end the record.
 [[nodiscard]] std::string recordLine(const UserVerbRecord& record);
 
-// The same for a record read from a line. Fields between slot 100 and the flag, left there by a
-// form with a comma, stay.
+// Whether the record's line could be read back: not where a form begins with a double quote, which
+// takes the rest of the line.
+[[nodiscard]] bool isReadable(const UserVerbRecord& record);
+
+// The same as recordLine for a record read from a line. Fields between slot 100 and the flag, left
+// there by a form with a comma, stay.
 [[nodiscard]] std::string rewrittenLine(std::string_view line);
 
 }  // namespace odmiennik::dictionary

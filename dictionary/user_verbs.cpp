@@ -66,6 +66,10 @@ bool UserVerbsFile::visitRecords(std::int64_t limit, const Visit& isEnough) {
 }
 
 SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
+  if (!isReadable(record)) {
+    messages_.show(MessageId::formCannotBeSaved);
+    return SaveResult::failed;
+  }
   const CopyResult copied = rewriteWith(record);
   if (!copied.isComplete) {
     messages_.show(MessageId::userVerbsNotSaved);

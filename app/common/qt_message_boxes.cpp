@@ -2,7 +2,9 @@
 #include "app/common/qt_message_boxes.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -41,6 +43,31 @@ QMessageBox::Icon iconOf(Icon icon) {
   return QMessageBox::NoIcon;
 }
 
+// Whether Escape may answer: not where the answer No would throw something away.
+bool mayEscape(const dictionary::MessageRow& row) {
+  return contains(row.buttons, Button::cancel) || !contains(row.buttons, Button::no) ||
+         row.defaultButton == Button::no;
+}
+
+// A box that may have to be answered with one of its buttons.
+class AnsweredBox final : public QMessageBox {
+ public:
+  explicit AnsweredBox(const dictionary::MessageRow& row)
+      : QMessageBox(QApplication::activeWindow()), mayEscape_(mayEscape(row)) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (mayEscape_ || !event->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (mayEscape_) return QMessageBox::closeEvent(event);
+    event->ignore();
+  }
+
+ private:
+  bool mayEscape_;
+};
+
 void addButtons(QMessageBox& box, const dictionary::MessageRow& row) {
   for (const ButtonPair& pair : kButtons) {
     if (!contains(row.buttons, pair.button)) continue;
@@ -62,9 +89,10 @@ Button answerOf(int standard) {
 Button QtMessageBoxes::show(dictionary::MessageId id, std::string_view argument) {
   const dictionary::MessageRow& row = dictionary::row(id);
   const std::string_view title = row.title.empty() ? dictionary::kApplicationTitle : row.title;
-  QMessageBox box(iconOf(row.icon), fromUtf8(title),
-                  fromUtf8(dictionary::messageText(id, argument)), QMessageBox::NoButton,
-                  QApplication::activeWindow());
+  AnsweredBox box(row);
+  box.setIcon(iconOf(row.icon));
+  box.setWindowTitle(fromUtf8(title));
+  box.setText(fromUtf8(dictionary::messageText(id, argument)));
   box.setTextFormat(Qt::PlainText);  // a verb typed by the user is no mark-up
   addButtons(box, row);
   return answerOf(box.exec());

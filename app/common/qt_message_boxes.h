@@ -6,7 +6,8 @@
 namespace odmiennik::app {
 
 // Shows each message over the active window and waits for its answer. Escape answers like the
-// button that changes nothing: Cancel, No, or the only OK.
+// button that changes nothing: Cancel, the only OK, or No where it is the default; a question whose
+// No throws something away has to be answered.
 class QtMessageBoxes final : public dictionary::MessageBoxes {
  public:
   dictionary::Button show(dictionary::MessageId id, std::string_view argument = {}) override;

@@ -3,6 +3,8 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 #include "app/controls/control_table.h"
 #include "app/controls/placement.h"
@@ -13,6 +15,16 @@ namespace {
 bool isDecoration(const ControlRow& row) {
   return row.kind == ControlKind::panel || row.kind == ControlKind::shape ||
          row.kind == ControlKind::line;
+}
+
+// A rule on whole pixels of the screen, one at least: one thinner than that, in a small window,
+// would fall between them and not be seen.
+QRectF visible(const QRectF& rule, qreal pixelRatio) {
+  const auto onPixel = [pixelRatio](qreal value) {
+    return std::round(value * pixelRatio) / pixelRatio;
+  };
+  const qreal height = std::max(onPixel(rule.height()), 1 / pixelRatio);
+  return {onPixel(rule.x()), onPixel(rule.y()), onPixel(rule.width()), height};
 }
 
 }  // namespace
@@ -63,7 +75,7 @@ void FormSurface::paint(QPainter& painter, const Decoration& decoration) const {
       painter.drawLine(place.topLeft(), place.bottomRight());
       break;
     default:
-      painter.fillRect(place, moodColour_);
+      painter.fillRect(visible(place, painter.device()->devicePixelRatio()), moodColour_);
   }
 }
 

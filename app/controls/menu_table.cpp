@@ -13,7 +13,7 @@ constexpr MenuRow kRows[] = {
     {menu, "mnuPlik", "&Plik", ready},
     {item, "mnuPlikZapiszCzasownik", "&Zapisz Czasownik", unavailable, "Ctrl+S"},
     {separator, "mnuPlikLinia1", ""},
-    {item, "mnuPlikDrukuj", "&Drukuj", ready},
+    {item, "mnuPlikDrukuj", "&Drukuj", ready, "Ctrl+P"},
     {item, "mnuPlikUstawieniaDrukarki", "&Ustawienia drukarki", ready},
     {separator, "mnuPlikLinia2", ""},
     {item, "mnuPlikKoniec", "&Koniec", ready, "Ctrl+Q"},

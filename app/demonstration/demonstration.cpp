@@ -48,7 +48,6 @@ DemonstrationRunner::DemonstrationRunner(QMainWindow& window, dictionary::MainCo
       window_(window),
       commands_(commands),
       pointer_(std::move(pointer)),
-      completion_(menuItem(*window.menuBar(), "mnuCzasownikAutouzupełnianie")),
       places_(window),
       timCzas(timerOf(window, "timCzas")),
       timCzas2(timerOf(window, "timCzas2")),
@@ -71,8 +70,7 @@ void DemonstrationRunner::run(int way) {
 
 void DemonstrationRunner::rememberAndSwitchOff() {
   pointerBefore_ = pointer_.position();
-  wasCompletionOn_ = completion_.isChecked();
-  completion_.setChecked(false);
+  suspend_(true);
   window_.activateWindow();  // the key that stops must arrive here
   qApp->installEventFilter(this);
 }
@@ -91,7 +89,7 @@ void DemonstrationRunner::restore() {
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   if (QDialog* list = places_.list()) list->close();
   restoreText();
-  completion_.setChecked(wasCompletionOn_);
+  suspend_(false);
   pointer_.moveTo(pointerBefore_);
 }
 

@@ -2,10 +2,10 @@
 // eyes.
 #pragma once
 
-#include <QAction>
 #include <QLineEdit>
 #include <QObject>
 #include <QTimer>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -20,7 +20,7 @@ namespace odmiennik::app {
 
 // Runs on the main window, one demonstration at a time. Any key or mouse button of the user stops
 // it and does nothing else. Afterwards, however it ended, the timers rest, the verb list is closed,
-// and the switch of the completion and the pointer are as they were before.
+// and completion and the pointer are as they were before.
 class DemonstrationRunner final : public QObject {
   Q_OBJECT
 
@@ -35,6 +35,10 @@ class DemonstrationRunner final : public QObject {
   void stop();
 
   [[nodiscard]] bool isRunning() const { return isRunning_; }
+
+  // Called with true when a demonstration begins and with false when it is over, however it ended:
+  // the letters that it types are not to be completed.
+  void suspendCompletionWith(std::function<void(bool)> suspend) { suspend_ = std::move(suspend); }
 
   // Lets a demonstration take `pace` times as long: 0.5 is twice as fast, 0 is without any pause.
   void setPace(double pace) { pace_ = pace; }
@@ -65,7 +69,6 @@ class DemonstrationRunner final : public QObject {
   QMainWindow& window_;
   dictionary::MainCommands& commands_;
   ScreenPointer pointer_;
-  QAction& completion_;
   DemonstrationPlaces places_;
   DemonstrationHand hand_;
   QTimer& timCzas;         // the pause before the next step
@@ -83,7 +86,7 @@ class DemonstrationRunner final : public QObject {
   QString letters_;                    // still to be typed
   std::optional<QString> textBefore_;  // while the verb is being typed over it
   QPoint pointerBefore_;
-  bool wasCompletionOn_ = false;
+  std::function<void(bool)> suspend_ = [](bool) {};
 };
 
 }  // namespace odmiennik::app

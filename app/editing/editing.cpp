@@ -21,6 +21,8 @@ Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVer
   connectCommands();
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);
+  // The auxiliary is saved with the forms.
+  connect(&window_, &MainWindow::auxiliaryEdited, this, &Editing::boxChanged);
 }
 
 // Queued, since a command may open a message box: whoever gave it (a screen reader, the menu) is

@@ -34,6 +34,9 @@ class Editing final : public QObject, public dictionary::MainCommands {
   // Asked when the window is to be closed, once the user has said that it may be.
   [[nodiscard]] bool leaveForClosing() { return run(dictionary::EditCommand::close); }
 
+  // The window has not been closed after all.
+  void stay() { mode_.stay(); }
+
   // What the list's print command runs; until then it prints nothing and fails.
   void printWith(std::function<bool()> print) { print_ = std::move(print); }
   bool print() override { return print_ && print_(); }

@@ -48,6 +48,7 @@ bool Closing::prepareForSessionEnd(bool mayAsk) {
 void Closing::stayInSession() {
   isSessionEnding_ = false;
   qGuiApp->removeEventFilter(this);
+  stay_();
 }
 
 bool Closing::eventFilter(QObject* watched, QEvent* event) {

@@ -26,6 +26,9 @@ class Closing final : public QObject {
   // The question about a verb that is being edited; false keeps the window, with all its texts.
   void askWith(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
 
+  // Called when a session that was about to end goes on.
+  void stayWith(std::function<void()> stay) { stay_ = std::move(stay); }
+
   // Closes the window without the exit question: a start that is aborted.
   void closeWithoutQuestion();
 
@@ -51,6 +54,7 @@ class Closing final : public QObject {
   dictionary::MessageBoxes& messages_;
   std::function<void()> end_;
   std::function<bool()> mayClose_ = [] { return true; };
+  std::function<void()> stay_ = [] {};
   bool noExitQuestion_ = false;
   bool isSessionEnding_ = false;
   bool isAsking_ = false;

@@ -2,6 +2,7 @@
 #include "app/list/list_window.h"
 
 #include <QSignalBlocker>
+#include <utility>
 
 #include "app/common/text.h"
 #include "app/list/list_filling.h"
@@ -37,6 +38,7 @@ void ListWindow::connectControls() {
   connect(&controls_.lstCzasowniki, &QListWidget::currentRowChanged, this,
           [this](int row) { list_.select(static_cast<std::size_t>(row)); });
   connect(&controls_.cmbLista, &QComboBox::currentIndexChanged, this, &ListWindow::choose);
+  connect(&controls_.cmbLista, &QComboBox::activated, this, &ListWindow::chooseAgain);
 }
 
 void ListWindow::showFor(dictionary::ListPurpose purpose) {
@@ -44,9 +46,9 @@ void ListWindow::showFor(dictionary::ListPurpose purpose) {
   if (!isVisible()) {
     const QSignalBlocker silent(controls_.cmbLista);
     controls_.cmbLista.setCurrentIndex(choice_ = 0);
-    ŁadujListęUżytkownika();
     controls_.cmbLista.setFocus();
   }
+  if (choice_ == 0 && !list_.isFilling()) ŁadujListęUżytkownika();
   show();
   raise();
   activateWindow();
@@ -57,6 +59,11 @@ void ListWindow::ŁadujListęUżytkownika() {
   showEntries();
 }
 
+// What is chosen although it is listed already: the user's verbs may be others by now.
+void ListWindow::chooseAgain(int choice) {
+  if (!std::exchange(isChosenAnew_, false) && choice == 0) choose(choice);
+}
+
 void ListWindow::choose(int choice) {
   if (list_.isFilling()) {
     // A letter is being filled: nothing else is begun, and the choice shows what is listed.
@@ -65,6 +72,7 @@ void ListWindow::choose(int choice) {
     return;
   }
   choice_ = choice;
+  isChosenAnew_ = true;
   const QSignalBlocker silent(controls_.lstCzasowniki);
   if (choice > 0) {
     fillLetter(dictionary::letterOfChoice(choice), list_, controls_);

@@ -22,13 +22,14 @@ class ListWindow final : public QDialog {
              dictionary::MainCommands& main, QWidget* mainWindow);
 
   // Shows the window, not modal, as the list or for deleting. One that was closed begins again with
-  // the user's own verbs.
+  // the user's own verbs; where they are listed they are read anew.
   void showFor(dictionary::ListPurpose purpose);
 
  private:
   void connectControls();
   void ŁadujListęUżytkownika();
   void choose(int choice);
+  void chooseAgain(int choice);
   void showEntries();
   void showState();
   void run(dictionary::ListButton button);
@@ -40,6 +41,7 @@ class ListWindow final : public QDialog {
   dictionary::VerbList list_;
   ListControls controls_;
   int choice_ = 0;
+  bool isChosenAnew_ = false;  // the choice has just become another one
 };
 
 }  // namespace odmiennik::app

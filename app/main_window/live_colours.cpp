@@ -30,19 +30,22 @@ LiveColours::LiveColours(const Controls& controls, FormSurface& surface)
 }
 
 bool LiveColours::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &surface_ && event->type() == QEvent::PaletteChange)
-    ApplyColours(live_.mood, live_.tense);
+  if (watched == &surface_ && event->type() == QEvent::PaletteChange) adopt(live_);
   return false;
 }
 
 ColourNumbers LiveColours::design() const { return numbersOf(designColours(surface_.palette())); }
 
-void LiveColours::ApplyColours(std::int32_t mood, std::int32_t tense) {
+void LiveColours::adopt(ColourNumbers stored) {
   const ColourNumbers light = numbersOf({kMoodOnLight, kTenseOnLight});
   const ColourNumbers dark = numbersOf({kMoodOnDark, kTenseOnDark});
-  live_.mood = mood == light.mood || mood == dark.mood ? design().mood : mood;
-  live_.tense = tense == light.tense || tense == dark.tense ? design().tense : tense;
+  const auto [mood, tense] = stored;
+  ApplyColours(mood == light.mood || mood == dark.mood ? design().mood : mood,
+               tense == light.tense || tense == dark.tense ? design().tense : tense);
+}
 
+void LiveColours::ApplyColours(std::int32_t mood, std::int32_t tense) {
+  live_ = {mood, tense};
   const QColor text = surface_.palette().color(QPalette::WindowText);
   const QColor moodColour = colourOfNumber(live_.mood, text);
   surface_.setMoodColour(moodColour);

@@ -12,8 +12,8 @@ namespace odmiennik::app {
 class FormSurface;
 
 // Colours are the numbers of the settings file. A negative one is shown as the theme's text and
-// kept as it is until another is applied. The colours of the design follow the theme: each is shown
-// in the shade that is readable on the theme's ground, whichever of its shades was stored.
+// kept as it is until another is applied. The stored colours of the design follow the theme: each
+// is shown in the shade that is readable on the theme's ground, whichever of its shades was stored.
 class LiveColours final : public QObject {
   Q_OBJECT
 
@@ -24,6 +24,9 @@ class LiveColours final : public QObject {
   // Paints the mood headings, rules and decorations in the one colour and the tense headings in the
   // other; visible at once.
   void ApplyColours(std::int32_t mood, std::int32_t tense);
+
+  // Applies stored colours, those of the design in the shade for the theme of now.
+  void adopt(ColourNumbers stored);
 
   // Those of lblTryb 0 and lblCzas 0: what the settings file is given.
   [[nodiscard]] ColourNumbers live() const { return live_; }

@@ -10,6 +10,37 @@
 #include "app/logic/start_up.h"
 
 namespace odmiennik::app {
+namespace {
+
+// What a conjugation changes before it is known what was typed: put back unless it is kept.
+class Restored {
+ public:
+  explicit Restored(engine::Conjugation& conjugation)
+      : conjugation_(conjugation),
+        flags_(conjugation.flags),
+        information_(conjugation.information),
+        infinitive_(conjugation.forms[engine::slot::kInfinitive]) {}
+  Restored(const Restored&) = delete;
+  Restored& operator=(const Restored&) = delete;
+  ~Restored() {
+    if (isKept_) return;
+    conjugation_.flags = flags_;
+    conjugation_.information = information_;
+    conjugation_.forms[engine::slot::kInfinitive] = infinitive_;
+  }
+
+  void keep() { isKept_ = true; }
+
+ private:
+  engine::Conjugation& conjugation_;
+  engine::EngineFlags flags_;
+  engine::VerbInformation information_;
+  std::string infinitive_;
+  bool isKept_ = false;
+};
+
+}  // namespace
+
 MainWindow::MainWindow(engine::Driver& driver)
     : driver_(driver),
       surface_(*new FormSurface(this)),
@@ -59,7 +90,9 @@ void MainWindow::conjugate() {
   if (isConjugating_) return;
   const QScopedValueRollback<bool> conjugating(isConjugating_, true);
   const std::string typed = toFrench(boxes_.entry().text());
+  Restored restored(conjugation_);
   if (driver_.conjugate(conjugation_, typed) == engine::Outcome::reset) return;
+  restored.keep();
   emit conjugated();
   showConjugation();
   boxes_.selectEntry();
@@ -67,7 +100,10 @@ void MainWindow::conjugate() {
 
 void MainWindow::conjugateForEditing() {
   const std::string typed = toFrench(boxes_.entry().text());
-  if (driver_.conjugateForEditing(conjugation_, typed) != engine::Outcome::reset) showConjugation();
+  Restored restored(conjugation_);
+  if (driver_.conjugateForEditing(conjugation_, typed) == engine::Outcome::reset) return;
+  restored.keep();
+  showConjugation();
 }
 
 void MainWindow::setEditing(bool isEditing) {
@@ -79,10 +115,9 @@ void MainWindow::setEditing(bool isEditing) {
 // conjugated. While a verb is edited the boxes are the user's.
 void MainWindow::toggleAuxiliary(bool isAvoir) {
   engine::Driver::toggleAuxiliary(conjugation_, isAvoir, isEditing_);
-  if (isEditing_)
-    auxiliary_.show(conjugation_);
-  else
-    showConjugation();
+  if (!isEditing_) return showConjugation();
+  auxiliary_.show(conjugation_);
+  emit auxiliaryEdited();
 }
 
 // All texts change before anything is painted: one repaint a conjugation.

@@ -55,6 +55,8 @@ class MainWindow final : public QMainWindow {
  signals:
   // A verb has been conjugated, or refused; not the word that resets the settings.
   void conjugated();
+  // The user has chosen the auxiliary of the verb that is being edited.
+  void auxiliaryEdited();
 
  private:
   void connectCommands();

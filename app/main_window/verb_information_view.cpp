@@ -8,17 +8,26 @@ namespace {
 
 struct ValueLabel {
   std::size_t position;
+  std::size_t caption;
   std::string_view engine::VerbLabels::*value;
 };
 constexpr ValueLabel kValueLabels[] = {
-    {positionOf("lblGrupaWartość"), &engine::VerbLabels::lblGrupaWartość},
-    {positionOf("lblPrzechodniWartość"), &engine::VerbLabels::lblPrzechodniWartość},
-    {positionOf("lblNieprzechodniWartość"), &engine::VerbLabels::lblNieprzechodniWartość},
-    {positionOf("lblPosiłkowyWartość"), &engine::VerbLabels::lblPosiłkowyWartość},
-    {positionOf("lblRządWartość"), &engine::VerbLabels::lblRządWartość},
+    {positionOf("lblGrupaWartość"), positionOf("lblGrupa"), &engine::VerbLabels::lblGrupaWartość},
+    {positionOf("lblPrzechodniWartość"), positionOf("lblPrzechodni"),
+     &engine::VerbLabels::lblPrzechodniWartość},
+    {positionOf("lblNieprzechodniWartość"), positionOf("lblNieprzechodni"),
+     &engine::VerbLabels::lblNieprzechodniWartość},
+    {positionOf("lblPosiłkowyWartość"), positionOf("lblPosiłkowy"),
+     &engine::VerbLabels::lblPosiłkowyWartość},
+    {positionOf("lblRządWartość"), positionOf("lblRząd"), &engine::VerbLabels::lblRządWartość},
 };
 
 }  // namespace
+
+VerbInformationView::VerbInformationView(const Controls& controls) : controls_(controls) {
+  for (const ValueLabel& label : kValueLabels)
+    controls_.get<QLabel>(label.caption).setBuddy(&controls_.get<QLabel>(label.position));
+}
 
 void VerbInformationView::show(const engine::VerbLabels& labels) const {
   for (const ValueLabel& label : kValueLabels)

@@ -10,7 +10,7 @@ namespace odmiennik::app {
 
 class VerbInformationView {
  public:
-  explicit VerbInformationView(const Controls& controls) : controls_(controls) {}
+  explicit VerbInformationView(const Controls& controls);
 
   void show(const engine::VerbLabels& labels) const;
 

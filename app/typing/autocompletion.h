@@ -18,7 +18,10 @@ class Autocompletion final : public QObject {
  public:
   Autocompletion(FormBox& entry, QAction& item, UserStore& store);
 
-  [[nodiscard]] bool isOn() const { return switch_.isOn(); }
+  [[nodiscard]] bool isOn() const { return switch_.isOn() && !isSuspended_; }
+
+  // Completes nothing for as long as it is suspended; the switch and the store stay as they are.
+  void suspend(bool isSuspended) { isSuspended_ = isSuspended; }
 
   // Completes what stands in the entry box: "all" becomes "aller" with "er" selected. A text that
   // no verb begins with stays as it is, its caret too.
@@ -30,6 +33,7 @@ class Autocompletion final : public QObject {
   FormBox& entry_;
   UserStore& store_;
   dictionary::CompletionSwitch switch_;
+  bool isSuspended_ = false;
 };
 
 }  // namespace odmiennik::app

@@ -22,9 +22,10 @@ constexpr Item kItems[] = {{"mnuEdycjaWytnij", &EditAvailability::canCut},
                            {"mnuEdycjaUsuń", &EditAvailability::canDelete},
                            {"mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll}};
 
+// Files on the clipboard are no text, though they could be shown as one.
 bool isTextOnClipboard() {
   const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-  return content != nullptr && content->hasText();
+  return content != nullptr && content->hasFormat(QStringLiteral("text/plain"));
 }
 
 }  // namespace

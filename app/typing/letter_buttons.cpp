@@ -1,6 +1,8 @@
 // Typing letters by clicking.
 #include "app/typing/letter_buttons.h"
 
+#include <QShortcut>
+
 #include "app/logic/letters.h"
 
 namespace odmiennik::app {
@@ -12,6 +14,12 @@ LetterButtons::LetterButtons(const Controls& controls, CurrentBox& current) : cu
   controls.forEach("chkFrancuskaLitera", [this](const ControlRow&, QWidget& box) {
     connectCheckBox(static_cast<QCheckBox&>(box));
   });
+  connectKey(controls.get<QPushButton>(positionOf("cmdFrancuskaLitera", 0)));
+}
+
+void LetterButtons::connectKey(QPushButton& first) {
+  auto* key = new QShortcut(QKeySequence(Qt::Key_F6), first.window());
+  QObject::connect(key, &QShortcut::activated, &first, [&first] { first.setFocus(); });
 }
 
 void LetterButtons::connectButton(QPushButton& button) {

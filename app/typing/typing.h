@@ -18,6 +18,9 @@ class Typing {
   // What the Help button of the read-only boxes' hint opens.
   void openHelpWith(HelpOpener& help) { keys_.openHelpWith(help); }
 
+  // Nothing is completed while the program itself types.
+  void suspendCompletion(bool isSuspended) { completion_.suspend(isSuspended); }
+
   // The box that last had the focus.
   [[nodiscard]] const CurrentBox& current() const { return current_; }
 

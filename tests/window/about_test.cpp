@@ -1,10 +1,7 @@
 // The about window.
-#include <QStandardPaths>
-#include <filesystem>
-#include <fstream>
-
 #include "app/about/about_outline.h"
 #include "app/about/about_window.h"
+#include "tests/window/only_path.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 
@@ -12,20 +9,6 @@ namespace odmiennik::window_test {
 namespace {
 
 using dictionary::MessageId;
-
-// Lets only the programs of one folder be found while it lives.
-class OnlyPath {
- public:
-  explicit OnlyPath(const std::filesystem::path& folder) : before_(qgetenv("PATH")) {
-    qputenv("PATH", QByteArray::fromStdString(folder.string()));
-  }
-  OnlyPath(const OnlyPath&) = delete;
-  OnlyPath& operator=(const OnlyPath&) = delete;
-  ~OnlyPath() { qputenv("PATH", before_); }
-
- private:
-  QByteArray before_;
-};
 
 }  // namespace
 
@@ -164,8 +147,7 @@ void AboutSuite::itIsMovedByDragging() {
 }
 
 void AboutSuite::withoutASystemToolAMessageIsShown() {
-  const scratch::ScratchFolder empty;
-  const OnlyPath path(empty.path());
+  const OnlyPath nothing;
   AnsweredMessages messages;
   app::AboutWindow about(nullptr, {}, messages);
   about.open();
@@ -178,19 +160,14 @@ void AboutSuite::withoutASystemToolAMessageIsShown() {
 }
 
 void AboutSuite::theFirstSystemToolOnThePathIsStarted() {
-  const scratch::ScratchFolder folder;
-  const auto started = folder.path() / "started";
-  for (const char* name : {"hardinfo", "kinfocenter"}) {
-    const auto tool = folder.path() / name;
-    std::ofstream(tool) << "#!/bin/sh\n: > '" << started.string() << '-' << name << "'\n";
-    std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
-  }
-  const OnlyPath path(folder.path());
+  const OnlyPath path;
+  path.addProgram("hardinfo");
+  path.addProgram("kinfocenter");
   AnsweredMessages messages;
   app::AboutWindow about(nullptr, {}, messages);
   about.findChild<QPushButton*>("cmdSysInfo")->click();
-  QTRY_VERIFY(std::filesystem::exists(started.string() + "-hardinfo"));
-  QVERIFY(!std::filesystem::exists(started.string() + "-kinfocenter"));
+  QTRY_VERIFY(path.hasStarted("hardinfo"));
+  QVERIFY(!path.hasStarted("kinfocenter"));
   QVERIFY(messages.shown.empty());
 }
 

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QSet>
+#include <QShortcut>
 
 #include "app/about/about_window.h"
 #include "app/common/text.h"
@@ -31,10 +32,11 @@ QString accessibleName(QWidget& control) {
   return QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name);
 }
 
-// What tells two controls of one name apart: in a letter's two arrays, in the two samples.
+// deliberate: the two buttons that change a colour are both captioned "Zmień"; a description tells
+// which is which.
 QString spokenAs(QWidget& control) {
-  const auto* accessible = QAccessible::queryAccessibleInterface(&control);
-  return accessible->text(QAccessible::Name) + '|' + accessible->text(QAccessible::Description);
+  if (!control.objectName().startsWith("cmdZmień_")) return accessibleName(control);
+  return control.accessibleDescription();
 }
 
 QString accessKey(const QString& caption) {
@@ -84,6 +86,7 @@ class AccessibilitySuite : public QObject {
   void deliberateTheMenuBarHasOneAccessKeyTwice();
   void noShortcutStandsTwice();
   void everyHeadingOfATenseLabelsItsFirstBox();
+  void everyCaptionOfTheInformationLabelsItsValue();
   void everyHeadingThatOpensAPageHasBoxesWhoseF1OpensIt();
   void theMainWindowsControlsAreUsedWithoutAMouse();
 
@@ -187,6 +190,13 @@ void AccessibilitySuite::noShortcutStandsTwice() {
       QVERIFY2(!keys.contains(key), qPrintable(key.toString()));
       keys.insert(key);
     }
+  for (const QShortcut* shortcut : program_->window.findChildren<QShortcut*>()) {
+    QVERIFY2(!keys.contains(shortcut->key()), qPrintable(shortcut->key().toString()));
+    keys.insert(shortcut->key());
+  }
+  for (const auto key : {QKeySequence::Print, QKeySequence::Cut, QKeySequence::Copy,
+                         QKeySequence::Paste, QKeySequence::SelectAll, QKeySequence::HelpContents})
+    QVERIFY(keys.contains(QKeySequence(key)));
   QVERIFY(keys.contains(QKeySequence(Qt::CTRL | Qt::Key_O)));
 }
 
@@ -198,6 +208,13 @@ void AccessibilitySuite::everyHeadingOfATenseLabelsItsFirstBox() {
     QVERIFY(label.geometry().bottom() <= label.buddy()->geometry().top());
   }
   QCOMPARE(program_->widget<QLabel>("lblImiesłówZłożony").buddy(), &program_->box(100));
+}
+
+void AccessibilitySuite::everyCaptionOfTheInformationLabelsItsValue() {
+  for (const char* name :
+       {"lblGrupa", "lblPrzechodni", "lblNieprzechodni", "lblPosiłkowy", "lblRząd"})
+    QCOMPARE(program_->widget<QLabel>(QString::fromUtf8(name)).buddy(),
+             &program_->widget<QLabel>(QString::fromUtf8(name) + "Wartość"));
 }
 
 void AccessibilitySuite::everyHeadingThatOpensAPageHasBoxesWhoseF1OpensIt() {

@@ -40,6 +40,7 @@ class ClippingSuite : public QObject {
   void nothingIsClippedInAnySmallOrNarrowWindow();
   void theWindowCannotBecomeTooSmallForItsBoxes();
   void theLongestFormIsReadableWithoutATooltipAt1024By768();
+  void everyRuleIsSeenInEverySmallWindow();
 };
 
 void ClippingSuite::afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped() {
@@ -93,6 +94,23 @@ void ClippingSuite::theLongestFormIsReadableWithoutATooltipAt1024By768() {
     QVERIFY2(!program.box(slot).isClipped(), qPrintable(program.form(slot)));
   program.resizeTo(program.designed());
   QVERIFY(program.box(87).isClipped());  // shown as a tooltip
+}
+
+// A rule of less than a pixel must not fall between two of them.
+void ClippingSuite::everyRuleIsSeenInEverySmallWindow() {
+  const ScaledProgram program;
+  const QColor mood = program.widget<QLabel>("lblTryb_0").palette().color(QPalette::WindowText);
+  for (int height = 411; height < 548; height += 8) {
+    program.resizeTo({650, height});
+    const QImage picture = program.surface().grab().toImage();
+    for (const app::LayoutControl& rule : program.layout().controls) {
+      if (rule.name != "shpLiniaTrybu") continue;
+      const int x = static_cast<int>((rule.left + rule.width - 30) / app::kTwipsPerPixel);
+      const int y = static_cast<int>(rule.top / app::kTwipsPerPixel);
+      QVERIFY2(picture.pixelColor(x, y) == mood || picture.pixelColor(x, y + 1) == mood,
+               qPrintable(QString("%1 at %2").arg(y).arg(height)));
+    }
+  }
 }
 
 std::unique_ptr<QObject> clippingSuite() { return std::make_unique<ClippingSuite>(); }

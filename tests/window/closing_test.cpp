@@ -2,6 +2,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 
+#include "tests/window/edited_program.h"
 #include "tests/window/program_run.h"
 #include "tests/window/suites.h"
 
@@ -38,6 +39,7 @@ class ClosingSuite : public QObject {
   void anEndingSessionThatMayNotBeAskedSavesTheSettings();
   void aRefusedSaveStopsTheEndOfTheSession();
   void aSessionThatGoesOnAsksAgain();
+  void aSessionThatGoesOnAsksAboutTheEditedVerbAgain();
 
  private:
   app::MainWindow& window() { return run_->program.window(); }
@@ -183,6 +185,19 @@ void ClosingSuite::aSessionThatGoesOnAsksAgain() {
   QTest::keyClick(&run_->entry(), Qt::Key_Right);
   QVERIFY(window().close());
   QCOMPARE(run_->messages.shown, Messages{MessageId::endProgram});
+}
+
+// Changes that were given up for the end of the session are changes again.
+void ClosingSuite::aSessionThatGoesOnAsksAboutTheEditedVerbAgain() {
+  EditedProgram program;
+  program.edit("parler");
+  program.box(0).setText("parlix");
+  program.messages.answer = Button::no;
+  QVERIFY(program.program.closing().prepareForSessionEnd(true));
+  QTest::keyClick(&program.box(1), Qt::Key_Right);
+  program.messages.shown.clear();
+  program.trigger("mnuEdycjaOdmień");
+  QCOMPARE(program.messages.shown, Messages{MessageId::saveEditedVerb});
 }
 
 std::unique_ptr<QObject> closingSuite() { return std::make_unique<ClosingSuite>(); }

@@ -72,6 +72,7 @@ class ColoursSuite : public QObject {
   void theSystemsChooserStartsOnTheColourAndSpeaksPolish();
   void appliedColoursAreSavedAndComeBack();
   void theDesignsColoursFollowTheThemeWhicheverShadeWasStored();
+  void aChosenColourIsTakenAsItIsThoughItIsAShadeOfTheDesign();
 };
 
 void ColoursSuite::theWindowStartsOnTheLiveColours() {
@@ -219,10 +220,18 @@ void ColoursSuite::theDesignsColoursFollowTheThemeWhicheverShadeWasStored() {
   const ProgramUnderTest program;
   app::LiveColours& live = program.window.colours();
   const ColourNumbers design = live.design();
-  live.ApplyColours(app::numberOf(app::kMoodOnDark), app::numberOf(app::kTenseOnDark));
+  live.adopt({app::numberOf(app::kMoodOnDark), app::numberOf(app::kTenseOnDark)});
   QVERIFY(live.live() == design);
-  live.ApplyColours(app::numberOf(app::kMoodOnLight), app::numberOf(app::kTenseOnLight));
+  live.adopt({app::numberOf(app::kMoodOnLight), app::numberOf(app::kTenseOnLight)});
   QVERIFY(live.live() == design);
+}
+
+void ColoursSuite::aChosenColourIsTakenAsItIsThoughItIsAShadeOfTheDesign() {
+  ColourProgram program;
+  const QColor otherShade(app::kMoodOnDark);
+  program.change(0, otherShade);
+  program.button("cmdOk").click();
+  QCOMPARE(program.colourOf("lblTryb_0"), otherShade);
 }
 
 std::unique_ptr<QObject> coloursSuite() { return std::make_unique<ColoursSuite>(); }

@@ -6,6 +6,7 @@
 namespace odmiennik::window_test {
 namespace {
 
+using dictionary::Button;
 using dictionary::MessageId;
 using Messages = std::vector<MessageId>;
 
@@ -48,6 +49,7 @@ class ConjugatingSuite : public QObject {
   void anUnknownVerbIsConjugatedWithANotice();
   void aVerbWithoutARuleIsRefused();
   void resetujAnsweredCancelChangesNothing();
+  void resetujAnsweredCancelLeavesTheAuxiliary();
   void resetujAnsweredOkResets();
   void aSecondCommandBehindAMessageDoesNothing();
   void absurdInputIsAnswered();
@@ -191,11 +193,23 @@ void ConjugatingSuite::aVerbWithoutARuleIsRefused() {
 
 void ConjugatingSuite::resetujAnsweredCancelChangesNothing() {
   program_->conjugate("parler");
-  program_->messages.answer = dictionary::Button::cancel;
+  program_->messages.answer = Button::cancel;
   program_->conjugate("resetuj");
   QCOMPARE(program_->messages.shown, Messages{MessageId::settingsWillBeReset});
   QCOMPARE(program_->ends, 0);
   QCOMPARE(program_->form(0), "parle");
+}
+
+void ConjugatingSuite::resetujAnsweredCancelLeavesTheAuxiliary() {
+  program_->conjugate("monter");
+  program_->auxiliary().click();
+  program_->messages.answer = Button::cancel;
+  program_->conjugate("resetuj");
+  QCOMPARE(program_->window.auxiliary(), engine::kEtre);
+  QCOMPARE(program_->auxiliary().text(), "&se conjugué avec être");
+  program_->auxiliary().click();
+  QCOMPARE(program_->form(24), "ai monté");
+  QCOMPARE(program_->entry().text(), "monter");
 }
 
 void ConjugatingSuite::resetujAnsweredOkResets() {

@@ -29,7 +29,11 @@ struct WrittenPointer {
 };
 
 struct DemonstratedProgram : EditedProgram {
-  DemonstratedProgram() { runner.setPace(0); }
+  DemonstratedProgram() {
+    runner.setPace(0);
+    runner.suspendCompletionWith(
+        [this](bool isSuspended) { program.typing().suspendCompletion(isSuspended); });
+  }
 
   // The verb list; null before it has been opened.
   [[nodiscard]] QDialog* list() const {

@@ -21,7 +21,8 @@ class DemonstrationSuite : public QObject {
   void theSecondPicksAVerbFromTheList();
   void thePointerGoesToTheBoxInSmallSteps();
   void wherePointersCannotBeMovedBothStillConjugate();
-  void completionIsOffWhileAVerbIsTyped();
+  void nothingIsCompletedWhileAVerbIsTyped();
+  void theSwitchOfTheCompletionIsNotTouched();
   void everythingIsAsBeforeAfterTheEnd_data();
   void everythingIsAsBeforeAfterTheEnd();
   void inEditModeItAsksToSaveFirst();
@@ -78,16 +79,29 @@ void DemonstrationSuite::wherePointersCannotBeMovedBothStillConjugate() {
   shown_->verifyAtRest();
 }
 
-void DemonstrationSuite::completionIsOffWhileAVerbIsTyped() {
-  QAction& completion = app::menuItem(*shown_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
-  completion.setChecked(true);
-  bool wasOn = false;
-  connect(&shown_->entry(), &QLineEdit::textEdited, this,
-          [&] { wasOn = wasOn || completion.isChecked(); });
+void DemonstrationSuite::nothingIsCompletedWhileAVerbIsTyped() {
+  bool isCompleted = false;
+  connect(&shown_->entry(), &QLineEdit::textChanged, this,
+          [&, before = QString()](auto text) mutable {
+            isCompleted = isCompleted || (!before.isEmpty() && text.size() > before.size() + 1);
+            before = text;
+          });
   shown_->toItsEnd(0);
-  QVERIFY(!wasOn);
-  QVERIFY(completion.isChecked());
-  QVERIFY(shown_->store.isCompletionOn());
+  QVERIFY(!isCompleted);
+  shown_->entry().selectAll();
+  shown_->type("all");
+  QCOMPARE(shown_->entry().text(), "allaiter");
+}
+
+// Whatever ends the program meanwhile, completion is there again at the next start.
+void DemonstrationSuite::theSwitchOfTheCompletionIsNotTouched() {
+  const QAction& completion =
+      app::menuItem(*shown_->window.menuBar(), "mnuCzasownikAutouzupełnianie");
+  int switched = 0;
+  connect(&completion, &QAction::toggled, this, [&] { ++switched; });
+  shown_->toItsEnd(0);
+  QCOMPARE(switched, 0);
+  QVERIFY(completion.isChecked() && shown_->store.isCompletionOn());
 }
 
 void DemonstrationSuite::everythingIsAsBeforeAfterTheEnd_data() {

@@ -26,6 +26,7 @@ class EditMenuSuite : public QObject {
   void allSelectedCannotBeSelectedOnceMore();
   void anEmptyBoxCanOnlyBePastedInto();
   void anImageCannotBePasted();
+  void filesCannotBePasted();
   void anEmptyClipboardCannotBePasted();
   void anEditedFormAllowsEverything();
   void theCommandsWorkOnTheFocusedBox();
@@ -95,6 +96,14 @@ void EditMenuSuite::anImageCannotBePasted() {
   QCOMPARE(available(), "Wytnij Kopiuj Usuń Zaznacz wszystko");
   lockedBox(0);
   QCOMPARE(available(), "Kopiuj Zaznacz wszystko");
+}
+
+void EditMenuSuite::filesCannotBePasted() {
+  auto* files = new QMimeData;
+  files->setUrls({QUrl("file:///etc/hostname")});
+  QGuiApplication::clipboard()->setMimeData(files);
+  program_->entry().setFocus();
+  QVERIFY(!program_->item("mnuEdycjaWklej").isEnabled());
 }
 
 void EditMenuSuite::anEmptyClipboardCannotBePasted() {

@@ -26,7 +26,9 @@ class EditingSuite : public QObject {
   void editAgainLeavesEditMode();
   void conjugatingUnchangedFormsAsksNothing();
   void everyChangeOfABoxClearsTheSavedFlag();
+  void anotherAuxiliaryIsAChangeToo();
   void newVerbAsksFirstAndKeepsTheInfinitive();
+  void newVerbSavesOnYes();
   void newVerbClearsTheBoxesWithoutAMessage();
   void newVerbSaysNothingOfAMissingInfinitive();
   void f2EntersAndTabGoesThroughTheBoxes();
@@ -102,6 +104,26 @@ void EditingSuite::everyChangeOfABoxClearsTheSavedFlag() {
   program_->messages.answer = Button::no;
   program_->trigger("mnuEdycjaOdmień");
   QCOMPARE(program_->messages.shown, Messages{MessageId::saveEditedVerb});
+}
+
+// It is saved with the forms.
+void EditingSuite::anotherAuxiliaryIsAChangeToo() {
+  program_->edit("parler");
+  program_->auxiliary().click();
+  program_->messages.answer = Button::yes;
+  program_->trigger("mnuEdycjaOdmień");
+  QCOMPARE(program_->messages.shown, Messages{MessageId::saveEditedVerb});
+  QCOMPARE(program_->fields().value(101).trimmed(), "0");
+}
+
+void EditingSuite::newVerbSavesOnYes() {
+  program_->edit("parler");
+  program_->box(0).setText("parlix");
+  program_->messages.answer = Button::yes;
+  program_->trigger("mnuEdycjaNowyCzasownik");
+  QVERIFY(program_->isEditing());
+  QCOMPARE(program_->fields().value(0), "parlix");
+  QCOMPARE(program_->entry().text(), "parler");
 }
 
 void EditingSuite::newVerbAsksFirstAndKeepsTheInfinitive() {

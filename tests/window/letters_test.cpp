@@ -1,7 +1,7 @@
 // French letters typed by clicking.
 #include <QCheckBox>
 
-#include "tests/window/program_under_test.h"
+#include "tests/window/edited_program.h"
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
@@ -10,7 +10,7 @@ class LettersSuite : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { program_ = std::make_unique<ProgramUnderTest>(); }
+  void init() { program_ = std::make_unique<EditedProgram>(); }
   void cleanup() { program_.reset(); }
 
   void everyButtonTypesItsCaption();
@@ -21,6 +21,7 @@ class LettersSuite : public QObject {
   void aLockedBoxStaysAndHasTheFocusAgain();
   void theKeyboardPressesALetterToo();
   void lettersGoIntoAnEditedForm();
+  void aKeyLeadsFromABoxToTheLettersAndBack();
 
  private:
   [[nodiscard]] QPushButton& button(int index) const {
@@ -31,7 +32,7 @@ class LettersSuite : public QObject {
   }
   void click(int index) const { QTest::mouseClick(&button(index), Qt::LeftButton); }
 
-  std::unique_ptr<ProgramUnderTest> program_;
+  std::unique_ptr<EditedProgram> program_;
 };
 
 void LettersSuite::everyButtonTypesItsCaption() {
@@ -104,6 +105,20 @@ void LettersSuite::lettersGoIntoAnEditedForm() {
   program_->box(3).setCursorPosition(0);
   click(3);
   QCOMPARE(program_->form(3), "çparlons");
+}
+
+// Tab alone would lead through all the boxes between, and the letter into the last of them.
+void LettersSuite::aKeyLeadsFromABoxToTheLettersAndBack() {
+  program_->edit("finir");
+  app::FormBox& box = program_->box(18);
+  box.setFocus();
+  box.setSelection(3, 1);
+  QTest::keyClick(&box, Qt::Key_F6);
+  QCOMPARE(QApplication::focusWidget()->objectName(), "cmdFrancuskaLitera_0");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  QTRY_COMPARE(box.text(), "finârai");
+  QCOMPARE(QApplication::focusWidget(), &box);
 }
 
 std::unique_ptr<QObject> lettersSuite() { return std::make_unique<LettersSuite>(); }

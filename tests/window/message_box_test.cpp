@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 
 #include "app/common/qt_message_boxes.h"
 #include "tests/window/suites.h"
@@ -30,8 +31,10 @@ Seen look(const QMessageBox& box) {
   return seen;
 }
 
-// Shows a message, looks at it and presses a key in it.
-Seen showAndPress(MessageId id, std::string_view argument, Qt::Key key) {
+// Shows a message, looks at it, does something to it and presses a key in it.
+Seen showAndPress(
+    MessageId id, std::string_view argument, Qt::Key key,
+    const std::function<void(QMessageBox&)>& work = [](QMessageBox&) {}) {
   Seen seen;
   QTimer poll;
   QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
@@ -39,6 +42,7 @@ Seen showAndPress(MessageId id, std::string_view argument, Qt::Key key) {
     if (box == nullptr || !box->isActiveWindow()) return;
     poll.stop();
     seen = look(*box);
+    work(*box);
     QTest::keyClick(box, key);
   });
   poll.start(1);
@@ -56,7 +60,8 @@ class MessageBoxSuite : public QObject {
  private slots:
   void aNoticeHasTheProgramsTitleAndAnOkButton();
   void aQuestionIsAskedWithPolishButtons();
-  void escapeAnswersNo();
+  void escapeAnswersNoWhereThatIsTheDefault();
+  void escapeThrowsNothingAway();
   void enterAnswersWithTheDefaultButton();
   void cancelSpeaksPolish();
   void aVerbIsNoMarkUp();
@@ -72,14 +77,27 @@ void MessageBoxSuite::aNoticeHasTheProgramsTitleAndAnOkButton() {
 }
 
 void MessageBoxSuite::aQuestionIsAskedWithPolishButtons() {
-  const Seen seen = showAndPress(MessageId::saveEditedVerb, "être", Qt::Key_Escape);
+  const Seen seen = showAndPress(MessageId::saveEditedVerb, "être", Qt::Key_Return);
   QCOMPARE(seen.text, "Zapisać edytowany czasownik - 'être'?");
   QCOMPARE(seen.icon, QMessageBox::Question);
   QCOMPARE(seen.buttons, (QStringList{"&Nie", "&Tak"}));
 }
 
-void MessageBoxSuite::escapeAnswersNo() {
-  QCOMPARE(showAndPress(MessageId::saveEditedVerb, "être", Qt::Key_Escape).answer, Button::no);
+void MessageBoxSuite::escapeAnswersNoWhereThatIsTheDefault() {
+  QCOMPARE(showAndPress(MessageId::endProgram, {}, Qt::Key_Escape).answer, Button::no);
+}
+
+void MessageBoxSuite::escapeThrowsNothingAway() {
+  for (const MessageId id : {MessageId::saveEditedVerb, MessageId::resolutionTooLow}) {
+    int answered = 0;
+    const auto tryToEscape = [&answered](QMessageBox& box) {
+      QTest::keyClick(&box, Qt::Key_Escape);  // presses the button that it answers with
+      for (const QAbstractButton* button : box.buttons()) answered += button->isDown() ? 1 : 0;
+      answered += box.close() ? 1 : 0;
+    };
+    QCOMPARE(showAndPress(id, "être", Qt::Key_Return, tryToEscape).answer, Button::yes);
+    QCOMPARE(answered, 0);
+  }
 }
 
 void MessageBoxSuite::enterAnswersWithTheDefaultButton() {
@@ -95,7 +113,7 @@ void MessageBoxSuite::cancelSpeaksPolish() {
 }
 
 void MessageBoxSuite::aVerbIsNoMarkUp() {
-  const Seen seen = showAndPress(MessageId::saveEditedVerb, "<b>a</b>", Qt::Key_Escape);
+  const Seen seen = showAndPress(MessageId::saveEditedVerb, "<b>a</b>", Qt::Key_Return);
   QCOMPARE(seen.text, "Zapisać edytowany czasownik - '<b>a</b>'?");
 }
 

@@ -1,4 +1,4 @@
-// Saving an edited verb: what may be saved, and what a save that fails leaves behind.
+// Saving an edited verb.
 #include "tests/window/edited_program.h"
 #include "tests/window/suites.h"
 
@@ -31,30 +31,9 @@ class SavingSuite : public QObject {
   void aSavedVerbIsFoundAgain();
   void theAuxiliaryIsSavedAndTheBoxesStay();
   void ctrlSSavesFromAnyBox();
-  void aRefusedSaveKeepsEverything_data();
-  void aRefusedSaveKeepsEverything();
-  void aFailedSaveKeepsEverything_data();
-  void aFailedSaveKeepsEverything();
   void closingWhileEditingAsksAndSaves();
 
  private:
-  // Gives the command that has the question asked.
-  void command(const QString& name) {
-    if (name == "close")
-      QVERIFY(!program_->window.close());
-    else if (name == "list")
-      QVERIFY(!dictionary::runListButton(dictionary::ListButton::cmdOdmień, "finir",
-                                         program_->program.editing()));
-    else
-      program_->trigger(name.toUtf8().constData());
-  }
-  void nameCommandsThatAsk() {
-    QTest::addColumn<QString>("name");
-    for (const char* name :
-         {"mnuEdycjaOdmień", "mnuEdycjaNowyCzasownik", "mnuEdycjaEdytujCzasownik", "list", "close"})
-      QTest::newRow(name) << name;
-  }
-
   std::unique_ptr<EditedProgram> program_;
 };
 
@@ -190,46 +169,6 @@ void SavingSuite::ctrlSSavesFromAnyBox() {
   QTest::keyClick(&program_->box(30), Qt::Key_S, Qt::ControlModifier);
   QTRY_VERIFY(!program_->isEditing());
   QCOMPARE(program_->fields().value(30), "xyz");
-}
-
-void SavingSuite::aRefusedSaveKeepsEverything_data() { nameCommandsThatAsk(); }
-
-void SavingSuite::aRefusedSaveKeepsEverything() {
-  QFETCH(QString, name);
-  program_->edit("parler");
-  program_->box(0).setText("parlix");
-  program_->entry().setText("chanté");
-  program_->messages.answer = Button::yes;
-  command(name);
-  QVERIFY(program_->messages.shown.size() >= 2 &&
-          program_->messages.shown.back() == MessageId::infinitiveNeeded);
-  QVERIFY(program_->isEditing());
-  QVERIFY(program_->window.isVisible());
-  QCOMPARE(program_->form(0), "parlix");
-  QCOMPARE(program_->entry().text(), "chanté");
-  QCOMPARE(program_->window.windowTitle(), "Odmiennik - edycja \"chanté\"");
-  QVERIFY(!program_->box(0).isReadOnly());
-  QCOMPARE(program_->ends, 0);
-}
-
-void SavingSuite::aFailedSaveKeepsEverything_data() { nameCommandsThatAsk(); }
-
-void SavingSuite::aFailedSaveKeepsEverything() {
-  QFETCH(QString, name);
-  program_->edit("parler");
-  std::filesystem::create_directory(program_->folder.path() / "Czasowniki.dat");
-  program_->box(0).setText("parlix");
-  program_->messages.answer = Button::yes;
-  command(name);
-  QVERIFY(program_->messages.shown.size() >= 2 &&
-          program_->messages.shown.back() == MessageId::userVerbsNotSaved);
-  QVERIFY(program_->isEditing());
-  QVERIFY(program_->window.isVisible());
-  QCOMPARE(program_->form(0), "parlix");
-  QCOMPARE(program_->entry().text(), "parler");
-  QVERIFY(!program_->box(0).isReadOnly());
-  QCOMPARE(program_->count(), 0);
-  QCOMPARE(program_->ends, 0);
 }
 
 void SavingSuite::closingWhileEditingAsksAndSaves() {

@@ -18,6 +18,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
 [[nodiscard]] std::unique_ptr<QObject> editMenuSuite();
 [[nodiscard]] std::unique_ptr<QObject> editingSuite();
+[[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
@@ -29,9 +30,11 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> lookSuite();
 [[nodiscard]] std::unique_ptr<QObject> menuSuite();
 [[nodiscard]] std::unique_ptr<QObject> messageBoxSuite();
+[[nodiscard]] std::unique_ptr<QObject> ownVerbsSuite();
 [[nodiscard]] std::unique_ptr<QObject> pointerSuite();
 [[nodiscard]] std::unique_ptr<QObject> printQueueSuite();
 [[nodiscard]] std::unique_ptr<QObject> printingSuite();
+[[nodiscard]] std::unique_ptr<QObject> refusedSaveSuite();
 [[nodiscard]] std::unique_ptr<QObject> rescalingSuite();
 [[nodiscard]] std::unique_ptr<QObject> savingSuite();
 [[nodiscard]] std::unique_ptr<QObject> settingsSuite();
