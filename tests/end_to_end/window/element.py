@@ -1,5 +1,7 @@
 """What a screen reader knows of one part of a window."""
 
+import subprocess
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -56,6 +58,10 @@ class Element:
         wanted = getattr(pyatspi, "STATE_" + state.upper().replace(" ", "_"))
         return self._accessible.getState().contains(wanted)
 
+    def selected_entry(self):
+        """The name of the selected entry of a list; nothing when none is."""
+        return next((entry.name for entry in self.children() if entry.has("selected")), None)
+
     def has_parts(self):
         return self._accessible.childCount > 0
 
@@ -74,6 +80,12 @@ class Element:
     def press(self):
         """What a click does: the button's or the menu item's own action."""
         self._accessible.queryAction().doAction(0)
+
+    def click(self, times=1):
+        """Clicks of the real mouse in its middle; the pointer stays there."""
+        left, top, width, height = self.bounds
+        subprocess.run(["xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
+                        "click", "--repeat", str(times), "--delay", "40", "1"], check=True)
 
     def focus(self):
         self._accessible.queryComponent().grabFocus()

@@ -1,5 +1,6 @@
 """The program under test, run and asked from outside."""
 
+import os
 import pathlib
 import shutil
 import subprocess
@@ -22,6 +23,7 @@ class Program:
 
     def __init__(self, executable, home):
         self._executable = executable
+        self.environment = {}  # what the program shall see otherwise: {"PATH": "/tmp"}
         self.folder = pathlib.Path(home, "program folder")
         self.folder.mkdir()
         self._store = pathlib.Path(home, ".config", "Odmiennik", "Odmiennik.conf")
@@ -37,6 +39,7 @@ class Program:
         """Starts the process; the window may still be on its way, or a message before it."""
         self._known = {}
         self._process = subprocess.Popen([self._executable, "--folder", str(self.folder)],
+                                         env=os.environ | self.environment,
                                          stdout=self._log, stderr=self._log)
 
     def start(self):
@@ -47,6 +50,12 @@ class Program:
     def forget_user_store(self):
         """Leaves nothing of the user's in the home, as on a new computer: the tip will show."""
         self._store.unlink()
+
+    def leave_its_files_behind(self):
+        """What is started from now on is a copy with nothing beside it, no help file either."""
+        alone = self.folder.with_name("alone")
+        alone.mkdir()
+        self._executable = shutil.copy(self._executable, alone)
 
     def is_running(self):
         return self._process.poll() is None
@@ -84,7 +93,8 @@ class Program:
         """The windows on the screen, the main window included."""
         try:
             application = self._application()
-            return [] if application is None else list(application.children())
+            parts = [] if application is None else application.children()
+            return [window for window in parts if window.has("showing")]
         except gone():
             return []
 
@@ -196,6 +206,26 @@ class Message:
         button = next((b for b in self.buttons() if b.name == caption), None)
         assert button is not None, f"{caption!r} is not among {[b.name for b in self.buttons()]}"
         return button
+
+    def parts(self):
+        return list(self._window.descendants())
+
+    def part(self, name):
+        """The first part of that accessible name, waited for."""
+        def search():
+            try:
+                return next((p for p in self._window.descendants() if p.name == name), None)
+            except gone():
+                return None
+        return wait_for(search, f"{name!r} in the window {self.title!r}")
+
+    @property
+    def bounds(self):
+        return self._window.bounds
+
+    def is_active(self):
+        """Whether the keyboard's keys go to this window."""
+        return self._window.has("active")
 
     def check_box(self):
         return next(part for part in self._window.descendants() if part.role == "check box")
