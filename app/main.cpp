@@ -5,6 +5,7 @@
 
 #include "app/common/look.h"
 #include "app/common/qt_message_boxes.h"
+#include "app/platform/platform.h"
 #include "app/program.h"
 #include "dictionary/file_names.h"
 #include "dictionary/program_folder.h"
@@ -40,6 +41,7 @@ int main(int argumentCount, char** arguments) {
                         .messages = messages,
                         .store = store,
                         .end = [] { QApplication::exit(); }});
+  app::platform::onTermination([&program] { program.closing().endNow(); });
   QMetaObject::invokeMethod(
       &application, [&program] { program.start(); }, Qt::QueuedConnection);
   return QApplication::exec();

@@ -28,6 +28,13 @@ void Closing::closeWithoutQuestion() {
   window_.close();
 }
 
+void Closing::endNow() {
+  if (hasEnded_) return;
+  hasEnded_ = true;
+  settings_.SaveSettings();
+  end_();
+}
+
 void Closing::commit(QSessionManager& session) {
   const bool mayAsk = session.allowsInteraction();
   if (!prepareForSessionEnd(mayAsk)) session.cancel();

@@ -36,6 +36,9 @@ class Closing final : public QObject {
   // verb only where the system lets programs ask. False asks the system not to go on.
   [[nodiscard]] bool prepareForSessionEnd(bool mayAsk);
 
+  // Ends the program at once, with its settings saved: the system waits for no answer.
+  void endNow();
+
   // Whether the window has been closed for good.
   [[nodiscard]] bool hasEnded() const { return hasEnded_; }
 

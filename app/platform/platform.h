@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "app/logic/always_on_top.h"
@@ -26,6 +27,10 @@ void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen);
 // Moves the user's pointer to a place in the desktop's own pixels, whatever the windows are scaled
 // by; false where a program may not do that.
 bool movePointer(int x, int y);
+
+// Has `end` called, from the event loop, when the system asks the program to end without telling its
+// windows; called once, after the application has been made. Windows tells the windows.
+void onTermination(std::function<void()> end);
 
 // The Windows virtual-key code that a key has by its place, whatever letter it types: of every key
 // on Windows, of the digit row elsewhere; 0 for any other. Scan code and key as the system reports

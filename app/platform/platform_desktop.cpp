@@ -1,12 +1,18 @@
 // The seam on desktops other than Windows.
+#include <sys/socket.h>
+#include <unistd.h>
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QString>
 #include <QWindow>
+#include <csignal>
 #include <initializer_list>
+#include <utility>
 
 #include "app/platform/platform.h"
 
@@ -27,6 +33,15 @@ QWindow* windowOf(std::uintptr_t handle) {
   for (QWindow* window : QGuiApplication::topLevelWindows())
     if (window->handle() != nullptr && window->winId() == handle) return window;
   return nullptr;
+}
+
+// What a signal writes into and the event loop reads from: nearly nothing may be called in a
+// handler.
+int termination[2];
+
+void passOn(int /*signal*/) {
+  const char any = 1;
+  [[maybe_unused]] const ssize_t written = write(termination[1], &any, sizeof any);
 }
 
 // A place of the desktop in the pixels that Qt reckons in: a screen's corner stays, what is in it
@@ -70,6 +85,19 @@ bool movePointer(int x, int y) {
   const QPoint before = QCursor::pos();
   QCursor::setPos(place);
   return QCursor::pos() != before || place == before;
+}
+
+void onTermination(std::function<void()> end) {
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, termination) != 0) return;
+  auto* notifier = new QSocketNotifier(termination[0], QSocketNotifier::Read, qApp);
+  QObject::connect(notifier, &QSocketNotifier::activated, qApp, [notifier, end = std::move(end)] {
+    notifier->setEnabled(false);
+    end();
+  });
+  struct sigaction action {};
+  action.sa_handler = passOn;
+  action.sa_flags = SA_RESTART;
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) sigaction(signal, &action, nullptr);
 }
 
 // X11 and Wayland number the keys by their place: "1" is 10, "0" is 19.

@@ -112,6 +112,8 @@ void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen) {
 
 bool movePointer(int x, int y) { return SetCursorPos(x, y) != 0; }
 
+void onTermination(std::function<void()> /*end*/) {}
+
 int virtualKey(std::uint32_t /*scanCode*/, std::uint32_t nativeKey) {
   return static_cast<int>(nativeKey);
 }

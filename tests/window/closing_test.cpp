@@ -38,6 +38,7 @@ class ClosingSuite : public QObject {
   void anEndingSessionAsksAboutAnEditedVerbOnce();
   void anEndingSessionThatMayNotBeAskedSavesTheSettings();
   void aRefusedSaveStopsTheEndOfTheSession();
+  void aTerminationSavesTheSettingsOnceAndEndsWithoutAQuestion();
   void aSessionThatGoesOnAsksAgain();
   void aSessionThatGoesOnAsksAboutTheEditedVerbAgain();
 
@@ -198,6 +199,14 @@ void ClosingSuite::aSessionThatGoesOnAsksAboutTheEditedVerbAgain() {
   program.messages.shown.clear();
   program.trigger("mnuEdycjaOdmień");
   QCOMPARE(program.messages.shown, Messages{MessageId::saveEditedVerb});
+}
+
+void ClosingSuite::aTerminationSavesTheSettingsOnceAndEndsWithoutAQuestion() {
+  run_->program.closing().endNow();
+  QCOMPARE(home_->setting(5), "1113");
+  run_->program.closing().endNow();
+  QCOMPARE(run_->ends, 1);
+  QVERIFY(run_->messages.shown.empty());
 }
 
 std::unique_ptr<QObject> closingSuite() { return std::make_unique<ClosingSuite>(); }

@@ -1,6 +1,6 @@
 """What is kept between two runs, and what is asked before it is given up."""
 
-from program import Message
+from message import Message
 from waiting import wait_for
 
 EXIT_QUESTION = "Czy na pewno chcesz zakończyć program?"
@@ -75,6 +75,15 @@ def the_exit_question_answered_yes_saves_and_ends(program):
     program.start()
     program.quit()
     assert program.settings() == ["7", "255", "32768", "12", "1113"]
+
+
+def ended_by_the_system_it_saves_without_a_question(program):
+    program.start()
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    program.terminate()
+    program.await_end()
+    assert program.settings()[3:] == ["1", "11"]
 
 
 def resetuj_cancelled_changes_nothing(program):
