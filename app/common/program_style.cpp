@@ -36,6 +36,12 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
   qDrawBorderPixmap(painter, option->rect, QMargins(kCorner, kCorner, kCorner, kCorner), frame);
 }
 
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 QPixmap ProgramStyle::frameOf(const QStyleOption& option, qreal pixelRatio) const {
   const QString key = QStringLiteral("odmiennik-frame-%1-%2-%3")
                           .arg(option.palette.cacheKey())

@@ -18,6 +18,10 @@ class ProgramStyle final : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
 
+  // Buttons are plain, in Qt's own dialogs too.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
+
  private:
   [[nodiscard]] QPixmap frameOf(const QStyleOption& option, qreal pixelRatio) const;
   [[nodiscard]] QPixmap paintedFrame(const QStyleOption& option, qreal pixelRatio) const;

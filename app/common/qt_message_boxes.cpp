@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -72,7 +71,6 @@ void addButtons(QMessageBox& box, const dictionary::MessageRow& row) {
   for (const ButtonPair& pair : kButtons) {
     if (!contains(row.buttons, pair.button)) continue;
     QPushButton* button = box.addButton(pair.standard);
-    button->setIcon(QIcon());  // plain buttons, whatever the desktop's theme
     if (pair.button == row.defaultButton) box.setDefaultButton(pair.standard);
     if (box.escapeButton() == nullptr) box.setEscapeButton(button);
   }

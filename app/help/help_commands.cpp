@@ -23,15 +23,18 @@ HelpCommands::HelpCommands(MainWindow& window, dictionary::MessageBoxes& message
         about->open();
       },
       Qt::QueuedConnection);
-  QObject::connect(new QShortcut(QKeySequence(Qt::Key_F1), &window), &QShortcut::activated, &help_,
-                   [this, &window] { openForFocus(window); });
+  auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &window);
+  key->setContext(Qt::ApplicationShortcut);  // beside the main window too
+  QObject::connect(key, &QShortcut::activated, &help_, [this, &window] { openForFocus(window); });
 }
 
 void HelpCommands::openForFocus(const MainWindow& window) {
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     if (&window.boxes()[slot] == QApplication::focusWidget())
       if (const auto page = topicOfSlot(slot)) return help_.open(*page);
-  help_.open(kWelcomePage);
+  const QWidget* front = QApplication::activeWindow();
+  const std::string name = front == nullptr ? std::string() : front->objectName().toStdString();
+  help_.open(topicOfWindow(name).value_or(kWelcomePage));
 }
 
 }  // namespace odmiennik::app

@@ -12,8 +12,8 @@ namespace odmiennik::app {
 
 class MainWindow;
 
-// The items of the menu, the tense headings, and F1: in a form box the page of its tense, elsewhere
-// the first page of the help.
+// The items of the menu, the tense headings, and F1: in a form box the page of its tense, in the
+// verb list its own, elsewhere the first page of the help.
 class HelpCommands {
  public:
   // `usage` is asked whenever the about window opens.

@@ -37,6 +37,11 @@ std::optional<std::string> topicOfSlot(int slot) {
   return std::nullopt;
 }
 
+std::optional<std::string_view> topicOfWindow(std::string_view window) {
+  if (window == "frmLista") return "strony\\Lista.htm";
+  return std::nullopt;
+}
+
 TopicHover::Change TopicHover::moved(int heading) {
   Change change;
   if (heading < 0 || heading >= kTopicHeadings) return change;

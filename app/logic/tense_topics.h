@@ -60,6 +60,11 @@ inline constexpr int kHowToContext = 2;
 // The page of the tense that a box belongs to; nothing for infinitives and participles.
 [[nodiscard]] std::optional<std::string> topicOfSlot(int slot);
 
+// The page of a window that is open beside the main one, by its object name:
+// topicOfWindow("frmLista")
+// -> "strony\Lista.htm"; nothing for windows without a page.
+[[nodiscard]] std::optional<std::string_view> topicOfWindow(std::string_view window);
+
 // The underlining of the headings under the pointer.
 // deliberate: a heading stays underlined when the pointer leaves it, until another one is pointed
 // at.

@@ -22,6 +22,7 @@ class HelpSuite : public QObject {
   void aClickOnAHeadingShowsItsPage();
   void f1InAFormBoxOpensThePageOfItsTense_data();
   void f1InAFormBoxOpensThePageOfItsTense();
+  void f1InTheVerbListOpensItsPage();
   void contextTwoIsThePageAboutConjugating();
   void anUnknownContextOpensTheFirstPage();
   void theContentsLeadToThePages();
@@ -94,6 +95,13 @@ void HelpSuite::f1InAFormBoxOpensThePageOfItsTense() {
   QTest::keyClick(&help_->box(slot), Qt::Key_F1);
   QCOMPARE(help_->pages().source().path(), "/strony/" + page + ".htm");
   QVERIFY(help_->messages.shown.empty());
+}
+
+void HelpSuite::f1InTheVerbListOpensItsPage() {
+  help_->item("mnuEdycjaLista").trigger();
+  QTRY_VERIFY(QApplication::activeWindow()->objectName() == "frmLista");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+  QTRY_COMPARE(help_->pages().source().path(), "/strony/Lista.htm");
 }
 
 void HelpSuite::contextTwoIsThePageAboutConjugating() {

@@ -62,6 +62,11 @@ TEST(tense_topics, every_box_but_the_last_five_has_a_page) {
   for (int slot = 96; slot <= 100; ++slot) EXPECT_FALSE(topicOfSlot(slot)) << slot;
 }
 
+TEST(tense_topics, the_list_has_its_page_and_other_windows_have_none) {
+  EXPECT_EQ(topicOfWindow("frmLista"), "strony\\Lista.htm");
+  EXPECT_FALSE(topicOfWindow("frmCzasowniki"));
+}
+
 TEST(topic_hover, underlines_the_heading_under_the_pointer) {
   TopicHover hover;
   EXPECT_EQ(hover.moved(3), (Change{.on = 3}));
