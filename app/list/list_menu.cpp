@@ -22,7 +22,10 @@ ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
 }
 
 void ListMenu::open(dictionary::ListPurpose purpose) {
-  if (window_ == nullptr) window_ = new ListWindow(prefix_, userVerbs_, commands_, &main_);
+  if (window_ == nullptr) {
+    window_ = new ListWindow(prefix_, userVerbs_, commands_, &main_);
+    window_->setAttribute(Qt::WA_DeleteOnClose);
+  }
   if (!window_->isVisible()) placeBeside(*window_, main_);
   window_->showFor(purpose);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
-#include <memory>
+#include <QPointer>
 #include <string>
 
 #include "app/list/list_window.h"
@@ -10,7 +10,7 @@
 namespace odmiennik::app {
 
 // Connects mnuEdycjaLista and mnuEdycjaUsuńCzasownik of `main`. The list window is created when it
-// is first asked for and belongs to the main window.
+// is asked for, belongs to the main window, and is gone once it has been closed.
 class ListMenu {
  public:
   ListMenu(QMainWindow& main, const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
@@ -23,7 +23,7 @@ class ListMenu {
   std::string prefix_;
   dictionary::UserVerbsFile& userVerbs_;
   dictionary::MainCommands& commands_;
-  ListWindow* window_ = nullptr;
+  QPointer<ListWindow> window_;
 };
 
 }  // namespace odmiennik::app

@@ -49,11 +49,15 @@ void DemonstrationSuite::theFirstTypesOneLetterATick() {
 }
 
 void DemonstrationSuite::theSecondPicksAVerbFromTheList() {
+  QString letter;  // that is chosen when the verb comes: the list is closed afterwards
+  connect(&shown_->box(0), &QLineEdit::textChanged, this, [&] {
+    if (shown_->list() != nullptr)
+      letter = shown_->list()->findChild<QComboBox*>("cmbLista")->currentText();
+  });
   shown_->toItsEnd(1);
   QTRY_COMPARE(shown_->form(96), "naître");
   QCOMPARE(shown_->form(0), "nais");
-  QVERIFY(shown_->list() != nullptr);
-  QCOMPARE(shown_->list()->findChild<QComboBox*>("cmbLista")->currentText(), "n");
+  QCOMPARE(letter, "n");
   shown_->verifyAtRest();
 }
 
