@@ -1,12 +1,14 @@
 // The parts of the program, put together.
 #include "app/program.h"
 
+#include "app/common/look.h"
 #include "app/layout/screen_fit.h"
 #include "app/lifetime/developer_buttons.h"
 #include "app/lifetime/program_settings.h"
 #include "dictionary/app_folder.h"
 
 namespace odmiennik::app {
+
 Program::Program(const Surroundings& given)
     : prefix_(dictionary::AppFolder(given.folder)),
       userVerbs_(prefix_, storedUserVerbCount(prefix_, given.files), given.messages, given.files),
@@ -29,6 +31,15 @@ Program::Program(const Surroundings& given)
       help_(window_, given.messages, [this] {
         return Usage{settings_.conjugationCount(), settings_.runCount()};
       }) {
+  giveIconLater(window_);
+  connectParts(given);
+  connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
+}
+
+Program::~Program() = default;
+
+// What one part needs of another that is made after it, or does not know.
+void Program::connectParts(const Surroundings& given) {
   typing_.openHelpWith(help_.help());
   window_.scaling().setQuestion([given] {
     if (given.messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)
@@ -44,12 +55,9 @@ Program::Program(const Surroundings& given)
   tips_.demonstrateWith(
       [&messages = given.messages] { messages.show(dictionary::MessageId::demonstrationWillRun); },
       [this](int way) { demonstration_.run(way); });
-  connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
   QObject::connect(&window_, &MainWindow::conjugated, &window_,
                    [this] { settings_.countConjugation(); });
 }
-
-Program::~Program() = default;
 
 LayoutPort Program::layout() {
   return {.screenTwips = [this] { return static_cast<int>(screenWidth(window_).twips); },

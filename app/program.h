@@ -56,6 +56,7 @@ class Program {
   [[nodiscard]] DemonstrationRunner& demonstration() { return demonstration_; }
 
  private:
+  void connectParts(const Surroundings& given);
   [[nodiscard]] HeadingColourPort headingColours();
   [[nodiscard]] LayoutPort layout();
 

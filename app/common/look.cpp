@@ -5,7 +5,9 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
+#include <QWidget>
 
 #include "app/common/program_style.h"
 #include "app/common/text.h"
@@ -31,7 +33,22 @@ QIcon programIcon() {
   return icon;
 }
 
+// Waits for the first picture of a window, and is gone with it.
+class FirstPicture final : public QObject {
+ public:
+  explicit FirstPicture(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(programIcon()); });
+    deleteLater();
+    return false;
+  }
+};
+
 }  // namespace
+
+void giveIconLater(QWidget& window) { new FirstPicture(window); }
 
 void prepare(QApplication& application) {
   QApplication::setApplicationName(fromUtf8(dictionary::kApplicationTitle));
@@ -42,7 +59,6 @@ void prepare(QApplication& application) {
        {":/odmiennik/LiberationSans-Regular.ttf", ":/odmiennik/LiberationSans-Bold.ttf"})
     QFontDatabase::addApplicationFont(QLatin1String(file));
   QApplication::setFont(programFont());
-  QApplication::setWindowIcon(programIcon());
   speakPolish(application);
 }
 

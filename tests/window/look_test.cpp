@@ -59,6 +59,8 @@ void LookSuite::theProgramCarriesItsFont() {
 }
 
 void LookSuite::theProgramHasItsIconInEverySize() {
+  const ProgramUnderTest program;
+  QTRY_VERIFY(!QApplication::windowIcon().isNull());
   for (const int size : {16, 24, 32, 48, 128})
     QCOMPARE(QApplication::windowIcon()
                  .pixmap(QSize(size, size))
