@@ -50,6 +50,24 @@ QPainterPath hand() {
       .united(thumb);
 }
 
+// The glass with its waist, and the boards above and below.
+QPainterPath hourglass() {
+  QPainterPath boards;
+  boards.addRect(QRectF(7, 3, 18, 3));
+  boards.addRect(QRectF(7, 26, 18, 3));
+  return outline({{9, 6},
+                  {23, 6},
+                  {23, 9},
+                  {17.5, 16},
+                  {23, 23},
+                  {23, 26},
+                  {9, 26},
+                  {9, 23},
+                  {14.5, 16},
+                  {9, 9}})
+      .united(boards);
+}
+
 QCursor draw(const QPainterPath& shape, const QColor& filling, const QColor& edge, QPoint hotSpot) {
   const qreal ratio = qApp->devicePixelRatio();
   QPixmap picture(QSize(kSize, kSize) * ratio);
@@ -69,6 +87,8 @@ QCursor draw(const QPainterPath& shape, const QColor& filling, const QColor& edg
 QCursor arrowCursor() { return draw(arrow(), QColor(kInk), Qt::white, {2, 2}); }
 
 QCursor handCursor() { return draw(hand(), Qt::white, QColor(kInk), {10, 3}); }
+
+QCursor hourglassCursor() { return draw(hourglass(), Qt::white, QColor(kInk), {16, 16}); }
 
 void showHandOverTopics(const Controls& controls) {
   const QCursor pointer = handCursor();

@@ -4,6 +4,8 @@
 #include <QCursor>
 #include <QWidget>
 
+#include "app/main_window/cursors.h"
+
 namespace odmiennik::app {
 
 // The one place that changes the window's pointer; boxes and headings have their own.
@@ -11,7 +13,7 @@ class WindowPointer {
  public:
   explicit WindowPointer(QWidget& window) : window_(window) {}
 
-  void showHourglass() { window_.setCursor(Qt::WaitCursor); }
+  void showHourglass() { window_.setCursor(hourglassCursor()); }
   void showDefault() { window_.setCursor(default_); }
 
   // What `showDefault` shows from now on; the system's arrow until then.

@@ -6,7 +6,7 @@
 namespace odmiennik::window_test {
 namespace {
 
-Qt::CursorShape pointerOf(const QWidget& widget) { return widget.cursor().shape(); }
+QImage pointerOf(const QWidget& widget) { return widget.cursor().pixmap().toImage(); }
 
 }  // namespace
 
@@ -25,11 +25,11 @@ void PointerSuite::thePointerIsAnHourglassUntilTheStartIsOver() {
   ProgramHome home;
   home.write("Werbolin.cfg", "x");
   ProgramRun run(home);
-  auto whileStarting = Qt::BlankCursor;
+  QImage whileStarting;
   run.messages.whileShown = [&] { whileStarting = pointerOf(run.program.window()); };
   run.program.start();
-  QCOMPARE(whileStarting, Qt::WaitCursor);
-  QCOMPARE(pointerOf(run.program.window()), Qt::BitmapCursor);
+  QCOMPARE(whileStarting, app::hourglassCursor().pixmap().toImage());
+  QCOMPARE(pointerOf(run.program.window()), app::arrowCursor().pixmap().toImage());
 }
 
 void PointerSuite::theWindowHasAnArrowOfItsOwn() {
@@ -46,7 +46,7 @@ void PointerSuite::aHandPointsAtTheHeadingsThatOpenAPage() {
   const QImage hand = app::handCursor().pixmap().toImage();
   for (int heading = 0; heading < 21; ++heading) {
     const auto& label = run.widget<QLabel>(qPrintable(QString("lblCzas_%1").arg(heading)));
-    const bool isHand = label.cursor().pixmap().toImage() == hand;
+    const bool isHand = pointerOf(label) == hand;
     QVERIFY2(isHand == (heading <= 16), qPrintable(label.objectName()));
   }
 }
@@ -54,6 +54,7 @@ void PointerSuite::aHandPointsAtTheHeadingsThatOpenAPage() {
 void PointerSuite::theDrawnPointersDiffer() {
   const QCursor hand = app::handCursor();
   QVERIFY(hand.pixmap().toImage() != app::arrowCursor().pixmap().toImage());
+  QVERIFY(app::hourglassCursor().pixmap().toImage() != app::arrowCursor().pixmap().toImage());
   QVERIFY(hand.pixmap().toImage().pixelColor(hand.hotSpot()).alpha() > 0);
 }
 
