@@ -37,11 +37,10 @@ class UserVerbsFile final : public engine::UserVerbs {
   [[nodiscard]] bool load(std::string_view key, engine::FormTable& forms,
                           std::uint8_t& storedAux) override;
 
-  // Refused, with a message, is a record that could not be read back: a form begins with a double
-  // quote, which would take the rest of the line. Else
-  // replaces every record whose slot 96 is exactly `record`'s, trimmed, or appends it (and counts
+  // Replaces every record whose slot 96 is exactly `record`'s, trimmed, or appends it (and counts
   // it). Records behind the stored number are dropped; the file as it was is then kept as
-  // Czasowniki.bak.
+  // Czasowniki.bak. Refused, with a message, is a record that could not be read back: one with a
+  // form that begins with a double quote.
   SaveResult save(const UserVerbRecord& record);
 
   // Removes every record whose slot 96 is exactly `infinitive`; the count is lowered by one, and

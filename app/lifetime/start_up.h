@@ -27,8 +27,7 @@ struct LayoutPort {
 class StartUp {
  public:
   struct Needs {
-    std::string folder;  // the program's, and the prefix of its files
-    std::string prefix;
+    std::string prefix;  // of the program's files
     MainWindow& window;
     WindowPointer& pointer;
     SettingsKeeper& settings;

@@ -27,9 +27,4 @@ struct Rgb {
   return Rgb{byte(0), byte(8), byte(16)};
 }
 
-// The colour that a number is shown in: a system colour as the theme's text.
-[[nodiscard]] constexpr Rgb shownColour(std::int32_t number, Rgb themeText) {
-  return colourOf(number).value_or(themeText);
-}
-
 }  // namespace odmiennik::app

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -72,11 +71,6 @@ struct Version {
 // Whether the layout is rescaled at start: unless the screen is exactly 800 pixels of 15 twips
 // wide.
 [[nodiscard]] constexpr bool isRescaledAtStart(int screenTwips) { return screenTwips != 12000; }
-
-// Whether the stored value asks for the tip of the day: 1, or never written.
-[[nodiscard]] constexpr bool isTipShownAtStart(std::optional<int> stored) {
-  return stored.value_or(1) == 1;
-}
 
 // Adds one; a counter that is full stays there.
 void countOne(std::int32_t& counter);

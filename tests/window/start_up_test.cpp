@@ -49,8 +49,7 @@ class StartUpSuite : public QObject {
   void run(Layout& layout, int screenTwips) {
     ProgramRun run(*home_);
     app::WindowPointer pointer(run.program.window());
-    app::StartUp start({.folder = home_->path().string(),
-                        .prefix = home_->prefix(),
+    app::StartUp start({.prefix = home_->prefix(),
                         .window = run.program.window(),
                         .pointer = pointer,
                         .settings = run.program.settings(),

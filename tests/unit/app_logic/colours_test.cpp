@@ -28,11 +28,6 @@ TEST(colour_number, a_negative_one_is_no_colour_of_its_own) {
   EXPECT_FALSE(colourOf(std::numeric_limits<std::int32_t>::min()));
 }
 
-TEST(colour_number, a_system_colour_shows_as_the_themes_text) {
-  EXPECT_EQ(shownColour(kSystemColour, {9, 8, 7}), (Rgb{9, 8, 7}));
-  EXPECT_EQ(shownColour(255, {9, 8, 7}), (Rgb{255, 0, 0}));
-}
-
 TEST(colour_number, what_lies_beyond_the_three_colours_is_left_out) {
   EXPECT_EQ(colourOf(0x7F010203), (Rgb{3, 2, 1}));
 }

@@ -64,12 +64,6 @@ TEST(start_up, rescales_unless_the_screen_is_800_pixels_wide) {
   EXPECT_TRUE(isRescaledAtStart(15360));
 }
 
-TEST(start_up, shows_the_tip_when_the_store_says_1_or_nothing) {
-  EXPECT_TRUE(isTipShownAtStart(std::nullopt));
-  EXPECT_TRUE(isTipShownAtStart(1));
-  for (const int other : {0, 2, -1}) EXPECT_FALSE(isTipShownAtStart(other)) << other;
-}
-
 TEST(counters, grow_by_one_and_stay_at_their_greatest_number) {
   std::int32_t counter = 2147483646;
   countOne(counter);

@@ -96,6 +96,16 @@ TEST(Record, WithFewerThan102FieldsIsDamaged) {
   EXPECT_FALSE(outlineOf(""));
 }
 
+TEST(Record, CannotBeReadBackWhereAFormBeginsWithAQuote) {
+  UserVerbRecord record;
+  record.forms[96] = "aimer";
+  EXPECT_TRUE(isReadable(record));
+  record.forms[7] = "aim\"ais";
+  EXPECT_TRUE(isReadable(record));
+  record.forms[7] = "\"aimais";
+  EXPECT_FALSE(isReadable(record));
+}
+
 TEST(Record, WithoutFlagIsDamaged) { EXPECT_FALSE(outlineOf(commas(96) + "aimer" + commas(5))); }
 
 // A line without quotes is read another way, since nearly all lines are: with the same result.
