@@ -24,6 +24,8 @@ bool needsEdge(const QStyleOption& option) {
   return losesEdges(option.palette) && !option.state.testFlag(QStyle::State_HasFocus);
 }
 
+QMargins corners(int size) { return {size, size, size, size}; }
+
 }  // namespace
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -32,8 +34,10 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                  QPainter* painter, const QWidget* widget) const {
   if (element != PE_FrameLineEdit || !isPlain(*option))
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
-  const QPixmap frame = frameOf(*option, painter->device()->devicePixelRatio());
-  qDrawBorderPixmap(painter, option->rect, QMargins(kCorner, kCorner, kCorner, kCorner), frame);
+  const qreal pixelRatio = painter->device()->devicePixelRatio();
+  const QPixmap frame = frameOf(*option, pixelRatio);
+  qDrawBorderPixmap(painter, option->rect, corners(kCorner), frame, frame.rect(),
+                    corners(qRound(kCorner * pixelRatio)));
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -66,6 +70,8 @@ QPixmap ProgramStyle::paintedFrame(const QStyleOption& option, qreal pixelRatio)
     painter.setPen(separatorColour(option.palette));
     painter.drawRect(small.rect.adjusted(0, 0, -1, -1));
   }
+  painter.end();
+  frame.setDevicePixelRatio(1);  // its corners are cut out in the pixels of the screen
   return frame;
 }
 

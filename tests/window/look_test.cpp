@@ -3,10 +3,14 @@
 #include <QFontInfo>
 #include <QLabel>
 #include <QLocale>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
 #include <cmath>
 
 #include "app/common/colours.h"
 #include "app/common/look.h"
+#include "app/common/program_style.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 
@@ -48,6 +52,7 @@ class LookSuite : public QObject {
   void headingsAreReadableOnLightAndDark();
   void headingsFollowAChangeOfTheTheme();
   void boxesHaveAnEdgeOnBlackGroundToo();
+  void framesLookAsTheStylePaintsThemAtEveryScale();
 };
 
 void LookSuite::theProgramCarriesItsFont() {
@@ -113,6 +118,36 @@ void LookSuite::boxesHaveAnEdgeOnBlackGroundToo() {
   const QImage box = program.box(0).grab().toImage();
   QApplication::setPalette(before);
   QVERIFY(contrast(box.pixelColor(0, box.height() / 2), Qt::black) >= kVisibleContrast);
+}
+
+// They are copied from one picture, whose corners must come out in their own size.
+void LookSuite::framesLookAsTheStylePaintsThemAtEveryScale() {
+  const auto paintedBy = [](const QStyle& style, qreal scale) {
+    QImage picture(QSize(102, 20) * scale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::white);
+    QStyleOptionFrame frame;
+    frame.rect = QRect(0, 0, 102, 20);
+    frame.palette = QPalette(QColor(0xEF, 0xEF, 0xEF));
+    frame.state = QStyle::State_Enabled;
+    frame.lineWidth = 1;
+    QPainter painter(&picture);
+    style.drawPrimitive(QStyle::PE_FrameLineEdit, &frame, &painter);
+    painter.end();
+    picture.setDevicePixelRatio(1);
+    return picture;
+  };
+  const std::unique_ptr<QStyle> plain(QStyleFactory::create("Fusion"));
+  const app::ProgramStyle copying;
+  for (const qreal scale : {1.0, 1.5, 2.0, 3.0}) {
+    const QImage expected = paintedBy(*plain, scale);
+    const QImage seen = paintedBy(copying, scale);
+    for (int y = 0; y < expected.height(); ++y)
+      for (int x = 0; x < expected.width(); ++x)
+        QVERIFY2(std::abs(expected.pixelColor(x, y).lightness() -
+                          seen.pixelColor(x, y).lightness()) < 16,
+                 qPrintable(QString("%1: %2, %3").arg(scale).arg(x).arg(y)));
+  }
 }
 
 std::unique_ptr<QObject> lookSuite() { return std::make_unique<LookSuite>(); }
