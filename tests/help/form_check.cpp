@@ -28,6 +28,11 @@ std::string plainForm(std::string_view form) {
   return plain.substr(first, plain.find_last_not_of(' ') - first + 1);
 }
 
+std::string insideSentence(std::string form) {
+  if (!form.empty() && form[0] >= 'A' && form[0] <= 'Z') form[0] += 'a' - 'A';
+  return form;
+}
+
 std::vector<std::string> acceptedWritings(std::string_view form) {
   std::vector<std::string> writings{plainForm(form)};
   std::string_view rest = form.substr(0, form.find(','));

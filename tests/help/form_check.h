@@ -15,4 +15,7 @@ namespace odmiennik::help {
 // A typographic apostrophe made plain, blanks around the form dropped.
 [[nodiscard]] std::string plainForm(std::string_view form);
 
+// The form as it stands inside a sentence: "Lève-toi" -> "lève-toi".
+[[nodiscard]] std::string insideSentence(std::string form);
+
 }  // namespace odmiennik::help

@@ -30,7 +30,8 @@ class Engine {
 
 bool isAccepted(const std::string& written, const std::string& given) {
   const std::vector<std::string> writings = acceptedWritings(given);
-  return std::find(writings.begin(), writings.end(), plainForm(written)) != writings.end();
+  const std::string form = insideSentence(plainForm(written));
+  return std::find(writings.begin(), writings.end(), form) != writings.end();
 }
 
 std::string described(const HelpPage& page, const MarkedForm& marked, const std::string& given) {
@@ -83,6 +84,11 @@ TEST(accepted_writings, each_variant_of_a_double_form_is_accepted) {
 
 TEST(accepted_writings, of_a_participle_with_its_feminine_ending_the_first_is_accepted) {
   EXPECT_EQ(acceptedWritings("dû, due"), (std::vector<std::string>{"dû, due", "dû"}));
+}
+
+TEST(accepted_writings, a_form_may_begin_a_sentence) {
+  EXPECT_TRUE(isAccepted("Lève-toi", "lève-toi"));
+  EXPECT_FALSE(isAccepted("LÈVE-TOI", "lève-toi"));
 }
 
 TEST(accepted_writings, another_form_is_not_accepted) {

@@ -8,8 +8,8 @@ namespace odmiennik::help {
 namespace {
 
 const std::vector<std::string> kSectionsOfTensePage{
-    "Co wyraża", "Jak się tworzy", "Nieregularne tematy", "Kiedy się używa",
-    "Przykłady", "Typowe błędy",   "Zobacz też"};
+    "Co wyraża",    "Jak się tworzy",    "Nieregularne tematy", "Kiedy się używa", "Przykłady",
+    "Typowe błędy", "Co brzmi tak samo", "Ćwiczenia",           "Zobacz też"};
 
 std::vector<const HelpPage*> tensePages() {
   std::vector<const HelpPage*> pages;
@@ -60,12 +60,45 @@ TEST(help_pages, tense_pages_have_at_least_eight_examples) {
   }
 }
 
-// Tables aside: a reader looks up forms there rather than reads them.
+// The numbered lists of the exercises: the questions and, below their own heading, the answers.
+std::vector<std::vector<std::string>> exercisesOf(const HelpPage& page) {
+  std::vector<std::vector<std::string>> lists;
+  const std::vector<Section> sections = page.sections();
+  if (const Section* section = sectionOf(sections, "Ćwiczenia"))
+    for (const std::string& list : elements(section->markup, "ol"))
+      lists.push_back(elements(list, "li"));
+  return lists;
+}
+
+TEST(help_pages, tense_pages_have_five_exercises_and_five_answers) {
+  for (const HelpPage* page : tensePages()) {
+    const auto lists = exercisesOf(*page);
+    ASSERT_EQ(lists.size(), 2U) << page->name;
+    EXPECT_EQ(lists[0].size(), 5U) << page->name;
+    EXPECT_EQ(lists[1].size(), 5U) << page->name;
+  }
+}
+
+// An answer is checked when its form is marked; a question that holds one gives it away.
+TEST(help_pages, every_answer_has_a_checked_form_and_no_question_has) {
+  for (const HelpPage& page : allPages()) {
+    const auto lists = exercisesOf(page);
+    if (lists.empty()) continue;
+    ASSERT_EQ(lists.size(), 2U) << page.name;
+    for (const std::string& question : lists[0])
+      EXPECT_TRUE((HelpPage{"", question}.forms().empty())) << page.name << ": " << question;
+    for (const std::string& answer : lists[1])
+      EXPECT_FALSE((HelpPage{"", answer}.forms().empty())) << page.name << ": " << answer;
+  }
+}
+
+// Tables aside, where a reader looks up forms rather than reads them, and the exercises.
 TEST(help_pages, tense_pages_have_400_to_900_words_of_text) {
   for (const HelpPage* page : tensePages()) {
-    int words = wordCount(plainText(page->markup.substr(page->markup.find("<body"))));
-    for (const std::string& table : elements(page->markup, "table"))
-      words -= wordCount(plainText(table));
+    const auto body = page->markup.find("<body");
+    const std::string read = page->markup.substr(body, page->markup.find("<h2>Ćwiczenia") - body);
+    int words = wordCount(plainText(read));
+    for (const std::string& table : elements(read, "table")) words -= wordCount(plainText(table));
     EXPECT_GE(words, 400) << page->name;
     EXPECT_LE(words, 900) << page->name;
   }
