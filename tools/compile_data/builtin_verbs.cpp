@@ -1,7 +1,7 @@
 // Reading of the built-in verbs.
 #include "tools/compile_data/builtin_verbs.h"
 
-#include "tools/compile_data/source_file.h"
+#include "tools/compile_data/line_reader.h"
 
 namespace odmiennik::tools {
 namespace {
@@ -32,6 +32,8 @@ constexpr std::array<std::string_view, 22> kLineNames{
     "participe passé composé",
 };
 
+constexpr std::array<Named<bool>, 2> kIsAvoir{{{"avoir", true}, {"être", false}}};
+
 class Reader {
  public:
   explicit Reader(SourceFile file) : file_(std::move(file)) {}
@@ -43,51 +45,54 @@ class Reader {
   }
 
  private:
-  const SourceLine& take() {
-    if (next_ == file_.lines.size()) file_.fail(file_.lines.back(), "the last verb is cut short");
-    return file_.lines[next_++];
+  // The next line, with `name` taken off its front.
+  LineReader takeNamed(std::string_view name) {
+    if (next_ == file_.lines.size())
+      file_.fail(file_.lines.back(),
+                 "the last verb is cut short: no \"" + std::string(name) + "\"");
+    LineReader line(file_, file_.lines[next_++]);
+    if (!line.take(name)) line.fail("\"" + std::string(name) + "\" is expected");
+    return line;
   }
 
-  std::string_view takeNamed(std::string_view name) {
-    const SourceLine& line = take();
-    std::string_view rest = line.text;
-    if (!takePrefix(rest, name)) file_.fail(line, "\"" + std::string(name) + "\" is expected");
-    return rest;
+  [[nodiscard]] bool isNext(std::string_view name) const {
+    return next_ < file_.lines.size() && LineReader(file_, file_.lines[next_]).take(name);
   }
 
   BuiltinVerb readVerb() {
     BuiltinVerb verb;
-    const std::string name(takeNamed("verb "));
-    const std::string_view auxiliary = takeNamed("auxiliary ");
-    const SourceLine& line = file_.lines[next_ - 1];
-    verb.isAvoir = auxiliary == "avoir";
-    if (!verb.isAvoir && auxiliary != "être") file_.fail(line, "avoir or être is expected");
-    while (file_.lines.at(next_).text.starts_with("has ") ||
-           file_.lines.at(next_).text.starts_with("why "))
-      ++next_;
+    LineReader head = takeNamed("verb");
+    const std::string name(head.takeRest("an infinitive is expected"));
+    once_.note(head, name);
+    LineReader auxiliary = takeNamed("auxiliary");
+    verb.isAvoir = auxiliary.takeNamed(kIsAvoir);
+    auxiliary.finish();
+    if (isNext("has")) {
+      static_cast<void>(takeNamed("has").takeRest("tenses are expected"));
+      static_cast<void>(takeNamed("why").takeRest("a reason is expected"));
+    }
     for (std::size_t tense = 0; tense < kLineNames.size(); ++tense)
       readTense(kLineNames[tense], engine::kTenses[tense], verb);
-    if (verb.forms[engine::slot::kInfinitive] != french(file_, line, name))
-      file_.fail(line, "the infinitive is not the block's verb");
+    if (verb.forms[engine::slot::kInfinitive] != head.french(name))
+      head.fail("the infinitive is not the block's verb");
     return verb;
   }
 
   void readTense(std::string_view name, const engine::Tense& tense, BuiltinVerb& verb) {
-    const std::string_view text = takeNamed(name);
-    const SourceLine& line = file_.lines[next_ - 1];
-    std::vector<std::string> forms = split(text, '|');
+    LineReader line = takeNamed(name);
+    std::vector<std::string> forms = split(line.takeRest("forms are expected"), '|');
     const auto count = static_cast<std::size_t>(tense.slotCount);
     if (forms.size() == 1 && (forms[0] == "*" || forms[0] == "@")) forms.resize(count, forms[0]);
-    if (forms.size() != count) file_.fail(line, "a form for every person is expected");
+    if (forms.size() != count) line.fail("a form for every person is expected");
     for (std::size_t person = 0; person < count; ++person) {
-      if (forms[person].empty()) file_.fail(line, "an empty form; write \"@\" where there is none");
-      verb.forms[static_cast<std::size_t>(tense.firstSlot) + person] =
-          french(file_, line, forms[person]);
+      if (forms[person].empty()) line.fail("an empty form; write \"@\" where there is none");
+      verb.forms[static_cast<std::size_t>(tense.firstSlot) + person] = line.french(forms[person]);
     }
   }
 
   SourceFile file_;
   std::size_t next_ = 0;
+  Once once_;
 };
 
 }  // namespace

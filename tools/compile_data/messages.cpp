@@ -3,63 +3,110 @@
 
 #include "tools/compile_data/emit.h"
 #include "tools/compile_data/generators.h"
-#include "tools/compile_data/source_file.h"
+#include "tools/compile_data/line_reader.h"
 
 namespace odmiennik::tools {
 namespace {
 
+// Words of the source and the enumerators that they stand for.
+constexpr std::array<Named<std::string_view>, 5> kIcons{{{"none", "Icon::none"},
+                                                         {"information", "Icon::information"},
+                                                         {"question", "Icon::question"},
+                                                         {"exclamation", "Icon::exclamation"},
+                                                         {"critical", "Icon::critical"}}};
+// The default button is marked with a star.
+constexpr std::array<Named<std::string_view>, 10> kButtons{{{"ok", "Button::ok"},
+                                                            {"ok*", "Button::ok"},
+                                                            {"cancel", "Button::cancel"},
+                                                            {"cancel*", "Button::cancel"},
+                                                            {"yes", "Button::yes"},
+                                                            {"yes*", "Button::yes"},
+                                                            {"no", "Button::no"},
+                                                            {"no*", "Button::no"},
+                                                            {"help", "Button::help"},
+                                                            {"help*", "Button::help"}}};
+
 struct SourceMessage {
-  std::string name, icon, buttons, title, text;
+  LineReader head;  // the block's first line, for faults of the whole block
+  std::string name;
+  std::string_view icon, byDefault;
+  std::string buttons, title, text;
+  Once once;
 };
 
-std::vector<SourceMessage> readMessages(const std::string& path) {
-  const SourceFile file = readSource(path);
-  std::vector<SourceMessage> messages;
-  for (const SourceLine& line : file.lines) {
-    std::string_view rest = line.text;
-    if (takePrefix(rest, "message "))
-      messages.push_back({.name = std::string(rest)});
-    else if (messages.empty())
-      file.fail(line, "a message is expected");
-    else if (takePrefix(rest, "icon "))
-      messages.back().icon = rest;
-    else if (takePrefix(rest, "buttons "))
-      messages.back().buttons = rest;
-    else if (takePrefix(rest, "title "))
-      messages.back().title = rest;
-    else if (takePrefix(rest, "text "))
-      messages.back().text = rest;
-    else
-      file.fail(line, "icon, buttons, title or text is expected");
-  }
-  for (const SourceMessage& message : messages)
-    if (message.icon.empty() || message.buttons.empty() || message.text.empty())
-      throw std::runtime_error(path + ": \"" + message.name + "\" is not complete");
-  return messages;
+std::string takeIdentifier(LineReader& line) {
+  const std::string name(line.takeWord("a name is expected"));
+  const bool isPlain = name.find_first_not_of(
+                           "abcdefghijklmnopqrstuvwxyz"
+                           "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789") == std::string::npos;
+  if (!isPlain || (name[0] >= '0' && name[0] <= '9'))
+    line.fail("\"" + name + "\" is no name for the code");
+  line.finish();
+  return name;
 }
 
 // "yes no*" -> "Button::yes | Button::no", with the marked or the first one as default.
-std::string buttonSet(const std::string& text, std::string& byDefault) {
-  std::string set;
-  for (std::string word : words(text)) {
-    const bool isMarked = word.ends_with('*');
-    if (isMarked) word.pop_back();
-    if (isMarked || byDefault.empty()) byDefault = "Button::" + word;
-    set += (set.empty() ? "Button::" : " | Button::") + word;
+void readButtons(LineReader& line, SourceMessage& message) {
+  Once once;
+  do {
+    const bool isMarked = line.rest().substr(0, line.rest().find(' ')).ends_with('*');
+    const std::string_view button = line.takeNamed(kButtons);
+    once.note(line, button);
+    if (isMarked) once.note(line, "*");
+    if (isMarked || message.byDefault.empty()) message.byDefault = button;
+    message.buttons.append(message.buttons.empty() ? "" : " | ").append(button);
+  } while (!line.isAtEnd());
+}
+
+void readLine(LineReader& line, SourceMessage& message) {
+  const std::string key(LineReader(line).takeWord("icon, buttons, title or text is expected"));
+  message.once.note(line, key);
+  if (line.take("icon"))
+    message.icon = line.takeNamed(kIcons), line.finish();
+  else if (line.take("buttons"))
+    readButtons(line, message);
+  else if (line.take("title"))
+    message.title = line.takeRest("a title is expected");
+  else if (line.take("text"))
+    message.text = line.takeRest("a text is expected");
+  else
+    line.fail("icon, buttons, title or text is expected");
+}
+
+void checkComplete(const SourceMessage& message) {
+  for (const char* key : {"icon", "buttons", "text"})
+    if (!message.once.has(key)) message.head.fail(std::string("\"") + key + "\" is missing");
+}
+
+std::vector<SourceMessage> readMessages(const SourceFile& file) {
+  std::vector<SourceMessage> messages;
+  Once names;
+  for (const SourceLine& source : file.lines) {
+    LineReader line(file, source);
+    const LineReader head = line;
+    if (!line.take("message")) {
+      if (messages.empty()) line.fail("a message is expected");
+      readLine(line, messages.back());
+      continue;
+    }
+    if (!messages.empty()) checkComplete(messages.back());
+    const std::string name = takeIdentifier(line);
+    names.note(line, name);
+    messages.push_back({.head = head, .name = name});
   }
-  return set;
+  checkComplete(messages.back());
+  return messages;
 }
 
 }  // namespace
 
 void generateMessages(const Paths& sources, std::ostream& out) {
   std::ostringstream names, rows;
-  for (const SourceMessage& message : readMessages(sources.at(0))) {
-    std::string byDefault;
-    const std::string buttons = buttonSet(message.buttons, byDefault);
+  const SourceFile file = readSource(sources.at(0));
+  for (const SourceMessage& message : readMessages(file)) {
     names << "  " << message.name << ",\n";
-    rows << "    {MessageId::" << message.name << ", Icon::" << message.icon << ", " << buttons
-         << ", " << byDefault << ", " << literal(message.title) << ",\n     "
+    rows << "    {MessageId::" << message.name << ", " << message.icon << ", " << message.buttons
+         << ", " << message.byDefault << ", " << literal(message.title) << ",\n     "
          << literal(message.text) << "},\n";
   }
   out << "#pragma once\n#include \"dictionary/message_rows.h\"\nnamespace odmiennik::dictionary {\n"

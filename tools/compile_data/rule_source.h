@@ -1,7 +1,6 @@
 // The source of the rules: models as steps, and dispatches that choose among them.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,18 +29,17 @@ struct SourceModel {
 
 struct SourceRow {
   int order = 0;
-  std::string ending;  // Windows-1252
-  std::string model;   // UTF-8; "-" for a refused ending
-  std::string group;   // Windows-1252
+  std::string ending;     // Windows-1252
+  std::size_t model = 0;  // position among the models
+  std::string group;      // Windows-1252
   groups::Claim claim = groups::Claim::conjugated;
 };
 
-// Models written as steps in the order in which they are done.
-[[nodiscard]] std::vector<SourceModel> readStepModels(const std::string& path);
+// Adds the models of a file, in the notation that its first line names: "notation steps", the steps
+// in the order in which they are done, or "notation table", what differs from the common sequence.
+void readModels(const std::string& path, std::vector<SourceModel>& models);
 
-// Models written as a table of what differs from the common sequence.
-[[nodiscard]] std::vector<SourceModel> readTableModels(const std::string& path);
-
-[[nodiscard]] std::vector<SourceRow> readDispatch(const std::string& path);
+[[nodiscard]] std::vector<SourceRow> readDispatch(const std::string& path,
+                                                  const std::vector<SourceModel>& models);
 
 }  // namespace odmiennik::tools

@@ -1,5 +1,4 @@
 // The rule tables as a header of constants.
-#include <algorithm>
 #include <sstream>
 
 #include "tools/compile_data/emit.h"
@@ -53,22 +52,12 @@ void writeModels(std::ostream& out, const std::string& group,
   out << "inline constexpr Model k" << group << "Models[] = {\n" << rows.str() << "};\n";
 }
 
-std::size_t positionOf(const std::string& name, const std::vector<SourceModel>& models) {
-  const auto found = std::find_if(models.begin(), models.end(),
-                                  [&](const SourceModel& model) { return model.name == name; });
-  if (found == models.end()) throw std::runtime_error("no model is called \"" + name + "\"");
-  return static_cast<std::size_t>(found - models.begin());
-}
-
-void writeDispatch(std::ostream& out, const std::string& group, const std::vector<SourceRow>& rows,
-                   const std::vector<SourceModel>& models) {
+void writeDispatch(std::ostream& out, const std::string& group,
+                   const std::vector<SourceRow>& rows) {
   out << "inline constexpr EndingRow k" << group << "Dispatch[] = {\n";
-  for (const SourceRow& row : rows) {
-    const bool hasModel = row.claim != groups::Claim::refused;
-    out << "    {" << row.order << ", " << viewLiteral(row.ending) << ", "
-        << (hasModel ? positionOf(row.model, models) : 0) << ", " << viewLiteral(row.group)
-        << ", Claim{" << number(row.claim) << "}},\n";
-  }
+  for (const SourceRow& row : rows)
+    out << "    {" << row.order << ", " << viewLiteral(row.ending) << ", " << row.model << ", "
+        << viewLiteral(row.group) << ", Claim{" << number(row.claim) << "}},\n";
   out << "};\n";
 }
 
@@ -76,15 +65,10 @@ void writeDispatch(std::ostream& out, const std::string& group, const std::vecto
 
 void generateRules(const std::string& group, const Paths& sources, std::ostream& out) {
   std::vector<SourceModel> models;
-  for (std::size_t i = 1; i < sources.size(); ++i) {
-    const bool isTable = sources[i].find("third_group") != std::string::npos;
-    const std::vector<SourceModel> more =
-        isTable ? readTableModels(sources[i]) : readStepModels(sources[i]);
-    models.insert(models.end(), more.begin(), more.end());
-  }
+  for (std::size_t i = 1; i < sources.size(); ++i) readModels(sources[i], models);
   out << "#pragma once\n#include \"groups/rule_rows.h\"\nnamespace odmiennik::groups::data {\n";
   writeModels(out, group, models);
-  writeDispatch(out, group, readDispatch(sources.at(0)), models);
+  writeDispatch(out, group, readDispatch(sources.at(0), models));
   out << "}\n";
 }
 

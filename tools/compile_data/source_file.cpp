@@ -23,15 +23,30 @@ std::string_view trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
+namespace {
+
+bool isUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const int length = engine::decodeUtf8(text).length;
+    if (length == 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(length));
+  }
+  return true;
+}
+
+}  // namespace
+
 SourceFile readSource(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
-  if (!in) throw SourceError(path, 0, "cannot be read");
+  if (!in) throw SourceError(path, 1, "cannot be read");
   SourceFile file{path, {}};
   std::string text;
   for (int number = 1; std::getline(in, text); ++number) {
     const std::string_view line = trim(text);
+    if (!isUtf8(line)) throw SourceError(path, number, "bytes that are no UTF-8");
     if (!line.empty() && line.front() != '#') file.lines.push_back({std::string(line), number});
   }
+  if (file.lines.empty()) throw SourceError(path, 1, "nothing stands in it");
   return file;
 }
 
@@ -43,19 +58,6 @@ std::vector<std::string> split(std::string_view text, char separator) {
   }
   parts.emplace_back(trim(text));
   return parts;
-}
-
-std::vector<std::string> words(std::string_view text) {
-  std::istringstream in{std::string(text)};
-  std::vector<std::string> found;
-  for (std::string word; in >> word;) found.push_back(word);
-  return found;
-}
-
-bool takePrefix(std::string_view& text, std::string_view prefix) {
-  if (!text.starts_with(prefix)) return false;
-  text = trim(text.substr(prefix.size()));
-  return true;
 }
 
 std::string french(const SourceFile& file, const SourceLine& line, std::string_view utf8) {

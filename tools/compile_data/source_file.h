@@ -26,19 +26,13 @@ struct SourceFile {
   [[noreturn]] void fail(const SourceLine& line, std::string_view reason) const;
 };
 
-// Reads a whole source; throws when it can't be read.
+// Reads a whole source; throws when it can't be read, is no UTF-8, or holds nothing.
 [[nodiscard]] SourceFile readSource(const std::string& path);
 
 // "a | b" -> {"a", "b"}, each without surrounding blanks.
 [[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
 
-// "cut 3 + group" -> {"cut", "3", "+", "group"}.
-[[nodiscard]] std::vector<std::string> words(std::string_view text);
-
 [[nodiscard]] std::string_view trim(std::string_view text);
-
-// Takes `prefix` and the blanks behind it off the front of `text`, if it stands there.
-bool takePrefix(std::string_view& text, std::string_view prefix);
 
 // The text in Windows-1252; a letter outside it is a fault of the line.
 [[nodiscard]] std::string french(const SourceFile& file, const SourceLine& line,

@@ -6,7 +6,7 @@
 #include "tools/compile_data/builtin_verbs.h"
 #include "tools/compile_data/emit.h"
 #include "tools/compile_data/generators.h"
-#include "tools/compile_data/source_file.h"
+#include "tools/compile_data/line_reader.h"
 
 namespace odmiennik::tools {
 namespace {
@@ -14,27 +14,19 @@ namespace {
 using Texts = std::map<int, std::string>;
 namespace text_id = engine::text_id;
 
-void addText(Texts& texts, int identifier, std::string text, const SourceFile& file,
-             const SourceLine& line) {
-  if (!texts.emplace(identifier, std::move(text)).second)
-    file.fail(line, "identifier " + std::to_string(identifier) + " stands twice");
+void addText(Texts& texts, int identifier, std::string_view text, const LineReader& line) {
+  if (!texts.emplace(identifier, text).second)
+    line.fail("identifier " + std::to_string(identifier) + " stands twice");
 }
 
 // `1 "me " "te "`: texts of consecutive identifiers.
 void addSmallTexts(Texts& texts, const std::string& path) {
   const SourceFile file = readSource(path);
-  for (const SourceLine& line : file.lines) {
-    const std::vector<std::string> parts = split(line.text, '"');
-    if (parts.size() < 3) file.fail(line, "an identifier and quoted texts are expected");
-    int identifier = std::stoi(parts[0]);
-    std::string_view rest = line.text;
-    for (auto open = rest.find('"'); open != std::string_view::npos; open = rest.find('"')) {
-      const auto close = rest.find('"', open + 1);
-      if (close == std::string_view::npos) file.fail(line, "a quote is not closed");
-      addText(texts, identifier++, french(file, line, rest.substr(open + 1, close - open - 1)),
-              file, line);
-      rest.remove_prefix(close + 1);
-    }
+  for (const SourceLine& source : file.lines) {
+    LineReader line(file, source);
+    int identifier = line.takeNumber(0, text_id::kLast);
+    do addText(texts, identifier++, line.french(line.takeQuoted()), line);
+    while (!line.isAtEnd());
   }
 }
 
@@ -43,7 +35,8 @@ void addTips(Texts& texts, const std::string& path) {
   const SourceFile file = readSource(path);
   int identifier = text_id::kTipCount;
   texts[identifier] = std::to_string(file.lines.size());
-  for (const SourceLine& line : file.lines) addText(texts, ++identifier, line.text, file, line);
+  for (const SourceLine& line : file.lines)
+    addText(texts, ++identifier, line.text, LineReader(file, line));
 }
 
 void addBuiltinVerbs(Texts& texts, const std::vector<BuiltinVerb>& verbs) {

@@ -6,7 +6,7 @@
 #include "engine/initial_letter.h"
 #include "tools/compile_data/emit.h"
 #include "tools/compile_data/generators.h"
-#include "tools/compile_data/source_file.h"
+#include "tools/compile_data/line_reader.h"
 
 namespace odmiennik::tools {
 namespace {
@@ -24,31 +24,51 @@ std::uint32_t recordNumber(Index& index, const std::string& record) {
                                     index.records.begin());
 }
 
+// A field that is one digit from 1 on.
+void checkDigit(const LineReader& line, const std::string& field, char last, const char* name) {
+  if (field.size() != 1 || field[0] < '1' || field[0] > last)
+    line.fail("\"" + field + "\" is no " + name);
+}
+
+// "h|1|1|2|1|0": perhaps "h"; group, transitive, intransitive, auxiliary; perhaps flags.
+void checkRecord(const LineReader& line, const std::string& record) {
+  const std::vector<std::string> fields = split(record, '|');
+  if (fields.size() != 5 && fields.size() != 6) line.fail("a record has four fields or five");
+  if (!fields[0].empty() && fields[0] != "h") line.fail("only \"h\" stands before the record");
+  checkDigit(line, fields[1], '4', "group");
+  checkDigit(line, fields[2], '4', "use");
+  checkDigit(line, fields[3], '4', "use");
+  checkDigit(line, fields[4], '3', "auxiliary");
+  const std::string flags = fields.size() == 6 ? fields[5] : "none";
+  if (flags != "none" && flags != "0" && flags != "1" && flags != "2")
+    line.fail("\"" + flags + "\" is no flag");
+  // The engine looks for the "h" only where flags follow.
+  if (fields[0] == "h" && flags != "0") line.fail("behind \"h\" the flags are 0");
+}
+
 Index readIndex(const SourceFile& file) {
   Index index;
+  Once once;
   char letter = 'a';
-  for (const SourceLine& line : file.lines) {
-    const std::vector<std::string> fields = split(line.text, '\t');
-    if (fields.size() != 2) file.fail(line, "a verb, a tab and a record are expected");
-    const std::string verb = french(file, line, fields[0]);
+  for (const SourceLine& source : file.lines) {
+    LineReader line(file, source);
+    const std::vector<std::string> fields = split(source.text, '\t');
+    if (fields.size() != 2) line.fail("a verb, a tab and a record are expected");
+    once.note(line, fields[0]);
+    checkRecord(line, fields[1]);
+    const std::string verb = line.french(fields[0]);
     const char initial = engine::initialLetter(verb.empty() ? '\0' : verb[0]);
-    if (initial < letter) file.fail(line, "no letter, or the letters are not in order");
+    if (initial < letter) line.fail("no letter, or the letters are not in order");
     while (letter < initial)
       index.firstOfLetter[static_cast<std::size_t>(++letter - 'a')] =
           static_cast<std::uint32_t>(index.verbs.size());
-    index.recordOfVerb.push_back(recordNumber(index, french(file, line, fields[1])));
+    index.recordOfVerb.push_back(recordNumber(index, fields[1]));
     index.verbs.push_back(verb);
   }
   while (letter <= 'z')
     index.firstOfLetter[static_cast<std::size_t>(++letter - 'a')] =
         static_cast<std::uint32_t>(index.verbs.size());
   return index;
-}
-
-void refuseDoubles(const SourceFile& file, std::vector<std::string> verbs) {
-  std::sort(verbs.begin(), verbs.end());
-  if (std::adjacent_find(verbs.begin(), verbs.end()) != verbs.end())
-    file.fail(file.lines.back(), "a verb stands twice");
 }
 
 void writeTexts(std::ostream& out, const std::vector<std::string>& texts, const char* offsets,
@@ -63,7 +83,6 @@ void writeTexts(std::ostream& out, const std::vector<std::string>& texts, const 
 void generateVerbIndex(const Paths& sources, std::ostream& out) {
   const SourceFile file = readSource(sources.at(0));
   const Index index = readIndex(file);
-  refuseDoubles(file, index.verbs);
   const std::vector<std::uint32_t> table = hashTable(index.verbs);
   out << "#include \"dictionary/verb_index_data.h\"\nnamespace odmiennik::dictionary::data {\n";
   writeTexts(out, index.verbs, "kVerbOffsets", "kVerbBytes");

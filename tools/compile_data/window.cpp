@@ -1,11 +1,10 @@
 // The design of a window: a table of controls.
 #include <array>
-#include <charconv>
 #include <sstream>
 
 #include "tools/compile_data/emit.h"
 #include "tools/compile_data/generators.h"
-#include "tools/compile_data/source_file.h"
+#include "tools/compile_data/line_reader.h"
 
 namespace odmiennik::tools {
 namespace {
@@ -16,10 +15,7 @@ constexpr std::size_t kColumnCount = 12;
 
 using Cells = std::vector<std::string>;
 
-// A word of the source and the enumerator that it stands for.
-struct Word {
-  std::string_view source, enumerator;
-};
+using Word = Named<std::string_view>;
 constexpr std::array<Word, 9> kKinds{{{"window", "window"},
                                       {"label", "label"},
                                       {"box", "textBox"},
@@ -30,56 +26,51 @@ constexpr std::array<Word, 9> kKinds{{{"window", "window"},
                                       {"shape", "shape"},
                                       {"line", "line"}}};
 constexpr std::array<Word, 4> kStates{
-    {{"", "normal"}, {"locked", "locked"}, {"disabled", "disabled"}, {"hidden", "hidden"}}};
+    {{"normal", "normal"}, {"locked", "locked"}, {"disabled", "disabled"}, {"hidden", "hidden"}}};
 
-template <std::size_t Count>
-std::string enumeratorOf(const SourceFile& file, const SourceLine& line,
-                         const std::array<Word, Count>& known, std::string_view word) {
-  for (const Word& row : known)
-    if (row.source == word) return std::string(row.enumerator);
-  file.fail(line, "\"" + std::string(word) + "\" is not known here");
-}
+constexpr int kLargest = 100000;  // twips: more than any screen
 
-int number(const SourceFile& file, const SourceLine& line, std::string_view text) {
-  int value = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (fault != std::errc{} || end != text.data() + text.size())
-    file.fail(line, "\"" + std::string(text) + "\" is no whole number");
+int number(const LineReader& line, std::string_view text, int least, int most) {
+  LineReader cell = line.at(text);
+  const int value = cell.takeNumber(least, most);
+  cell.finish();
   return value;
 }
 
 // "8.25 bold" -> "825, true": hundredths of a point, so that the table holds whole numbers only.
-std::string fontCells(const SourceFile& file, const SourceLine& line, const std::string& text) {
-  const std::vector<std::string> parts = words(text);
-  if (parts.empty()) return "0, false";
-  const bool isBold = parts.size() == 2 && parts[1] == "bold";
-  if (parts.size() > 1 && !isBold) file.fail(line, "a font is a size and perhaps \"bold\"");
-  const auto point = parts[0].find('.');
-  std::string hundredths = parts[0].substr(0, point);
-  std::string behind = point == std::string::npos ? "" : parts[0].substr(point + 1);
-  behind.resize(2, '0');
-  number(file, line, hundredths += behind);
-  return hundredths + (isBold ? ", true" : ", false");
+std::string fontCells(const LineReader& line, std::string_view text) {
+  if (text.empty()) return "0, false";
+  LineReader cell = line.at(text);
+  const std::string size(cell.takeWord("a number is expected"));
+  const bool isBold = cell.take("bold");
+  cell.finish();
+  const auto point = size.find('.');
+  std::string decimals = point == std::string::npos ? "" : size.substr(point + 1);
+  if (decimals.size() > 2) line.fail("\"" + size + "\" has more than two decimals");
+  decimals.resize(2, '0');
+  const int hundredths = number(line, size.substr(0, point) + decimals, 1, kLargest);
+  return std::to_string(hundredths) + (isBold ? ", true" : ", false");
 }
 
 // "txtCzasownik_96" -> "\"txtCzasownik\", 96"; a name without a number is no element of an array.
-std::string nameCells(const SourceFile& file, const SourceLine& line, const std::string& text) {
+std::string nameCells(const LineReader& line, const std::string& text) {
   const auto bar = text.rfind('_');
   if (bar == std::string::npos) return literal(text) + ", -1";
-  const int index = number(file, line, std::string_view(text).substr(bar + 1));
+  const int index = number(line, std::string_view(text).substr(bar + 1), 0, kLargest);
   return literal(text.substr(0, bar)) + ", " + std::to_string(index);
 }
 
-std::string rowOf(const SourceFile& file, const SourceLine& line, const Cells& cells) {
+std::string rowOf(const LineReader& line, const Cells& cells) {
   std::ostringstream row;
-  row << "    {ControlKind::" << enumeratorOf(file, line, kKinds, cells[kind]) << ", "
-      << nameCells(file, line, cells[name]) << ", " << literal(cells[caption]);
+  row << "    {ControlKind::" << line.at(cells[kind]).takeNamed(kKinds) << ", "
+      << nameCells(line, cells[name]) << ", " << literal(cells[caption]);
   for (const Column column : {left, top, width, height})
-    row << ", " << number(file, line, cells[column]);
-  row << ", " << fontCells(file, line, cells[font])
-      << ", ControlState::" << enumeratorOf(file, line, kStates, cells[state]) << ", "
-      << literal(cells[tag]) << ", " << (cells[tab].empty() ? -1 : number(file, line, cells[tab]))
-      << ", " << literal(cells[spokenName]) << "},\n";
+    row << ", " << number(line, cells[column], 0, kLargest);
+  row << ", " << fontCells(line, cells[font]) << ", ControlState::"
+      << line.at(cells[state].empty() ? "normal" : cells[state]).takeNamed(kStates) << ", "
+      << literal(cells[tag]) << ", "
+      << (cells[tab].empty() ? -1 : number(line, cells[tab], 0, kLargest)) << ", "
+      << literal(cells[spokenName]) << "},\n";
   return row.str();
 }
 
@@ -89,12 +80,15 @@ void generateWindow(const Paths& sources, std::ostream& out) {
   const SourceFile file = readSource(sources.at(0));
   out << "#pragma once\n#include \"app/controls/control_row.h\"\nnamespace odmiennik::app {\n"
       << "inline constexpr ControlRow kMainWindow[] = {\n";
-  for (const SourceLine& line : file.lines) {
-    Cells cells = split(line.text, '|');
-    if (cells.size() > kColumnCount) file.fail(line, "too many columns");
+  Once names;
+  for (const SourceLine& source : file.lines) {
+    const LineReader line(file, source);
+    Cells cells = split(source.text, '|');
+    if (cells.size() > kColumnCount) line.fail("too many columns");
     // The empty cells at a line's end need no bars.
     cells.resize(kColumnCount);
-    out << rowOf(file, line, cells);
+    names.note(line, cells[name]);
+    out << rowOf(line, cells);
   }
   out << "};\n}\n";
 }
