@@ -26,11 +26,23 @@ bool LineReader::next(InputLine& line) {
   }
 }
 
-bool LineReader::fill() {
-  const std::optional<std::size_t> size = source_(block_);
+// Reads behind the first `kept` bytes of the block; false at the end.
+bool LineReader::readBehind(std::size_t kept) {
+  const std::optional<std::size_t> size = source_(std::span(block_).subspan(kept));
   hasFailed_ = hasFailed_ || !size;
-  unread_ = {block_.data(), size.value_or(0)};
-  return !unread_.empty();
+  unread_ = {block_.data(), kept + size.value_or(0)};
+  return size.value_or(0) != 0;
+}
+
+bool LineReader::fill() {
+  constexpr std::string_view kByteOrderMark = "\uFEFF";
+  if (!isAtStart_) return readBehind(0);
+  isAtStart_ = false;
+  bool isOpen = true;  // asked no more once it has ended: a terminal would wait for another end
+  while (isOpen && unread_.size() < kByteOrderMark.size() && kByteOrderMark.starts_with(unread_))
+    isOpen = readBehind(unread_.size());
+  if (unread_.starts_with(kByteOrderMark)) unread_.remove_prefix(kByteOrderMark.size());
+  return !unread_.empty() || (isOpen && readBehind(0));
 }
 
 void LineReader::keep(std::string_view part) {

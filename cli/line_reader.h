@@ -21,7 +21,8 @@ struct InputLine {
   bool isCut = false;  // longer than kLongestLine
 };
 
-// Lines end with LF or CR LF; a last line without an end counts.
+// Lines end with LF or CR LF; a last line without an end counts. One byte-order mark at the start
+// is passed over.
 class LineReader {
  public:
   // Fills the buffer and returns how much it got: 0 at the end, nothing when reading failed.
@@ -36,6 +37,7 @@ class LineReader {
 
  private:
   bool fill();
+  bool readBehind(std::size_t kept);
   void keep(std::string_view part);
   [[nodiscard]] InputLine lineOf(std::string_view bytes, bool isEnded);
 
@@ -43,6 +45,7 @@ class LineReader {
   std::array<char, kLongestLine> block_{};
   std::string_view unread_;
   std::string kept_;  // the beginning of a line that reaches over blocks
+  bool isAtStart_ = true;
   bool isKeeping_ = false;
   bool isCut_ = false;
   bool hasFailed_ = false;

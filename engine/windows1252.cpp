@@ -1,6 +1,8 @@
 // Conversion between Windows-1252 and UTF-8, used only at the program's edges.
 #include "engine/windows1252.h"
 
+#include "engine/french.h"
+
 namespace odmiennik::engine {
 namespace {
 
@@ -24,7 +26,46 @@ constexpr std::array<Utf8Image, 256> kUtf8Images = [] {
   return images;
 }();
 
+// A combining accent: the letters that it stands on and the letters that it makes of them.
+struct Accent {
+  char32_t codePoint;
+  std::string_view bases;
+  std::string_view letters;
+};
+
+constexpr Accent kAccents[] = {
+    {0x0300, "AEIOUaeiou", "ÀÈÌÒÙàèìòù"_fr},
+    {0x0301, "AEIOUYaeiouy", "ÁÉÍÓÚÝáéíóúý"_fr},
+    {0x0302, "AEIOUaeiou", "ÂÊÎÔÛâêîôû"_fr},
+    {0x0303, "ANOano", "ÃÑÕãñõ"_fr},
+    {0x0308, "AEIOUYaeiouy", "ÄËÏÖÜŸäëïöüÿ"_fr},
+    {0x030A, "Aa", "Åå"_fr},
+    {0x030C, "SZsz", "ŠŽšž"_fr},
+    {0x0327, "Cc", "Çç"_fr},
+};
+
+// Puts the letter into `text`: its last letter with an accent on it, or one letter more.
+bool appendCodePoint(std::string& text, char32_t codePoint) {
+  if (const auto byte = byteOfCodePoint(codePoint)) {
+    text.push_back(static_cast<char>(*byte));
+    return true;
+  }
+  const auto composed = text.empty() ? std::nullopt : composedByte(text.back(), codePoint);
+  if (composed) text.back() = static_cast<char>(*composed);
+  return composed.has_value();
+}
+
 }  // namespace
+
+std::optional<unsigned char> composedByte(char base, char32_t accent) {
+  for (const Accent& row : kAccents) {
+    if (row.codePoint != accent) continue;
+    const auto place = row.bases.find(base);
+    if (place == std::string_view::npos) return std::nullopt;
+    return static_cast<unsigned char>(row.letters[place]);
+  }
+  return std::nullopt;
+}
 
 void appendUtf8(std::string& out, std::string_view bytes) {
   for (const char byte : bytes) {
@@ -45,12 +86,10 @@ FromUtf8 fromUtf8(std::string_view utf8) {
   result.text.reserve(utf8.size());
   while (result.position < utf8.size()) {
     const DecodedCodePoint decoded = decodeUtf8(utf8.substr(result.position));
-    const auto byte = decoded.length == 0 ? std::nullopt : byteOfCodePoint(decoded.value);
-    if (!byte) {
+    if (decoded.length == 0 || !appendCodePoint(result.text, decoded.value)) {
       result.fault = decoded.length == 0 ? Utf8Fault::notUtf8 : Utf8Fault::letterOutside;
       return result;
     }
-    result.text.push_back(static_cast<char>(*byte));
     result.position += static_cast<std::size_t>(decoded.length);
   }
   return result;

@@ -31,6 +31,11 @@ inline constexpr std::array<char32_t, 256> kCodePointOfByte = [] {
   return std::nullopt;
 }
 
+// The byte of the letter that `base` and a combining accent behind it make, or nothing when
+// Windows-1252 has no such letter: composedByte('e', U+0301) -> "é", composedByte('s', U+0301) ->
+// nothing.
+[[nodiscard]] std::optional<unsigned char> composedByte(char base, char32_t accent);
+
 // One code point read from UTF-8 text: its value and the number of bytes it took (0: no UTF-8).
 struct DecodedCodePoint {
   char32_t value = 0;
@@ -74,7 +79,9 @@ struct FromUtf8 {
   std::size_t position = 0;
 };
 
-// "été" -> "\xE9t\xE9"; "łapać" is refused with letterOutside at 0, "\xFF" with notUtf8.
+// "été" -> "\xE9t\xE9", also where its accents follow their letters as code points of their own, as
+// texts from other systems have them; "łapać" is refused with letterOutside at 0, "\xFF" with
+// notUtf8.
 [[nodiscard]] FromUtf8 fromUtf8(std::string_view utf8);
 
 }  // namespace odmiennik::engine

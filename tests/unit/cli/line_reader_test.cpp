@@ -43,6 +43,26 @@ TEST(line_reader, a_last_line_without_an_end_counts) {
   EXPECT_EQ(linesOf("aller\nvenir"), (Lines{"aller", "venir"}));
 }
 
+TEST(line_reader, passes_over_one_byte_order_mark_at_the_start_whatever_the_blocks) {
+  for (std::size_t blockSize = 1; blockSize < 9; ++blockSize) {
+    EXPECT_EQ(linesOf("\uFEFFaller\n\uFEFFvenir\n", blockSize), (Lines{"aller", "\uFEFFvenir"}));
+    EXPECT_EQ(linesOf("\uFEFF\uFEFFaller", blockSize), (Lines{"\uFEFFaller"}));
+    EXPECT_EQ(linesOf("\xEF\xBB", blockSize), (Lines{"\xEF\xBB"}));
+    EXPECT_EQ(linesOf("\uFEFF", blockSize), Lines{});
+  }
+}
+
+TEST(line_reader, asks_once_at_the_end_of_no_input) {
+  int asked = 0;
+  LineReader reader([&asked](std::span<char>) {
+    ++asked;
+    return std::optional<std::size_t>(0);
+  });
+  InputLine line;
+  EXPECT_FALSE(reader.next(line));
+  EXPECT_EQ(asked, 1);
+}
+
 TEST(line_reader, no_input_is_no_line) { EXPECT_EQ(linesOf(""), Lines{}); }
 
 TEST(line_reader, counts_lines_from_one) {

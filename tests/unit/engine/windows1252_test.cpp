@@ -73,7 +73,37 @@ TEST(Windows1252, TheFaultIsReportedAtTheFirstBadByte) {
 TEST(Windows1252, LettersOfOtherPlanesAreOutside) {
   expectRefused("\U0001F600", Utf8Fault::letterOutside, 0);
   expectRefused("日本", Utf8Fault::letterOutside, 0);
-  expectRefused("e\u0301", Utf8Fault::letterOutside, 1);
+}
+
+TEST(Windows1252, ALetterAndItsCombiningAccentAreOneLetter) {
+  EXPECT_EQ(fromUtf8("e\u0302tre").text, "\xEAtre");
+  EXPECT_EQ(fromUtf8("e\u0301te\u0301 C\u0327a, Y\u0308").text,
+            "\xE9t\xE9 \xC7"
+            "a, \x9F");
+}
+
+TEST(Windows1252, EveryAccentedLetterIsMadeOfItsParts) {
+  const struct {
+    char32_t accent;
+    std::string_view bases;
+    std::string_view letters;
+  } kRows[] = {{0x300, "aeiou", "àèìòù"},   {0x301, "aeiouy", "áéíóúý"},
+               {0x302, "aeiou", "âêîôû"},   {0x303, "ano", "ãñõ"},
+               {0x308, "aeiouy", "äëïöüÿ"}, {0x30A, "A", "Å"},
+               {0x30C, "sz", "šž"},         {0x327, "c", "ç"}};
+  for (const auto& row : kRows) {
+    const std::string letters = fromUtf8(row.letters).text;
+    for (std::size_t i = 0; i < row.bases.size(); ++i)
+      EXPECT_EQ(composedByte(row.bases[i], row.accent), static_cast<unsigned char>(letters[i]))
+          << row.letters;
+  }
+}
+
+TEST(Windows1252, AnAccentThatMakesNoLetterIsOutside) {
+  expectRefused("\u0301e", Utf8Fault::letterOutside, 0);
+  expectRefused("s\u0301", Utf8Fault::letterOutside, 1);
+  expectRefused("e\u0301\u0301", Utf8Fault::letterOutside, 3);
+  expectRefused("e\u0323", Utf8Fault::letterOutside, 1);
 }
 
 TEST(Windows1252, ControlCharactersWithALetterInTheirPlaceAreOutside) {
