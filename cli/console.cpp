@@ -1,24 +1,29 @@
 // Where the command speaks.
 #include "cli/console.h"
 
+#include "dictionary/printable.h"
+
 namespace odmiennik::cli {
 namespace {
 
-// What cannot be said on standard error cannot be said at all.
-void say(const std::string& line) { static_cast<void>(write(Stream::err, line)); }
+// Whatever a sentence quotes, the terminal shows it and does not obey it. What cannot be said on
+// standard error cannot be said at all.
+void say(std::string_view sentence) {
+  static_cast<void>(write(Stream::err, dictionary::printable(sentence) + "\n"));
+}
 
 }  // namespace
 
 void Console::complain(std::string_view subject, std::string_view sentence) {
   if (isOnTerminal_) out_.flush();
   std::string line = "odmien: ";
-  line.append(subject).append(": ").append(sentence).append("\n");
+  line.append(subject).append(": ").append(sentence);
   say(line);
 }
 
 void Console::complain(std::string_view sentence) {
   if (isOnTerminal_) out_.flush();
-  say("odmien: " + std::string(sentence) + "\n");
+  say("odmien: " + std::string(sentence));
 }
 
 ExitStatus Console::finish(ExitStatus status) {

@@ -17,7 +17,8 @@ class Console {
   [[nodiscard]] Output& out() { return out_; }
   [[nodiscard]] bool isOnTerminal() const { return isOnTerminal_; }
 
-  // Writes "odmien: subject: sentence" to standard error; on a terminal behind the data so far.
+  // Writes "odmien: subject: sentence" to standard error, quoted text of any kind in it shown as
+  // escapes where a terminal would obey it; on a terminal behind the data so far.
   void complain(std::string_view subject, std::string_view sentence);
   void complain(std::string_view sentence);
 

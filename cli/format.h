@@ -17,8 +17,8 @@ class Format {
   virtual void append(std::string& out, const Answer& answer) = 0;
 };
 
-// Appends Windows-1252 text to a table that a person or a line-wise program reads: a control
-// character becomes U+FFFD, so that no form breaks a line or drives a terminal.
+// Appends Windows-1252 text to a table that a person or a line-wise program reads, escaped as
+// dictionary/printable.h says: no form breaks a line or drives a terminal.
 void appendPrintable(std::string& out, std::string_view french);
 
 // One JSON object a line.

@@ -1,10 +1,13 @@
 // JSON strings.
 #include "cli/json_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 
+#include "dictionary/printable.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -44,7 +47,7 @@ constexpr Image utf8Of(char32_t codePoint) {
 }
 
 constexpr Image imageOf(char32_t codePoint) {
-  if (codePoint < 0x20) return escapeOf(codePoint);
+  if (codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0)) return escapeOf(codePoint);
   if (codePoint == '"' || codePoint == '\\') return {{'\\', static_cast<char>(codePoint)}, 2};
   return utf8Of(codePoint);
 }
@@ -67,6 +70,22 @@ char* writeImages(char* end, std::string_view letters) {
   return end;
 }
 
+void appendImage(std::string& out, const Image& image) { out.append(image.bytes, image.length); }
+
+void appendUnit(std::string& out, char32_t utf16) {
+  char text[8];
+  const int size = std::snprintf(text, sizeof text, "\\u%04x", static_cast<unsigned>(utf16));
+  out.append(text, static_cast<std::size_t>(size));
+}
+
+// The code point as JSON escapes it: beyond the first plane as its two units of UTF-16.
+void appendCodePoint(std::string& out, char32_t codePoint) {
+  constexpr char32_t kFirstPlane = 0x10000;
+  if (codePoint < kFirstPlane) return appendUnit(out, codePoint);
+  appendUnit(out, 0xD800 + ((codePoint - kFirstPlane) >> 10));
+  appendUnit(out, 0xDC00 + ((codePoint - kFirstPlane) & 0x3FF));
+}
+
 }  // namespace
 
 void appendJsonFrench(std::string& out, std::string_view french) {
@@ -86,11 +105,17 @@ void appendJsonFrench(std::string& out, std::string_view french) {
 
 void appendJsonUtf8(std::string& out, std::string_view utf8) {
   out.push_back('"');
-  for (const char byte : utf8) {
-    const auto code = static_cast<unsigned char>(byte);
-    // Bytes behind ASCII belong to letters of several bytes and pass as they are.
-    const Image image = code < 0x80 ? imageOf(code) : Image{{byte}, 1};
-    out.append(image.bytes, image.length);
+  while (!utf8.empty()) {
+    const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
+    const std::string_view bytes =
+        utf8.substr(0, static_cast<std::size_t>(std::max(letter.length, 1)));
+    if (letter.value < 0xA0)
+      appendImage(out, imageOf(letter.value));
+    else if (dictionary::actsOnTerminal(letter.value))
+      appendCodePoint(out, letter.value);
+    else
+      out.append(bytes);
+    utf8.remove_prefix(bytes.size());
   }
   out.push_back('"');
 }

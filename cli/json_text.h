@@ -6,6 +6,9 @@
 
 namespace odmiennik::cli {
 
+// What would act on a terminal is escaped, controls of both sets and marks of direction alike: JSON
+// reads it as the same text.
+
 // Appends `french` (Windows-1252) as a JSON string, quotes included: été"s -> "été\"s".
 void appendJsonFrench(std::string& out, std::string_view french);
 

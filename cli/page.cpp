@@ -40,9 +40,10 @@ void Page::addFrench(std::string_view french, Style style) {
   if (french.empty()) return;
   fillUp();
   beginStyle(style);
+  const std::size_t start = out_.size();
   appendPrintable(out_, french);
+  column_ += letterCount(std::string_view(out_).substr(start));
   endStyle(style);
-  column_ += french.size();
 }
 
 void Page::addUtf8(std::string_view utf8, Style style) {

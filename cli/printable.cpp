@@ -1,24 +1,25 @@
-// Text without control characters.
+// French text without control characters.
+#include "dictionary/printable.h"
+
+#include <algorithm>
+
 #include "cli/format.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
 namespace {
 
-constexpr bool isControl(char letter) {
-  const char32_t codePoint = engine::kCodePointOfByte[static_cast<unsigned char>(letter)];
-  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+bool acts(char letter) {
+  return dictionary::actsOnTerminal(engine::kCodePointOfByte[static_cast<unsigned char>(letter)]);
 }
 
 }  // namespace
 
 void appendPrintable(std::string& out, std::string_view french) {
-  for (std::size_t i = 0; i < french.size(); ++i) {
-    if (isControl(french[i]))
-      out.append("\uFFFD");
-    else
-      engine::appendUtf8(out, french.substr(i, 1));
-  }
+  if (std::ranges::none_of(french, acts))
+    engine::appendUtf8(out, french);
+  else
+    dictionary::appendPrintable(out, engine::toUtf8(french));
 }
 
 }  // namespace odmiennik::cli

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "dictionary/printable.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -16,14 +17,16 @@ std::string numbered(const char* format, unsigned number) {
   return {text, static_cast<std::size_t>(size)};
 }
 
+// Accents that would sit on the quotation mark in front of them.
+constexpr bool isCombining(char32_t codePoint) { return codePoint >= 0x300 && codePoint < 0x370; }
+
 std::string faultTextAt(std::string_view bytes, engine::Utf8Fault fault) {
   if (fault == engine::Utf8Fault::notUtf8)
     return numbered("0x%02X", static_cast<unsigned char>(bytes[0]));
   const engine::DecodedCodePoint letter = engine::decodeUtf8(bytes);
   const auto size = static_cast<std::size_t>(letter.length);
   const std::string number = numbered("U+%04X", letter.value);
-  // A control character would act on the terminal that shows the message.
-  if (letter.value < 0xA0) return number;
+  if (dictionary::actsOnTerminal(letter.value) || isCombining(letter.value)) return number;
   return "„" + std::string(bytes.substr(0, size)) + "” (" + number + ")";
 }
 

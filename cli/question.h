@@ -18,7 +18,8 @@ struct Question {
   std::optional<std::string> record;  // replaces the index's answer, Windows-1252
   QuestionFault fault = QuestionFault::none;
   std::size_t faultPosition = 0;  // the first bad byte, counted from 0 in the line
-  std::string faultText;          // the bad byte as "0xFF", the letter as "„ą” (U+0105)"
+  std::string faultText;  // the bad byte as "0xFF", the letter as "„ą” (U+0105)", what cannot be
+                          // shown as "U+202E"
 };
 
 // Reads "INFINITIVE" or "INFINITIVE<TAB>RECORD"; the first TAB counts, and nothing behind it is the

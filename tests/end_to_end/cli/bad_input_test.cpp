@@ -92,6 +92,19 @@ TEST(bad_input, capital_accented_letters_are_read_as_small_ones) {
   EXPECT_TRUE(holds(answered.json, "\"source\":\"builtin\""));
 }
 
+TEST(bad_input, letters_with_combining_accents_are_letters_on_input_and_as_arguments) {
+  const Answered answered = answerOf("e\u0302tre");
+  EXPECT_EQ(answered.exitCode, 0);
+  EXPECT_TRUE(holds(answered.json, "\"slots\":[\"suis\",\"es\",\"est\","));
+  EXPECT_TRUE(run({"--format", "tsv", "e\u0302tre"}).out.find("suis") != std::string::npos);
+  EXPECT_EQ(run({"--complete", "e\u0302tr"}).out, "être\n");
+}
+
+TEST(bad_input, a_byte_order_mark_before_the_first_verb_is_passed_over) {
+  EXPECT_EQ(run({"--format", "json"}, "\uFEFFaller\n").out,
+            run({"--format", "json"}, "aller\n").out);
+}
+
 TEST(bad_input, several_verbs_in_one_line_are_one_unknown_verb) {
   const Answered answered = answerOf("parler manger");
   EXPECT_EQ(answered.exitCode, 0);
@@ -103,6 +116,16 @@ TEST(bad_input, control_characters_are_escaped_in_json_and_hidden_from_terminals
   const Answered answered = answerOf("\x1b[31mparler");
   EXPECT_TRUE(holds(answered.json, "\"slots\":[\"\\u001b[31mparle\","));
   EXPECT_FALSE(holds(answered.err, "\x1b"));
+}
+
+TEST(bad_input, a_refused_option_is_shown_and_not_obeyed) {
+  const std::string attack = "--\x1b[31m\x9B\u009B\u202E\nodmien: OK";
+  for (const Arguments& arguments : {Arguments{attack}, Arguments{"--format", attack},
+                                     Arguments{"--list", attack}, Arguments{"--help", attack}}) {
+    const std::string err = run(arguments).err;
+    EXPECT_TRUE(holds(err, "--\\x1B[31m\\x9B\\u009B\\u202E\\x0Aodmien: OK")) << err;
+    EXPECT_EQ(linesOf(err).size(), 1U) << err;
+  }
 }
 
 TEST(bad_input, as_an_argument_it_is_named_by_its_number) {

@@ -36,11 +36,17 @@ TEST(json_text, control_characters_are_escaped) {
   EXPECT_EQ(utf8(kControls), R"("\u0000\b\t\n\f\r\u001f")");
 }
 
+TEST(json_text, what_would_act_on_a_terminal_is_escaped) {
+  EXPECT_EQ(french("\x7F\x81\x9D"), R"("\u007f\u0081\u009d")");
+  EXPECT_EQ(utf8("\x7F\u009B\u202E\U000E0001"), R"("\u007f\u009b\u202e\udb40\udc01")");
+}
+
 TEST(json_text, utf8_passes_unchanged) { EXPECT_EQ(utf8("„zażółć”"), "\"„zażółć”\""); }
 
 TEST(json_text, every_byte_from_blank_on_has_the_engines_utf8_image) {
   for (int byte = 0x20; byte < 0x100; ++byte) {
-    if (byte == '"' || byte == '\\') continue;
+    const char32_t codePoint = engine::kCodePointOfByte[static_cast<std::size_t>(byte)];
+    if (byte == '"' || byte == '\\' || (codePoint >= 0x7F && codePoint < 0xA0)) continue;
     const std::string text(1, static_cast<char>(byte));
     EXPECT_EQ(french(text), "\"" + engine::toUtf8(text) + "\"") << byte;
   }

@@ -41,6 +41,11 @@ TEST(question, a_control_character_outside_windows_1252_is_not_printed) {
   EXPECT_EQ(faultSentence(ask("\xC2\x85")), "znaku U+0085 nie ma w zestawie Windows-1252.");
 }
 
+TEST(question, what_acts_on_a_terminal_and_a_bare_accent_are_told_by_number) {
+  EXPECT_EQ(faultSentence(ask("a\u202E")), "znaku U+202E nie ma w zestawie Windows-1252.");
+  EXPECT_EQ(faultSentence(ask("s\u0301")), "znaku U+0301 nie ma w zestawie Windows-1252.");
+}
+
 TEST(question, a_byte_that_is_no_utf8_is_named_with_its_place) {
   const Question question = ask("al\xFFler");
   EXPECT_EQ(question.fault, QuestionFault::notUtf8);
