@@ -14,6 +14,22 @@ constexpr int tenseOfSlot(int slot) {
   return slot < engine::slot::kInfinitive ? slot - slot % 3 : slot;
 }
 
+// Boxes whose heading opens nothing, yet which have a page.
+// deliberate: not the box of the infinitive. Verbs are typed there, and whoever asks for help in
+// it, at the start of the program above all, is led to the welcome page.
+struct BoxTopic {
+  int slot;
+  std::string_view page;
+};
+constexpr BoxTopic kBoxTopics[] = {
+    {97, "InfinitifPasse.htm"},
+    {98, "ParticipePresent.htm"},
+    {99, "ParticipePasse.htm"},
+    {100, "ParticipeCompose.htm"},
+};
+
+std::string inFolder(std::string_view page) { return std::string(kPageFolder).append(page); }
+
 constexpr bool onlyTheFirstHaveAPage() {
   for (int heading = 0; heading < kTenseHeadings; ++heading)
     if (kTenseTopics[static_cast<std::size_t>(heading)].page.empty() != (heading >= kTopicHeadings))
@@ -26,14 +42,15 @@ static_assert(onlyTheFirstHaveAPage());
 
 std::optional<std::string> topicOf(int heading) {
   if (heading < 0 || heading >= kTopicHeadings) return std::nullopt;
-  return std::string(kPageFolder) +
-         std::string(kTenseTopics[static_cast<std::size_t>(heading)].page);
+  return inFolder(kTenseTopics[static_cast<std::size_t>(heading)].page);
 }
 
 std::optional<std::string> topicOfSlot(int slot) {
   for (int heading = 0; heading < kTopicHeadings; ++heading)
     if (kTenseTopics[static_cast<std::size_t>(heading)].firstSlot == tenseOfSlot(slot))
       return topicOf(heading);
+  for (const BoxTopic& topic : kBoxTopics)
+    if (topic.slot == slot) return inFolder(topic.page);
   return std::nullopt;
 }
 

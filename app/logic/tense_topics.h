@@ -57,7 +57,8 @@ inline constexpr int kHowToContext = 2;
 // without a page.
 [[nodiscard]] std::optional<std::string> topicOf(int heading);
 
-// The page of the tense that a box belongs to; nothing for infinitives and participles.
+// The page of the tense or form that a box belongs to: topicOfSlot(98) ->
+// "strony\ParticipePresent.htm"; nothing for the box in which the infinitive is typed.
 [[nodiscard]] std::optional<std::string> topicOfSlot(int slot);
 
 // The page of a window that is open beside the main one, by its object name:

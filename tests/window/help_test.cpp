@@ -85,7 +85,10 @@ void HelpSuite::f1InAFormBoxOpensThePageOfItsTense_data() {
   QTest::newRow("conditionnel passé 2") << 89 << "ConditionnelPassé2";
   QTest::newRow("impératif présent") << 91 << "PrésentImpératif";
   QTest::newRow("entry box") << 96 << "default";
-  QTest::newRow("participe") << 98 << "default";
+  QTest::newRow("infinitif passé") << 97 << "InfinitifPasse";
+  QTest::newRow("participe présent") << 98 << "ParticipePresent";
+  QTest::newRow("participe passé") << 99 << "ParticipePasse";
+  QTest::newRow("participe composé") << 100 << "ParticipeCompose";
 }
 
 void HelpSuite::f1InAFormBoxOpensThePageOfItsTense() {
