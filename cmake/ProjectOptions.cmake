@@ -12,6 +12,6 @@ if(ODMIENNIK_STRICT)
 endif()
 if(ODMIENNIK_SANITIZE)
   target_compile_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE}
-                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
   target_link_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE})
 endif()
