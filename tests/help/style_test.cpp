@@ -81,6 +81,17 @@ TEST(help_style, endings_and_single_letters_are_bold_and_not_italic) {
   }
 }
 
+// A form is read with its pronoun; the imperative has none, so its rows name the person.
+TEST(help_style, in_a_table_of_forms_each_cell_has_its_pronoun_and_no_row_a_heading) {
+  for (const std::string& name : tensePageNames()) {
+    if (name.find("Impératif") != std::string::npos) continue;
+    for (const std::string& table : elements(findPage(name)->markup, "table"))
+      for (const std::string& row : elements(table, "tr"))
+        EXPECT_TRUE(elements(row, "th").empty() || elements(row, "td").empty())
+            << name << ": " << row;
+  }
+}
+
 TEST(help_style, apostrophes_are_the_ones_of_the_keyboard) {
   for (const HelpPage& page : allPages())
     EXPECT_EQ(page.markup.find("’"), std::string::npos) << page.name;
