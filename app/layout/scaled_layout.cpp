@@ -88,13 +88,13 @@ Layout designedLayout() {
 }
 
 ScaledLayout::ScaledLayout(const Controls& controls, FormSurface& surface)
-    : controls_(controls), surface_(surface), layout_(designedLayout()) {}
+    : controls_(controls), surface_(surface), dragged_(designedLayout()) {}
 
 void ScaledLayout::apply() {
   surface_.setUpdatesEnabled(false);
-  const QSizeF factors = factorsOf(layout_.design);
-  surface_.setFont(fontOf(kMainWindow[0], layout_.windowFontSize, narrowness(factors)));
-  for (std::size_t i = 0; i < layout_.controls.size(); ++i) apply(layout_.controls[i], i + 1);
+  const QSizeF factors = factorsOf(layout().design);
+  surface_.setFont(fontOf(kMainWindow[0], layout().windowFontSize, narrowness(factors)));
+  for (std::size_t i = 0; i < layout().controls.size(); ++i) apply(layout().controls[i], i + 1);
   surface_.setUpdatesEnabled(true);
 }
 
@@ -102,7 +102,7 @@ void ScaledLayout::apply(const LayoutControl& control, std::size_t position) {
   const ControlRow& row = kMainWindow[position];
   const TwipRect rect = rectOf(control, row.kind);
   if (isPainted(row.kind)) return surface_.setPlace(position, exactPlace(rect));
-  const QSizeF factors = factorsOf(layout_.design);
+  const QSizeF factors = factorsOf(layout().design);
   auto& widget = controls_.get<QWidget>(position);
   setFont(widget, row, fontOf(row, control.fontSize, narrowness(factors)));
   QRect place = app::place(rect);

@@ -18,7 +18,8 @@ class ScaledLayout {
   // Changes nothing yet: the widgets stand as designed.
   ScaledLayout(const Controls& controls, FormSurface& surface);
 
-  [[nodiscard]] Layout& layout() { return layout_; }
+  [[nodiscard]] const Layout& layout() const { return dragged_.layout(); }
+  [[nodiscard]] DraggedLayout& dragged() { return dragged_; }
 
   // Shows the layout as it is now, without painting it.
   void apply();
@@ -28,7 +29,7 @@ class ScaledLayout {
 
   const Controls& controls_;
   FormSurface& surface_;
-  Layout layout_;
+  DraggedLayout dragged_;
 };
 
 }  // namespace odmiennik::app

@@ -4,12 +4,17 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QScopedValueRollback>
+#include <chrono>
+#include <utility>
 
 #include "app/controls/form_surface.h"
 #include "app/layout/screen_fit.h"
 
 namespace odmiennik::app {
 namespace {
+
+// A drag has ended when no size has come for so long.
+constexpr std::chrono::milliseconds kDragPause(300);
 
 // Maximised or as it was; whether the window is active does not matter.
 Qt::WindowStates largeStates(const QWidget& window) {
@@ -23,38 +28,63 @@ WindowScaling::WindowScaling(QMainWindow& window, FormSurface& surface, const Co
   gathered_.setSingleShot(true);
   gathered_.setInterval(0);
   connect(&gathered_, &QTimer::timeout, this, &WindowScaling::rescale);
+  dragEnd_.setObjectName(QStringLiteral("dragEnd"));
+  dragEnd_.setSingleShot(true);
+  dragEnd_.setInterval(kDragPause);
+  connect(&dragEnd_, &QTimer::timeout, this, &WindowScaling::endDrag);
   surface.installEventFilter(this);
   window.installEventFilter(this);
 }
 
 bool WindowScaling::rescale() {
-  if (isRescaling_) {  // the question is on the screen, and the window behind it changes its size
-    gathered_.start();
-    return true;
-  }
+  if (hasEnded_) return false;
+  if (isRescaling_) return isLate_ = true;
   const QScopedValueRollback<bool> rescaling(isRescaling_, true);
   gathered_.stop();
   scaledState_ = largeStates(window_);
-  const Rescaled outcome = resizeLayout(scaled_.layout(), windowSize(), window_.isMinimized(),
-                                        screenWidth(window_), mayContinue_);
+  const Rescaled outcome = scaled_.dragged().resize(windowSize(), window_.isMinimized(),
+                                                    screenWidth(window_), mayContinue_);
   if (outcome == Rescaled::rescaled) scaled_.apply();
-  return outcome != Rescaled::ended;
+  hasEnded_ = outcome == Rescaled::ended;
+  if (std::exchange(isLate_, false)) gathered_.start();
+  return !hasEnded_;
+}
+
+// Inside an event of the window, where nothing may be asked.
+void WindowScaling::rescaleAtOnce() {
+  if (screenWidth(window_).isTooSmall())
+    gathered_.start();
+  else
+    rescale();
 }
 
 void WindowScaling::surfaceResized() {
-  if (largeStates(window_) != scaledState_)
-    rescale();
-  else
-    gathered_.start();
+  if (largeStates(window_) != scaledState_) {
+    endDrag();
+    return rescaleAtOnce();
+  }
+  scaled_.dragged().begin();
+  dragEnd_.start();
+  gathered_.start();
+}
+
+// Some systems tell of the new size before they tell of the state: what was taken for a drag is
+// none.
+void WindowScaling::stateChanged() {
+  if (gathered_.isActive()) rescaleAtOnce();
+  endDrag();
+}
+
+void WindowScaling::endDrag() {
+  dragEnd_.stop();
+  scaled_.dragged().end();
 }
 
 bool WindowScaling::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &surface_ && event->type() == QEvent::Resize) surfaceResized();
   if (watched == &window_ && event->type() == QEvent::Show && !event->spontaneous())
     fitToScreen(window_);
-  // Some systems tell of the new size before they tell of the state.
-  if (watched == &window_ && event->type() == QEvent::WindowStateChange && gathered_.isActive())
-    rescale();
+  if (watched == &window_ && event->type() == QEvent::WindowStateChange) stateChanged();
   return false;
 }
 

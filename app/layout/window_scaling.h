@@ -11,10 +11,11 @@ class QMainWindow;
 
 namespace odmiennik::app {
 
-// Listens to the window's resizes. Those of one drag are gathered and rescaled together once the
-// event queue is empty, so that what rounding takes from the boxes does not add up; maximising and
-// restoring rescale at once. The window's Width and Height are those of its surface: the client
-// area without the menu bar. The first layout is the designed one.
+// Listens to the window's resizes. Those that wait in the event queue are rescaled together; all of
+// one drag start from the layout that stood before it. Maximising and restoring rescale at once,
+// inside the resize itself, unless the question of the resolution has to be put first: nothing
+// modal opens while the window is being resized. The window's Width and Height are those of its
+// surface: the client area without the menu bar. The first layout is the designed one.
 class WindowScaling final : public QObject {
   Q_OBJECT
 
@@ -25,16 +26,20 @@ class WindowScaling final : public QObject {
   // What is asked before a rescale on a screen that is too small; without it nothing is.
   void setQuestion(std::function<bool()> mayContinue) { mayContinue_ = std::move(mayContinue); }
 
-  // Rescales to the window's size now; false when the user does not go on in this resolution.
+  // Rescales to the window's size now; false when the user does not go on in this resolution. May
+  // put the question: called from the event loop, never from an event of the window.
   bool rescale();
 
-  [[nodiscard]] const Layout& layout() { return scaled_.layout(); }
+  [[nodiscard]] const Layout& layout() const { return scaled_.layout(); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void surfaceResized();
+  void stateChanged();
+  void rescaleAtOnce();
+  void endDrag();
   [[nodiscard]] TwipSize windowSize() const;
 
   QMainWindow& window_;
@@ -42,8 +47,11 @@ class WindowScaling final : public QObject {
   ScaledLayout scaled_;
   std::function<bool()> mayContinue_ = [] { return true; };
   QTimer gathered_;
+  QTimer dragEnd_{this};
   Qt::WindowStates scaledState_;
   bool isRescaling_ = false;
+  bool isLate_ = false;    // the window was resized behind the question
+  bool hasEnded_ = false;  // the question was answered with No
 };
 
 }  // namespace odmiennik::app

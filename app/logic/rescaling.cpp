@@ -87,4 +87,19 @@ Rescaled resizeLayout(Layout& layout, TwipSize window, bool isMinimised, ScreenW
   return outcome;
 }
 
+void DraggedLayout::begin() {
+  if (!base_) base_ = layout_;
+}
+
+// Back at the size of the base nothing is rescaled, and the layout is the base itself.
+Rescaled DraggedLayout::resize(TwipSize window, bool isMinimised, ScreenWidth screen,
+                               const std::function<bool()>& mayContinue) {
+  if (isMinimised || window == layout_.design) return Rescaled::unchanged;
+  Layout next = base_.value_or(layout_);
+  if (resizeLayout(next, window, isMinimised, screen, mayContinue) == Rescaled::ended)
+    return Rescaled::ended;
+  layout_ = std::move(next);
+  return Rescaled::rescaled;
+}
+
 }  // namespace odmiennik::app

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace odmiennik::app {
@@ -74,5 +76,28 @@ enum class Rescaled : std::uint8_t {
 // minimised window is left alone.
 [[nodiscard]] Rescaled resizeLayout(Layout& layout, TwipSize window, bool isMinimised,
                                     ScreenWidth screen, const std::function<bool()>& mayContinue);
+
+// A layout whose window is dragged: as long as a drag lasts every resize starts from the layout
+// that stood before it, so that what rounding takes does not add up, and a drag that comes back to
+// where it began leaves the layout exactly as it was.
+class DraggedLayout {
+ public:
+  explicit DraggedLayout(Layout layout) : layout_(std::move(layout)) {}
+
+  [[nodiscard]] const Layout& layout() const { return layout_; }
+
+  // The first resize of a drag is on its way; during the drag this does nothing.
+  void begin();
+  void end() { base_.reset(); }
+
+  // As resizeLayout(). A window that has the size of the layout asks nothing and changes nothing;
+  // neither does one that a question refused.
+  [[nodiscard]] Rescaled resize(TwipSize window, bool isMinimised, ScreenWidth screen,
+                                const std::function<bool()>& mayContinue);
+
+ private:
+  Layout layout_;
+  std::optional<Layout> base_;  // while a drag lasts
+};
 
 }  // namespace odmiennik::app

@@ -53,6 +53,7 @@ MainWindow::MainWindow(engine::Driver& driver)
   setObjectName(fromUtf8(kMainWindow[0].name));
   setWindowTitle(fromUtf8(kMainWindow[0].caption));
   setCentralWidget(&surface_);
+  setAnimated(false);  // the layout stands where the window's size says, at once
   buildMainMenu(*menuBar());
   for (int slot = 0; slot < engine::kPersonalSlotCount; ++slot)
     surface_.pronouns().setBox(slot, boxes_[slot].geometry());

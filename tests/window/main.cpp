@@ -1,5 +1,4 @@
 // window_test SUITE [options of Qt Test]: runs one suite on a program prepared like the real one.
-#include <QApplication>
 #include <QTest>
 #include <cstdio>
 #include <map>
@@ -7,6 +6,7 @@
 
 #include "app/common/look.h"
 #include "tests/window/suites.h"
+#include "tests/window/watched_application.h"
 
 int main(int argumentCount, char** arguments) {
   using namespace odmiennik::window_test;
@@ -54,7 +54,7 @@ int main(int argumentCount, char** arguments) {
   }
   const auto makeSuite = suites.at(arguments[1]);
   arguments[1] = arguments[0];
-  QApplication application(--argumentCount, ++arguments);
+  WatchedApplication application(--argumentCount, ++arguments);
   odmiennik::app::prepare(application);
   const std::unique_ptr<QObject> suite = makeSuite();
   return QTest::qExec(suite.get(), argumentCount, arguments);

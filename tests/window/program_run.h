@@ -65,6 +65,7 @@ class ModalVisitor final : public QObject {
   void look() {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || !dialog->isVisible()) return;
+    WatchedApplication::mayOpenModal();
     ++visits;
     visit_(*dialog);
     dialog->reject();

@@ -14,6 +14,7 @@
 #include "app/controls/main_menu.h"
 #include "app/program.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/window/watched_application.h"
 
 namespace odmiennik::window_test {
 
@@ -22,6 +23,7 @@ namespace odmiennik::window_test {
 class AnsweredMessages final : public dictionary::MessageBoxes {
  public:
   dictionary::Button show(dictionary::MessageId id, std::string_view /*argument*/) override {
+    WatchedApplication::mayOpenModal();
     shown.push_back(id);
     if (whileShown) whileShown();
     const auto found = answers.find(id);

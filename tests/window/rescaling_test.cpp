@@ -1,5 +1,8 @@
 // The layout follows the window's size.
+#include <QApplication>
+#include <QDebug>
 #include <QLabel>
+#include <chrono>
 
 #include "app/common/text.h"
 #include "tests/window/scaled_program.h"
@@ -11,6 +14,21 @@ namespace {
 // The control of the layout that belongs to a row.
 const app::LayoutControl& control(const app::Layout& layout, std::size_t row) {
   return layout.controls.at(row - 1);
+}
+
+// Where every control stands, and in which letters.
+QStringList placesOf(const ScaledProgram& program) {
+  QStringList places;
+  for (const QWidget* widget : program.surface().findChildren<QWidget*>())
+    places += QDebug::toString(widget->objectName()) + QDebug::toString(widget->geometry()) +
+              widget->font().toString();
+  return places;
+}
+
+QTimer& endOfDrag(const ScaledProgram& program) {
+  auto* timer = program.window.scaling().findChild<QTimer*>("dragEnd");
+  if (timer == nullptr) qFatal("no end of a drag");
+  return *timer;
 }
 
 }  // namespace
@@ -30,6 +48,10 @@ class RescalingSuite : public QObject {
   void aMinimisedWindowIsLeftAlone();
   void restoredFromMinimisedToItsSizeItIsNotRescaled();
   void thePronounsStandBeforeTheirBoxes();
+  void aDragOutAndBackLeavesEveryControlWhereItWas_data();
+  void aDragOutAndBackLeavesEveryControlWhereItWas();
+  void aPauseEndsTheDrag();
+  void theLayoutIsNotAnimated();
 };
 
 void RescalingSuite::theWindowStartsAsDesigned() {
@@ -158,6 +180,47 @@ void RescalingSuite::thePronounsStandBeforeTheirBoxes() {
   QVERIFY(inkBefore(0) > 0);
   QVERIFY(inkBefore(89) > 0);
   QCOMPARE(inkBefore(96), 0);
+}
+
+void RescalingSuite::aDragOutAndBackLeavesEveryControlWhereItWas_data() {
+  QTest::addColumn<QSize>("step");
+  QTest::newRow("wider and higher") << QSize(4, 3);
+  QTest::newRow("narrower and higher") << QSize(-1, 3);
+}
+
+// However slow the machine is, the steps are those of one drag.
+void RescalingSuite::aDragOutAndBackLeavesEveryControlWhereItWas() {
+  QFETCH(QSize, step);
+  QApplication::setCursorFlashTime(0);
+  const ScaledProgram program;
+  program.conjugate("s'entr'apprendre");
+  endOfDrag(program).setInterval(std::chrono::hours(1));
+  const QStringList places = placesOf(program);
+  const QImage picture = program.surface().grab().toImage();
+  for (int way = 1; way <= 200; ++way)
+    program.resizeTo(program.designed() + step * (way <= 100 ? way : 200 - way));
+  QCOMPARE(placesOf(program), places);
+  QCOMPARE(program.surface().grab().toImage(), picture);
+}
+
+void RescalingSuite::aPauseEndsTheDrag() {
+  const ScaledProgram program;
+  program.resizeTo({1000, 701});
+  QVERIFY(endOfDrag(program).isActive());
+  QCOMPARE(endOfDrag(program).interval(), 300);
+  QTRY_VERIFY(!endOfDrag(program).isActive());
+  app::Layout expected = program.layout();
+  program.resizeTo({1100, 650});
+  QCOMPARE(app::resizeLayout(expected, {16500, 9750}, false, {}, [] { return true; }),
+           app::Rescaled::rescaled);
+  const std::size_t box = app::positionOf("txtCzasownik", 42);
+  QCOMPARE(control(program.layout(), box).width, control(expected, box).width);
+  QCOMPARE(program.layout().horizontalFactor, 16500 / 15000.0F);
+}
+
+void RescalingSuite::theLayoutIsNotAnimated() {
+  const ScaledProgram program;
+  QVERIFY(!program.window.isAnimated());
 }
 
 std::unique_ptr<QObject> rescalingSuite() { return std::make_unique<RescalingSuite>(); }

@@ -19,8 +19,18 @@ class SmallScreenSuite : public QObject {
   void noEndsTheProgramBeforeSettingsAreReadOrSaved();
   void everyFurtherRescaleAsksAgain();
   void resizesBehindTheQuestionAreRescaledWhenItIsAnswered();
+  void maximisedAndRestoredTwentyTimesItAsksEachTimeAndKeepsAnEditedVerb();
+  void theAnswerNoIsFinal();
 
  private:
+  // Starts the program in a window that is smaller than the screen, and forgets its questions.
+  static void startSmall(ProgramRun& run) {
+    run.program.start();
+    run.program.window().resize(620, 440);
+    QTRY_COMPARE(run.messages.shown.size(), std::size_t{2});
+    run.messages.shown.clear();
+  }
+
   ProgramHome home_;
 };
 
@@ -83,6 +93,42 @@ void SmallScreenSuite::resizesBehindTheQuestionAreRescaledWhenItIsAnswered() {
   QTRY_COMPARE(window.scaling().layout().design,
                (app::TwipSize{surface.width() * 15, surface.height() * 15}));
   QCOMPARE(run.messages.shown.size(), std::size_t{2});
+}
+
+// That nothing is asked inside an event of the window is watched wherever a message is shown.
+void SmallScreenSuite::maximisedAndRestoredTwentyTimesItAsksEachTimeAndKeepsAnEditedVerb() {
+  ProgramRun run(home_);
+  app::MainWindow& window = run.program.window();
+  startSmall(run);
+  run.conjugate("aimer");
+  QVERIFY(run.program.editing().edit());
+  auto& box = run.widget<QLineEdit>("txtCzasownik_0");
+  box.setText("aimechange");
+  for (std::size_t time = 1; time <= 20; ++time) {
+    window.setWindowState(window.windowState() ^ Qt::WindowMaximized);
+    QTRY_COMPARE(run.messages.shown.size(), time);
+    QCOMPARE(run.messages.shown.back(), MessageId::resolutionTooLow);
+    const QSize surface = window.centralWidget()->size();
+    QCOMPARE(window.scaling().layout().design,
+             (app::TwipSize{surface.width() * 15, surface.height() * 15}));
+  }
+  QCOMPARE(box.text(), "aimechange");
+  QVERIFY(run.program.editing().isEditing());
+}
+
+void SmallScreenSuite::theAnswerNoIsFinal() {
+  ProgramRun run(home_);
+  app::MainWindow& window = run.program.window();
+  startSmall(run);
+  run.messages.answer = Button::no;
+  window.setWindowState(Qt::WindowMaximized);
+  QTRY_COMPARE(run.ends, 1);
+  window.setWindowState(Qt::WindowNoState);
+  window.resize(window.size() - QSize(9, 9));
+  QVERIFY(!window.scaling().rescale());
+  QCoreApplication::processEvents();
+  QCOMPARE(run.ends, 1);
+  QCOMPARE(run.messages.shown.size(), std::size_t{1});
 }
 
 std::unique_ptr<QObject> smallScreenSuite() { return std::make_unique<SmallScreenSuite>(); }

@@ -104,6 +104,68 @@ TEST(rescaling_drift, fifty_drags_cost_a_box_less_than_two_twips_each) {
   expectLittleDrift(driftOf(before, layout), 2.0F * kTimes);
 }
 
+// Two hundred steps of a drag out and back, each with sizes of its own.
+void drag(DraggedLayout& layout, int step) {
+  layout.begin();
+  for (int way = -100; way <= 100; ++way) {
+    const int far = step * (100 - std::abs(way));
+    (void)layout.resize({kDesign.width + far, kDesign.height + far / 2}, false, {}, agree);
+  }
+}
+
+void expectSame(const Layout& before, const Layout& after) {
+  const Drift drift = driftOf(before, after);
+  EXPECT_EQ(before.design, after.design);
+  EXPECT_EQ(before.windowFontSize, after.windowFontSize);
+  EXPECT_EQ(drift.place, 0.0F);
+  EXPECT_EQ(drift.boxLoss, 0.0F);
+  EXPECT_EQ(drift.boxGain, 0.0F);
+  EXPECT_EQ(drift.font, 0.0F);
+}
+
+TEST(drag, out_and_back_leaves_everything_where_it_was) {
+  const Layout before = someLayout();
+  for (const int step : {15, 31, 97, -15, -29}) {
+    DraggedLayout layout(before);
+    drag(layout, step);
+    layout.end();
+    expectSame(before, layout.layout());
+  }
+}
+
+TEST(drag, rescales_from_the_layout_before_it) {
+  DraggedLayout layout(someLayout());
+  drag(layout, 15);
+  ASSERT_EQ(layout.resize({15000, 10000}, false, {}, agree), Rescaled::rescaled);
+  Layout expected = someLayout();
+  resize(expected, {15000, 10000});
+  expectSame(expected, layout.layout());
+}
+
+TEST(drag, the_next_one_starts_from_what_the_first_has_left) {
+  DraggedLayout layout(someLayout());
+  Layout expected = someLayout();
+  for (const TwipSize size : {TwipSize{13000, 9000}, {9000, 6000}, {20000, 15000}}) {
+    layout.begin();
+    EXPECT_EQ(layout.resize(size, false, {}, agree), Rescaled::rescaled);
+    layout.end();
+    resize(expected, size);
+  }
+  expectSame(expected, layout.layout());
+}
+
+TEST(drag, a_size_that_is_refused_or_there_already_changes_nothing) {
+  const ScreenWidth small{.twips = 9600};
+  DraggedLayout layout(someLayout());
+  const auto refuses = [] { return false; };
+  layout.begin();
+  EXPECT_EQ(layout.resize({9000, 6000}, false, small, refuses), Rescaled::ended);
+  EXPECT_EQ(layout.resize({2400, 0}, true, small, refuses), Rescaled::unchanged);
+  expectSame(someLayout(), layout.layout());
+  EXPECT_EQ(layout.resize({9000, 6000}, false, small, agree), Rescaled::rescaled);
+  EXPECT_EQ(layout.resize({9000, 6000}, false, small, refuses), Rescaled::unchanged);
+}
+
 TEST(rescaling_drift, neighbouring_boxes_never_come_to_overlap) {
   std::mt19937 random(7);
   std::uniform_int_distribution<int> size(6000, 30000);
