@@ -3,10 +3,10 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QPushButton>
 
 #include "app/common/text.h"
+#include "app/controls/caption_label.h"
 #include "app/controls/form_box.h"
 #include "app/controls/placement.h"
 
@@ -19,9 +19,9 @@ QString objectName(const ControlRow& row) {
 }
 
 QWidget* createLabel(const ControlRow& row, QWidget& surface) {
-  auto* label = new QLabel(&surface);
-  label->setTextFormat(Qt::PlainText);
-  label->setText(fromUtf8(row.caption));
+  auto* label = new CaptionLabel(&surface);
+  label->stand(place(row), fontOf(row));
+  label->showText(fromUtf8(row.caption));
   return label;
 }
 
@@ -64,7 +64,7 @@ void furnish(QWidget& widget, const ControlRow& row) {
   widget.setGeometry(place(row));
   if (row.kind == ControlKind::textBox)
     static_cast<FormBox&>(widget).setFormFont(fontOf(row));
-  else if (!hasFontOfTheWindow(row))
+  else if (row.kind != ControlKind::label && !hasFontOfTheWindow(row))
     widget.setFont(fontOf(row));
   if (!row.accessibleName.empty()) widget.setAccessibleName(fromUtf8(row.accessibleName));
   if (row.state == ControlState::disabled) widget.setEnabled(false);

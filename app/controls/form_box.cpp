@@ -14,15 +14,28 @@ namespace odmiennik::app {
 
 namespace {
 
+constexpr int kNatural = 100;
+
+// QLineEdit keeps two pixels at each end of its text; in larger letters that is too little.
+constexpr int kMarginOfQLineEdit = 2;
+constexpr double kMarginOfLetters = 2.0 / 11;
+
 int stretchOf(const QFont& font) {
-  constexpr int kNatural = 100;
   return font.stretch() == QFont::AnyStretch ? kNatural : font.stretch();
 }
 
-// Letters stay readable down to the width that those of eight pixels have, and never become thinner
-// than 0.6 of their own.
-int leastStretch(const QFont& font) {
-  return std::min(stretchOf(font), std::max(60, 100 * 8 / std::max(1, font.pixelSize())));
+QFont condensed(QFont font, int percent) {
+  font.setStretch(stretchOf(font) * percent / kNatural);
+  return font;
+}
+
+// Letters stay readable down to the width that those of eight pixels of the screen have, and never
+// become thinner than 0.6 of their own.
+int leastWidth(const QFont& font, double pixelRatio) {
+  constexpr double kReadablePixels = 8;
+  const double readable = kNatural * kReadablePixels / (font.pixelSize() * pixelRatio);
+  const int leastStretch = std::max(60, static_cast<int>(readable));
+  return std::min(kNatural, (kNatural * leastStretch + stretchOf(font) - 1) / stretchOf(font));
 }
 
 }  // namespace
@@ -39,12 +52,15 @@ QValidator::State FrenchLetters::validate(QString& input, int& caret) const {
 
 FormBox::FormBox(QWidget* parent) : QLineEdit(parent), formFont_(font()) {
   connect(this, &QLineEdit::textChanged, this, &FormBox::keepText);
-  connect(this, &QLineEdit::textChanged, this, &FormBox::fitLetters);
+  connect(this, &QLineEdit::textChanged, this, &FormBox::fitChanged);
 }
 
 void FormBox::setFormFont(const QFont& font) {
   formFont_ = font;
-  fitLetters();
+  const int margin = std::max(0, qRound(font.pixelSize() * kMarginOfLetters) - kMarginOfQLineEdit);
+  setTextMargins(margin, 0, margin, 0);
+  setLetterWidth(kNatural);
+  emit fitChanged();
 }
 
 void FormBox::showForm(const QString& form) {
@@ -62,27 +78,43 @@ void FormBox::keepText(const QString& text) {
 }
 
 int FormBox::room() const {
-  constexpr int kMarginsOfQLineEdit = 2 * 2;
   QStyleOptionFrame option;
   initStyleOption(&option);
+  const QMargins margins = textMargins();
   return style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width() -
-         kMarginsOfQLineEdit;
+         margins.left() - margins.right() - 2 * kMarginOfQLineEdit;
 }
 
 bool FormBox::isClipped() const { return fontMetrics().horizontalAdvance(text()) > room(); }
 
-void FormBox::fitLetters() {
-  const int needed = QFontMetrics(formFont_).horizontalAdvance(text());
-  QFont fitted = formFont_;
-  if (isReadOnly() && needed > room())
-    fitted.setStretch(std::max(leastStretch(formFont_), stretchOf(formFont_) * room() / needed));
+// Letters of whole pixels can be wider together than their width in percent says.
+int FormBox::neededWidth() const {
+  const int natural = QFontMetrics(formFont_).horizontalAdvance(text());
+  const int available = room();
+  if (!isReadOnly() || natural <= available) return kNatural;
+  const int least = leastWidth(formFont_, devicePixelRatioF());
+  int percent = std::max(least, kNatural * available / natural);
+  const auto isTooWide = [&] {
+    return QFontMetrics(condensed(formFont_, percent)).horizontalAdvance(text()) > available;
+  };
+  while (percent > least && isTooWide()) --percent;
+  return percent;
+}
+
+void FormBox::setLetterWidth(int percent) {
+  const QFont fitted = percent < kNatural ? condensed(formFont_, percent) : formFont_;
   if (fitted != font()) setFont(fitted);
+}
+
+void FormBox::resizeEvent(QResizeEvent* event) {
+  QLineEdit::resizeEvent(event);
+  emit fitChanged();
 }
 
 void FormBox::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
   if (event->type() != QEvent::ReadOnlyChange) return;
-  fitLetters();
+  emit fitChanged();
   emit lockChanged();
 }
 

@@ -27,9 +27,15 @@ class FormBox final : public QLineEdit {
   // Sets the text from its first letter on; a text that is there already costs nothing.
   void showForm(const QString& form);
 
-  // The font of the box. A form that is too long for it is shown in narrower letters as long as
-  // these are readable; a text that is being typed never is.
+  // The font of the box's letters at their natural width. The text margins follow its size.
   void setFormFont(const QFont& font);
+
+  // How wide the letters may be, in percent, for the whole form to be seen: 100 where it fits, and
+  // never less than can be read. A text that is being typed is not condensed.
+  [[nodiscard]] int neededWidth() const;
+
+  // Shows the form in letters of that width; 100 is that of the form's font.
+  void setLetterWidth(int percent);
 
   // Whether some of the text lies outside the box.
   [[nodiscard]] bool isClipped() const;
@@ -39,16 +45,18 @@ class FormBox final : public QLineEdit {
   void committed(const QString& text);
   // The box has been made read-only, or can be typed into again.
   void lockChanged();
+  // The form may need letters of another width.
+  void fitChanged();
 
  protected:
   bool event(QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   [[nodiscard]] int room() const;
-  void fitLetters();
   void keepText(const QString& text);
 
   QString kept_;  // the text, for as long as the box is read-only

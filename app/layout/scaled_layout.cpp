@@ -2,10 +2,11 @@
 #include "app/layout/scaled_layout.h"
 
 #include <QFontMetrics>
-#include <QLabel>
 #include <algorithm>
 
+#include "app/controls/caption_label.h"
 #include "app/controls/form_box.h"
+#include "app/controls/form_columns.h"
 #include "app/controls/form_surface.h"
 #include "app/controls/placement.h"
 
@@ -55,25 +56,16 @@ QSizeF factorsOf(const TwipSize& window) {
           static_cast<double>(window.height) / kMainWindow[0].height};
 }
 
-// A heading that is underlined, as the link under the pointer, stays so.
-void setFont(QWidget& widget, const ControlRow& row, QFont font) {
-  if (widget.font().underline()) font.setUnderline(true);
-  if (row.kind == ControlKind::textBox)
-    static_cast<FormBox&>(widget).setFormFont(font);
-  else if (widget.font() != font)
-    widget.setFont(font);
+void stand(QWidget& widget, const ControlRow& row, const QRect& place, const QFont& font) {
+  if (row.kind == ControlKind::label) return static_cast<CaptionLabel&>(widget).stand(place, font);
+  widget.setGeometry(place);
 }
 
-// Small letters keep whole pixels between them and can need more room than in proportion; a label
-// that is too short for its text then narrows it step by step.
-void narrowToFit(QLabel& label) {
-  constexpr int kStep = 3, kLeast = 50;
-  QFont font = label.font();
-  int stretch = font.stretch() == QFont::AnyStretch ? 100 : font.stretch();
-  while (stretch > kLeast && label.sizeHint().width() > label.width()) {
-    font.setStretch(stretch -= kStep);
-    label.setFont(font);
-  }
+void setFont(QWidget& widget, const ControlRow& row, const QFont& font) {
+  if (row.kind == ControlKind::textBox)
+    static_cast<FormBox&>(widget).setFormFont(font);
+  else if (row.kind != ControlKind::label && widget.font() != font)
+    widget.setFont(font);
 }
 
 }  // namespace
@@ -87,10 +79,11 @@ Layout designedLayout() {
   return layout;
 }
 
-ScaledLayout::ScaledLayout(const Controls& controls, FormSurface& surface)
-    : controls_(controls), surface_(surface), dragged_(designedLayout()) {}
+ScaledLayout::ScaledLayout(const Controls& controls, FormSurface& surface, FormColumns& columns)
+    : controls_(controls), surface_(surface), columns_(columns), dragged_(designedLayout()) {}
 
 void ScaledLayout::apply() {
+  const FormColumns::Pause pause(columns_);
   surface_.setUpdatesEnabled(false);
   const QSizeF factors = factorsOf(layout().design);
   surface_.setFont(fontOf(kMainWindow[0], layout().windowFontSize, narrowness(factors)));
@@ -104,11 +97,11 @@ void ScaledLayout::apply(const LayoutControl& control, std::size_t position) {
   if (isPainted(row.kind)) return surface_.setPlace(position, exactPlace(rect));
   const QSizeF factors = factorsOf(layout().design);
   auto& widget = controls_.get<QWidget>(position);
-  setFont(widget, row, fontOf(row, control.fontSize, narrowness(factors)));
+  const QFont font = fontOf(row, control.fontSize, narrowness(factors));
+  setFont(widget, row, font);
   QRect place = app::place(rect);
   place.setSize(place.size().expandedTo(leastSize(widget, row, factors)));
-  widget.setGeometry(place);
-  if (row.kind == ControlKind::label) narrowToFit(static_cast<QLabel&>(widget));
+  stand(widget, row, place, font);
   if (row.kind == ControlKind::textBox && row.index < engine::kPersonalSlotCount)
     surface_.pronouns().setBox(row.index, place);
 }

@@ -6,6 +6,7 @@
 
 namespace odmiennik::app {
 
+class FormColumns;
 class FormSurface;
 
 // The table's rows as the arithmetic of rescaling takes them, fitting the window's designed size:
@@ -16,7 +17,7 @@ class FormSurface;
 class ScaledLayout {
  public:
   // Changes nothing yet: the widgets stand as designed.
-  ScaledLayout(const Controls& controls, FormSurface& surface);
+  ScaledLayout(const Controls& controls, FormSurface& surface, FormColumns& columns);
 
   [[nodiscard]] const Layout& layout() const { return dragged_.layout(); }
   [[nodiscard]] DraggedLayout& dragged() { return dragged_; }
@@ -29,6 +30,7 @@ class ScaledLayout {
 
   const Controls& controls_;
   FormSurface& surface_;
+  FormColumns& columns_;
   DraggedLayout dragged_;
 };
 

@@ -23,8 +23,9 @@ Qt::WindowStates largeStates(const QWidget& window) {
 
 }  // namespace
 
-WindowScaling::WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls)
-    : window_(window), surface_(surface), scaled_(controls, surface) {
+WindowScaling::WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls,
+                             FormColumns& columns)
+    : window_(window), surface_(surface), scaled_(controls, surface, columns) {
   gathered_.setSingleShot(true);
   gathered_.setInterval(0);
   connect(&gathered_, &QTimer::timeout, this, &WindowScaling::rescale);

@@ -21,7 +21,8 @@ class WindowScaling final : public QObject {
 
  public:
   // `mayContinue` puts the question of the resolution, and ends the program when it is refused.
-  WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls);
+  WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls,
+                FormColumns& columns);
 
   // What is asked before a rescale on a screen that is too small; without it nothing is.
   void setQuestion(std::function<bool()> mayContinue) { mayContinue_ = std::move(mayContinue); }

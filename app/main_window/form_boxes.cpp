@@ -13,7 +13,7 @@ FormBoxes::FormBoxes(const Controls& controls) {
     boxes_[static_cast<std::size_t>(row.index)] = static_cast<FormBox*>(&widget);
   });
   controls.forEach("lblSubjoncif", [this](const ControlRow& row, QWidget& widget) {
-    captions_[static_cast<std::size_t>(row.index)] = static_cast<QLabel*>(&widget);
+    captions_[static_cast<std::size_t>(row.index)] = static_cast<CaptionLabel*>(&widget);
   });
   labelTenses(controls);
 }
@@ -51,7 +51,8 @@ void FormBoxes::show(const engine::Display& shown) const {
 }
 
 void FormBoxes::showCaptions(const engine::SubjunctiveCaptions& captions) const {
-  for (std::size_t i = 0; i < captions_.size(); ++i) captions_[i]->setText(fromFrench(captions[i]));
+  for (std::size_t i = 0; i < captions_.size(); ++i)
+    captions_[i]->showText(fromFrench(captions[i]));
 }
 
 }  // namespace odmiennik::app

@@ -1,9 +1,9 @@
 // The 101 boxes of the conjugation and the captions that stand above them.
 #pragma once
 
-#include <QLabel>
 #include <array>
 
+#include "app/controls/caption_label.h"
 #include "app/controls/controls.h"
 #include "app/controls/form_box.h"
 #include "engine/display.h"
@@ -39,7 +39,7 @@ class FormBoxes {
   void labelTenses(const Controls& controls) const;
 
   std::array<FormBox*, engine::kSlotCount> boxes_{};
-  std::array<QLabel*, 4> captions_{};
+  std::array<CaptionLabel*, 4> captions_{};
 };
 
 }  // namespace odmiennik::app

@@ -45,8 +45,9 @@ MainWindow::MainWindow(engine::Driver& driver)
     : driver_(driver),
       surface_(*new FormSurface(this)),
       controls_(surface_),
+      columns_(controls_),
       colours_(controls_, surface_),
-      scaling_(*this, surface_, controls_),
+      scaling_(*this, surface_, controls_, columns_),
       boxes_(controls_),
       information_(controls_),
       auxiliary_(controls_.get<QCheckBox>(positionOf("chkZAvoir"))) {
@@ -108,6 +109,7 @@ void MainWindow::conjugateForEditing() {
 }
 
 void MainWindow::setEditing(bool isEditing) {
+  const FormColumns::Pause pause(columns_);
   isEditing_ = isEditing;
   boxes_.setEditable(isEditing);
 }
@@ -123,6 +125,7 @@ void MainWindow::toggleAuxiliary(bool isAvoir) {
 
 // All texts change before anything is painted: one repaint a conjugation.
 void MainWindow::showConjugation() {
+  const FormColumns::Pause pause(columns_);
   surface_.setUpdatesEnabled(false);
   surface_.pronouns().show(conjugation_.shown.pronouns);
   boxes_.show(conjugation_.shown);

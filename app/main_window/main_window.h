@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 #include "app/controls/controls.h"
+#include "app/controls/form_columns.h"
 #include "app/layout/window_scaling.h"
 #include "app/main_window/auxiliary_box.h"
 #include "app/main_window/form_boxes.h"
@@ -69,6 +70,7 @@ class MainWindow final : public QMainWindow {
   bool isEditing_ = false;
   FormSurface& surface_;
   Controls controls_;
+  FormColumns columns_;
   LiveColours colours_;
   WindowScaling scaling_;
   FormBoxes boxes_;

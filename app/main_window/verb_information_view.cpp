@@ -2,6 +2,7 @@
 #include "app/main_window/verb_information_view.h"
 
 #include "app/common/text.h"
+#include "app/controls/caption_label.h"
 
 namespace odmiennik::app {
 namespace {
@@ -31,7 +32,7 @@ VerbInformationView::VerbInformationView(const Controls& controls) : controls_(c
 
 void VerbInformationView::show(const engine::VerbLabels& labels) const {
   for (const ValueLabel& label : kValueLabels)
-    controls_.get<QLabel>(label.position).setText(fromUtf8(labels.*label.value));
+    controls_.get<CaptionLabel>(label.position).showText(fromUtf8(labels.*label.value));
 }
 
 }  // namespace odmiennik::app

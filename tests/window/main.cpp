@@ -26,6 +26,7 @@ int main(int argumentCount, char** arguments) {
       {"elision", elisionSuite},
       {"entry_box", entryBoxSuite},
       {"entry_keys", entryKeysSuite},
+      {"form_letters", formLettersSuite},
       {"help", helpSuite},
       {"help_faults", helpFaultsSuite},
       {"hostile_help", hostileHelpSuite},

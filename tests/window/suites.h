@@ -21,6 +21,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
+[[nodiscard]] std::unique_ptr<QObject> formLettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpFaultsSuite();
 [[nodiscard]] std::unique_ptr<QObject> hostileHelpSuite();

@@ -1,0 +1,29 @@
+// A label of the main window.
+#pragma once
+
+#include <QLabel>
+
+namespace odmiennik::app {
+
+// A label that is too short for its text shows it in narrower letters: small ones keep whole pixels
+// between them, and can need more room than in proportion.
+class CaptionLabel final : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit CaptionLabel(QWidget* parent);
+
+  // Plain text, not mark-up.
+  void showText(const QString& text);
+
+  // Where it stands, and the font of its letters at their natural width. A heading that is
+  // underlined, as the link under the pointer, stays so.
+  void stand(const QRect& place, const QFont& font);
+
+ private:
+  void fit();
+
+  QFont natural_;
+};
+
+}  // namespace odmiennik::app
