@@ -44,7 +44,7 @@ void onBand(QLabel& label, int pixels, bool isBold) {
 }  // namespace
 
 AboutWindow::AboutWindow(QWidget* parent, const Usage& usage, dictionary::MessageBoxes& messages)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), messages_(messages) {
+    : SteadyWindow(parent, Qt::Dialog | Qt::FramelessWindowHint), messages_(messages) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(QStringLiteral("O programie Odmiennik"));
   setFixedSize(kAboutSize);

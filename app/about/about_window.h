@@ -1,12 +1,12 @@
 // The about window: version, statistics of use, and the way to the system's information.
 #pragma once
 
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <cstdint>
 #include <optional>
 
+#include "app/common/steady_window.h"
 #include "dictionary/messages.h"
 
 namespace odmiennik::app {
@@ -18,7 +18,7 @@ struct Usage {
 };
 
 // Has the outline of a speech bubble and no frame; it is moved by dragging it anywhere.
-class AboutWindow final : public QDialog {
+class AboutWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "app/common/text.h"
@@ -87,13 +88,16 @@ Button answerOf(int standard) {
 Button QtMessageBoxes::show(dictionary::MessageId id, std::string_view argument) {
   const dictionary::MessageRow& row = dictionary::row(id);
   const std::string_view title = row.title.empty() ? dictionary::kApplicationTitle : row.title;
-  AnsweredBox box(row);
-  box.setIcon(iconOf(row.icon));
-  box.setWindowTitle(fromUtf8(title));
-  box.setText(fromUtf8(dictionary::messageText(id, argument)));
-  box.setTextFormat(Qt::PlainText);  // a verb typed by the user is no mark-up
-  addButtons(box, row);
-  return answerOf(box.exec());
+  // Not on the stack: the window that it stands over would delete it if it went.
+  const QPointer<AnsweredBox> box = new AnsweredBox(row);
+  box->setIcon(iconOf(row.icon));
+  box->setWindowTitle(fromUtf8(title));
+  box->setText(fromUtf8(dictionary::messageText(id, argument)));
+  box->setTextFormat(Qt::PlainText);  // a verb typed by the user is no mark-up
+  addButtons(*box, row);
+  const Button answer = answerOf(box->exec());
+  delete box;
+  return answer;
 }
 
 }  // namespace odmiennik::app

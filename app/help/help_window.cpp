@@ -33,7 +33,7 @@ QPushButton* button(const char* name, const char* caption) {
 }  // namespace
 
 HelpWindow::HelpWindow(HelpBook& book, QWidget* parent)
-    : QDialog(parent, Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint),
+    : SteadyWindow(parent, Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint),
       book_(book) {
   setObjectName(QStringLiteral("frmPomoc"));
   setWindowTitle(QStringLiteral("Odmiennik – pomoc"));
@@ -147,7 +147,7 @@ void HelpWindow::followPage(const QUrl& address) {
 
 void HelpWindow::choosePrinter() {
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  auto* dialog = new QPrintDialog(printer.get(), this);
+  auto* dialog = new SteadyWindow<QPrintDialog>(printer.get(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this, [this, printer] { printTo(*printer); });
   dialog->open();

@@ -1,11 +1,11 @@
 // The help viewer: contents, pages, the way back, search and print.
 #pragma once
 
-#include <QDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "app/common/steady_window.h"
 #include "app/help/help_book.h"
 #include "app/help/help_browser.h"
 #include "app/help/help_search.h"
@@ -13,7 +13,7 @@
 namespace odmiennik::app {
 
 // Stands beside the program's other windows; closing it hides it, its page and its way back stay.
-class HelpWindow final : public QDialog {
+class HelpWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:

@@ -13,7 +13,11 @@ using dictionary::ListButton;
 
 ListWindow::ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
                        dictionary::MainCommands& main, QWidget* mainWindow)
-    : QDialog(mainWindow), prefix_(prefix), userVerbs_(userVerbs), main_(main), controls_(*this) {
+    : SteadyWindow(mainWindow),
+      prefix_(prefix),
+      userVerbs_(userVerbs),
+      main_(main),
+      controls_(*this) {
   setObjectName(QStringLiteral("frmLista"));
   connectControls();
 }

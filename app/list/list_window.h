@@ -1,9 +1,9 @@
 // The window frmLista: verbs to pick one from, the user's own or those of a letter.
 #pragma once
 
-#include <QDialog>
 #include <string>
 
+#include "app/common/steady_window.h"
 #include "app/list/list_controls.h"
 #include "dictionary/user_verbs.h"
 #include "dictionary/verb_list.h"
@@ -13,7 +13,7 @@ namespace odmiennik::app {
 
 // Hands everything that is done with a verb to the main window's commands, but for deleting the
 // user's own. `userVerbs` and `main` outlive it.
-class ListWindow final : public QDialog {
+class ListWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:

@@ -40,7 +40,7 @@ Widget* named(const char* name, const char* caption = "") {
 
 TipWindow::TipWindow(QWidget* parent, UserStore& store, bool& isForced,
                      std::function<double()> random)
-    : QDialog(parent), isForced_(isForced), random_(std::move(random)) {
+    : SteadyWindow(parent), isForced_(isForced), random_(std::move(random)) {
   setObjectName(QStringLiteral("frmTip"));
   setWindowTitle(QStringLiteral("Porada dnia"));
   setModal(true);

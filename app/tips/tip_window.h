@@ -1,10 +1,11 @@
 // The window of the tip of the day.
 #pragma once
 
-#include <QDialog>
 #include <array>
 #include <functional>
 #include <optional>
+
+#include "app/common/steady_window.h"
 
 class QCheckBox;
 class QLabel;
@@ -15,7 +16,7 @@ namespace odmiennik::app {
 class UserStore;
 
 // Shows one tip at a time; always modal.
-class TipWindow final : public QDialog {
+class TipWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:

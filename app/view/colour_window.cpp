@@ -43,7 +43,7 @@ void ColourSample::paintEvent(QPaintEvent* /*event*/) {
 }
 
 ColourWindow::ColourWindow(LiveColours& live, ColourChooser& chooser, QWidget* parent)
-    : QDialog(parent), live_(live), chooser_(chooser), dialog_(live.live()) {
+    : SteadyWindow(parent), live_(live), chooser_(chooser), dialog_(live.live()) {
   setObjectName(QStringLiteral("frmKolory"));
   setWindowTitle(QStringLiteral("Kolory"));
   auto* grid = new QGridLayout(this);

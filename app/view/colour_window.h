@@ -1,9 +1,9 @@
 // The window frmKolory: the user's two colours.
 #pragma once
 
-#include <QDialog>
 #include <array>
 
+#include "app/common/steady_window.h"
 #include "app/main_window/live_colours.h"
 #include "app/view/colour_chooser.h"
 
@@ -28,7 +28,7 @@ class ColourSample final : public QWidget {
 };
 
 // Starts with the live colours of the main window; modal.
-class ColourWindow final : public QDialog {
+class ColourWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:

@@ -46,6 +46,7 @@ int main(int argumentCount, char** arguments) {
       {"settings", settingsSuite},
       {"small_screen", smallScreenSuite},
       {"start_up", startUpSuite},
+      {"steady_windows", steadyWindowsSuite},
       {"stopped_demonstration", stoppedDemonstrationSuite},
       {"tense_headings", tenseHeadingsSuite},
       {"tip", tipSuite}};

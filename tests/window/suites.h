@@ -41,6 +41,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> settingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> smallScreenSuite();
 [[nodiscard]] std::unique_ptr<QObject> startUpSuite();
+[[nodiscard]] std::unique_ptr<QObject> steadyWindowsSuite();
 [[nodiscard]] std::unique_ptr<QObject> stoppedDemonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> tenseHeadingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> tipSuite();

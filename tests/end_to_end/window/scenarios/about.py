@@ -55,6 +55,19 @@ def without_a_tool_the_system_tells_nothing(program):
     about.answer("OK")
 
 
+def behind_the_message_it_stays_open(program):
+    program.environment["PATH"] = str(program.folder)
+    program.start()
+    about = _open(program)
+    about.button(SYSTEM_INFORMATION).press()
+    message = program.message(MISSING)
+    about.button("OK").press()
+    message.answer("OK")
+    about.answer("OK")
+    assert program.is_running()
+    program.quit()
+
+
 def the_systems_tool_is_started(program):
     started = pathlib.Path(program.folder, "started")
     tool = pathlib.Path(program.folder, "hardinfo")

@@ -162,6 +162,21 @@ def another_verb_asks_for_the_edited_one_and_yes_saves_it(program):
     assert records[0].startswith(b"aimechange,")
 
 
+def closed_behind_the_question_it_stays_and_the_edited_verb_is_saved(program):
+    program.start()
+    _begin_change(program)
+    listed = _open(program)
+    _choose_letter(listed, "z", 21)
+    listed.button("Odmień").press()
+    question = program.message(SAVE_QUESTION)
+    listed.button("Zamknij").press()
+    question.answer("Tak")
+    program.box(FORM).await_text("zappe")
+    assert _records(program)[0].startswith(b"aimechange,")
+    listed.answer("Zamknij")
+    program.quit()
+
+
 def the_own_verbs_are_listed_and_one_is_deleted(program):
     program.start()
     for verb, form in (("aimer", "aime"), ("finir", "finis"), ("boire", "bois")):
