@@ -9,7 +9,9 @@
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QString>
+#include <QTimer>
 #include <QWindow>
+#include <chrono>
 #include <csignal>
 #include <initializer_list>
 #include <utility>
@@ -55,6 +57,39 @@ QPoint scaledPlace(QPoint place) {
   return place;
 }
 
+// Lays a window over a place with the frame that it has.
+void layOver(QWindow& window, const WindowPlace& place) {
+  const double ratio = window.devicePixelRatio();
+  const auto scaled = [ratio](int pixels) { return qRound(pixels / ratio); };
+  const QSize framed(scaled(place.width), scaled(place.height));
+  window.resize(framed.shrunkBy(window.frameMargins()));
+  window.setFramePosition(QPoint(scaled(place.x), scaled(place.y)));
+}
+
+// A maximised window has a thinner frame, and which one it gets when it no longer is, the system
+// tells only with the new size: then the window is laid over its place once more.
+class AwaitedFrame final : public QObject {
+ public:
+  AwaitedFrame(QWindow& window, const WindowPlace& place)
+      : QObject(&window), window_(window), place_(place), margins_(window.frameMargins()) {
+    constexpr std::chrono::seconds kLongEnough(2);
+    window.installEventFilter(this);
+    QTimer::singleShot(kLongEnough, this, &QObject::deleteLater);
+  }
+
+  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+    if (event->type() != QEvent::Resize || window_.frameMargins() == margins_) return false;
+    margins_ = window_.frameMargins();
+    layOver(window_, place_);
+    return false;
+  }
+
+ private:
+  QWindow& window_;
+  WindowPlace place_;
+  QMargins margins_;
+};
+
 }  // namespace
 
 std::string characterMap() { return firstFound({"gucharmap", "gnome-characters", "kcharselect"}); }
@@ -65,14 +100,11 @@ std::string systemInformation() { return firstFound({"hardinfo2", "hardinfo", "k
 void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen) {
   QWindow* window = windowOf(handle);
   if (window == nullptr) return;
+  const WindowPlace place = limitedPlaceOnTop(isOnTop, screen);
+  if (window->windowStates() != Qt::WindowNoState) new AwaitedFrame(*window, place);
   window->setFlag(Qt::WindowStaysOnTopHint, isOnTop);
   window->setWindowStates(Qt::WindowNoState);
-  const WindowPlace place = limitedPlaceOnTop(isOnTop, screen);
-  const double ratio = window->devicePixelRatio();
-  const auto scaled = [ratio](int pixels) { return qRound(pixels / ratio); };
-  const QMargins frame = window->frameMargins();
-  window->resize(QSize(scaled(place.width), scaled(place.height)).shrunkBy(frame));
-  window->setFramePosition(QPoint(scaled(place.x), scaled(place.y)));
+  layOver(*window, place);
 }
 
 bool start(const std::string& program) {

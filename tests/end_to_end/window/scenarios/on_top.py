@@ -55,6 +55,19 @@ def the_window_stays_above_and_covers_the_screen(program):
     program.box("Indicatif présent, je").await_text("finis")
 
 
+def from_maximised_it_is_as_large_as_from_any_other_size(program):
+    program.start()
+    window = _window_id(program)
+    subprocess.run(["wmctrl", "-i", "-r", window, "-b", "add,maximized_vert,maximized_horz"],
+                   check=True)
+    wait_for(lambda: "MAXIMIZED_VERT" in _property(window, "_NET_WM_STATE"), "the full size")
+    _switch(program, True)
+    wait_for(lambda: _is_above(window), "the window to be above")
+    wait_equal(lambda: _framed_place(program, window), (-4, -4, 1024, 768), "place of the window")
+    _switch(program, False)
+    wait_equal(lambda: _framed_place(program, window), (0, 0, 1024, 768), "place of the window")
+
+
 def switched_off_it_moves_into_the_corner(program):
     program.start()
     window = _window_id(program)
