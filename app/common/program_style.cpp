@@ -2,9 +2,11 @@
 #include "app/common/program_style.h"
 
 #include <qdrawutil.h>
+#include <QCheckBox>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "app/common/colours.h"
 
@@ -38,6 +40,25 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
   const QPixmap frame = frameOf(*option, pixelRatio);
   qDrawBorderPixmap(painter, option->rect, corners(kCorner), frame, frame.rect(),
                     corners(qRound(kCorner * pixelRatio)));
+}
+
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                              const QWidget* widget) const {
+  const bool isSquare = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+  if (isSquare && option != nullptr && qobject_cast<const QCheckBox*>(widget) != nullptr)
+    return option->fontMetrics.height();
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+// The style leaves as much room for the title as a check box needs, which a title in small letters
+// does not.
+QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                   SubControl subControl, const QWidget* widget) const {
+  QRect place = QProxyStyle::subControlRect(control, option, subControl, widget);
+  if (control != CC_GroupBox || subControl != SC_GroupBoxFrame) return place;
+  const int square = QProxyStyle::pixelMetric(PM_IndicatorHeight, option, widget);
+  place.setTop(place.top() - std::max(0, square - option->fontMetrics.height()));
+  return place;
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,6 +1,8 @@
 // Whatever size the window has been given, nothing overlaps and everything can be read.
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QStyleOptionButton>
 #include <random>
 
 #include "tests/window/scaled_program.h"
@@ -41,6 +43,8 @@ class ClippingSuite : public QObject {
   void theWindowCannotBecomeTooSmallForItsBoxes();
   void theLongestFormIsReadableWithoutATooltipAt1024By768();
   void everyRuleIsSeenInEverySmallWindow();
+  void theInformationFrameBeginsAboveItsFirstLabel();
+  void theSquareOfTheCheckBoxGrowsWithItsLetters();
 };
 
 void ClippingSuite::afterFiftyMaximisationsAndFiftyDragsNothingOverlapsOrIsClipped() {
@@ -111,6 +115,37 @@ void ClippingSuite::everyRuleIsSeenInEverySmallWindow() {
                qPrintable(QString("%1 at %2").arg(y).arg(height)));
     }
   }
+}
+
+// Looked for near the frame's right end, where neither its title nor a label stands.
+void ClippingSuite::theInformationFrameBeginsAboveItsFirstLabel() {
+  const ScaledProgram program;
+  const QWidget& frame = program.widget<QWidget>("frmInformacjeOCzasowniku");
+  const QWidget& label = program.widget<QWidget>("lblGrupa");
+  for (const int height : {411, 430, 470, 548, 1010}) {
+    program.resizeTo({800, height});
+    const QImage picture = program.surface().grab(frame.geometry()).toImage();
+    const int x = frame.width() - 10;
+    int edge = 0;
+    while (edge < picture.height() && picture.pixel(x, edge) == picture.pixel(x, 0)) ++edge;
+    QVERIFY2(edge >= frame.fontMetrics().height(), qPrintable(QString::number(height)));
+    QVERIFY2(frame.y() + edge < label.y(), qPrintable(QString::number(height)));
+  }
+}
+
+void ClippingSuite::theSquareOfTheCheckBoxGrowsWithItsLetters() {
+  const ScaledProgram program;
+  const auto square = [&program] {
+    QStyleOptionButton option;
+    option.initFrom(&program.auxiliary());
+    return program.auxiliary()
+        .style()
+        ->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &program.auxiliary())
+        .height();
+  };
+  QCOMPARE(square(), 13);
+  program.resizeTo(program.designed() * 3);
+  QVERIFY(square() >= 35);
 }
 
 std::unique_ptr<QObject> clippingSuite() { return std::make_unique<ClippingSuite>(); }
