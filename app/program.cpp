@@ -59,7 +59,7 @@ void Program::connectParts(const Surroundings& given) {
 }
 
 LayoutPort Program::layout() {
-  return {.screenTwips = [this] { return static_cast<int>(screenWidth(window_).twips); },
+  return {.screenTwips = [this] { return qRound(screenWidth(window_).twips); },
           .rescale = [this] { return window_.scaling().rescale(); }};
 }
 

@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
+#include <cmath>
 
 #include "app/controls/control_table.h"
 #include "app/controls/placement.h"
@@ -22,10 +23,13 @@ QSize frameOf(const QWidget& window) {
 
 }  // namespace
 
+// Qt tells the width in the pixels that it reckons in, and rounds it: 800 at 150 % are 533.
 ScreenWidth screenWidth(const QWidget& window) {
   const QScreen& screen = *window.screen();
-  return {.twips = static_cast<float>(screen.size().width() * kTwipsPerPixel),
-          .twipsPerPixel = static_cast<float>(kTwipsPerPixel / screen.devicePixelRatio())};
+  const auto twipsPerPixel = static_cast<float>(kTwipsPerPixel / screen.devicePixelRatio());
+  const auto pixels =
+      static_cast<float>(std::lround(screen.size().width() * screen.devicePixelRatio()));
+  return {.twips = pixels * twipsPerPixel, .twipsPerPixel = twipsPerPixel};
 }
 
 // The thin edges at the sides may lie off the screen where everything inside them fits: a window of

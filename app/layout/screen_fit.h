@@ -9,7 +9,8 @@ class QWidget;
 
 namespace odmiennik::app {
 
-// The width of the window's screen in twips, and how many of them are one of its pixels.
+// The width of the window's screen in twips, and how many of them are one of its own pixels,
+// however large the desktop draws on them.
 [[nodiscard]] ScreenWidth screenWidth(const QWidget& window);
 
 // Lets the window become no smaller than its boxes are usable, which is three quarters of the

@@ -1,6 +1,7 @@
 // The arithmetic that keeps the main window's layout in proportion to its size.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -48,8 +49,9 @@ struct ScreenWidth {
   float twips = 12000;
   float twipsPerPixel = 15;
 
-  // deliberate: 800 pixels, whatever the window itself needs.
-  [[nodiscard]] bool isTooSmall() const { return twips / twipsPerPixel < 800; }
+  // deliberate: 800 pixels, whatever the window itself needs. Whole ones: the division of single
+  // precision can leave a screen of exactly 800 a hair below.
+  [[nodiscard]] bool isTooSmall() const { return std::lround(twips / twipsPerPixel) < 800; }
 };
 
 // How a control follows the window, told by its name and tag.

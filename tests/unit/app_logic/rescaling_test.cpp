@@ -152,6 +152,9 @@ TEST(rescaling, counts_a_screens_pixels_by_its_own_twips) {
   EXPECT_FALSE((ScreenWidth{.twips = 12000, .twipsPerPixel = 15}).isTooSmall());
   EXPECT_TRUE((ScreenWidth{.twips = 11985, .twipsPerPixel = 15}).isTooSmall());
   EXPECT_FALSE((ScreenWidth{.twips = 9600, .twipsPerPixel = 12}).isTooSmall());
+  const float atTwentyPercentMore = 15 / 1.2F;
+  EXPECT_FALSE((ScreenWidth{800 * atTwentyPercentMore, atTwentyPercentMore}).isTooSmall());
+  EXPECT_TRUE((ScreenWidth{799 * atTwentyPercentMore, atTwentyPercentMore}).isTooSmall());
 }
 
 TEST(resizing, takes_the_new_size_as_the_design_size) {
