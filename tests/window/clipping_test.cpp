@@ -143,9 +143,9 @@ void ClippingSuite::theSquareOfTheCheckBoxGrowsWithItsLetters() {
         ->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &program.auxiliary())
         .height();
   };
-  QCOMPARE(square(), 13);
+  QVERIFY(square() >= 12 && square() <= 14);
   program.resizeTo(program.designed() * 3);
-  QVERIFY(square() >= 35);
+  QVERIFY(square() >= 35 && square() <= program.auxiliary().height());
 }
 
 std::unique_ptr<QObject> clippingSuite() { return std::make_unique<ClippingSuite>(); }
