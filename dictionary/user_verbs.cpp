@@ -80,6 +80,7 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
   if (isAppended && count_ < std::numeric_limits<std::int32_t>::max())
     count_ = std::max(count_, 0) + 1;
   if (copied.firstDamaged != 0) showDamage(copied.firstDamaged);
+  changed_();
   return isAppended ? SaveResult::appended : SaveResult::replaced;
 }
 
@@ -112,6 +113,7 @@ DeleteResult UserVerbsFile::remove(std::string_view infinitive) {
     return DeleteResult::failed;
   }
   if (count_ > 0) --count_;
+  changed_();
   return DeleteResult::deleted;
 }
 

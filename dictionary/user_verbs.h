@@ -54,6 +54,9 @@ class UserVerbsFile final : public engine::UserVerbs {
   // rewrite left beside it; called once at start-up.
   void recoverAfterCrash();
 
+  // Calls `changed` after every save and every deletion that succeeded.
+  void tellOfChanges(std::function<void()> changed) { changed_ = std::move(changed); }
+
   [[nodiscard]] std::int32_t count() const { return count_; }
 
  private:
@@ -72,6 +75,7 @@ class UserVerbsFile final : public engine::UserVerbs {
   std::int32_t count_;
   MessageBoxes& messages_;
   FileSystem& files_;
+  std::function<void()> changed_ = [] {};
   bool isDamageShown_ = false;
   bool isUnreadableShown_ = false;
 };

@@ -19,6 +19,17 @@ void VerbList::chooseUserVerbs(UserVerbsFound found) {
   enableByEntries();
 }
 
+void VerbList::followUserVerbs(UserVerbsFound found) {
+  const std::size_t place = selected_.value_or(0);
+  const std::string verb(selectedVerb());
+  chooseUserVerbs(std::move(found));
+  if (entries_.empty()) return;
+  const auto before =
+      entries_.begin() + static_cast<std::ptrdiff_t>(std::min(place, entries_.size() - 1));
+  const auto same = *before == verb ? before : std::ranges::find(entries_, verb);
+  select(static_cast<std::size_t>((same == entries_.end() ? before : same) - entries_.begin()));
+}
+
 void VerbList::beginLetter() {
   entries_.clear();
   selected_.reset();

@@ -72,6 +72,10 @@ class VerbList {
   // The same, chosen in cmbLista: what is enabled then follows the entries, but for cmdUsuń.
   void chooseUserVerbs(UserVerbsFound found);
 
+  // The same for verbs that were saved or deleted elsewhere meanwhile: the selected verb stays
+  // selected; when it is gone, what stands in its place is.
+  void followUserVerbs(UserVerbsFound found);
+
   // A letter is filled verb by verb; meanwhile the list is disabled and out of sight.
   void beginLetter();
   void add(std::string_view verb) { entries_.emplace_back(verb); }

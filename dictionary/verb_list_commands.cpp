@@ -1,6 +1,8 @@
 // The buttons of the list window.
 #include "dictionary/verb_list_commands.h"
 
+#include "dictionary/verb_list.h"
+
 namespace odmiennik::dictionary {
 namespace {
 
@@ -18,6 +20,16 @@ bool runListButton(ListButton button, std::string_view selected, MainCommands& m
   if (button == ListButton::cmdEdytuj) return main.edit();
   if (button == ListButton::cmdDrukuj) return main.print();
   return true;
+}
+
+std::string emptyListHint(ListPurpose purpose, int choice) {
+  if (choice > 0)
+    return std::string("W spisie nie ma czasowników na literę „") + letterOfChoice(choice) + "”.";
+  if (purpose == ListPurpose::deletion)
+    return "Nie masz jeszcze własnych czasowników, więc nie ma czego usuwać.";
+  return "Nie masz jeszcze własnych czasowników.\n\n"
+         "Wybierz wyżej literę, aby zobaczyć czasowniki spisu. Własny czasownik wprowadzisz "
+         "przyciskiem „Nowy” i zapiszesz w głównym oknie klawiszami Ctrl+S.";
 }
 
 }  // namespace odmiennik::dictionary

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace odmiennik::dictionary {
@@ -40,5 +41,9 @@ struct ListAppearance {
   if (purpose == ListPurpose::list) return {.caption = "Lista czasowników"};
   return {.caption = "Usuń czasownik", .showsOtherButtons = false, .isDeleteMoved = true};
 }
+
+// What an empty list says in the place of its verbs: what to do now, or that the index has none.
+// `choice` is the item of cmbLista.
+[[nodiscard]] std::string emptyListHint(ListPurpose purpose, int choice);
 
 }  // namespace odmiennik::dictionary

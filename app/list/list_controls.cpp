@@ -1,6 +1,7 @@
 // The look of the verb list.
 #include "app/list/list_controls.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QStackedLayout>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int kBarHeight = 14;
 constexpr int kListHeight = 300;
+constexpr int kHintMargin = 24;
 constexpr int kPlaceOfUsuń = 3;  // in the column of buttons, as designed
 const QColor kBlue(30, 90, 168);
 
@@ -36,7 +38,8 @@ Widget& createWithText(QDialog& window, std::string_view name, std::string_view 
 ListControls::ListControls(QDialog& dialog)
     : window(dialog),
       cmbLista(create<QComboBox>(dialog, "cmbLista")),
-      lstCzasowniki(create<QListWidget>(dialog, "lstCzasowniki")),
+      lstCzasowniki(create<VerbListBox>(dialog, "lstCzasowniki")),
+      lblPustaLista(create<QLabel>(dialog, "lblPustaLista")),
       lblIlość(createWithText<QLabel>(dialog, "lblIlość", "Ilość czasowników:")),
       lblIlośćCzasowników(create<QLabel>(dialog, "lblIlośćCzasowników")),
       lblWPrzygotowaniu(createWithText<QLabel>(dialog, "lblWPrzygotowaniu",
@@ -68,6 +71,22 @@ void ListControls::furnish() {
   shpNiebieska.setPalette(QPalette(kBlue));
 }
 
+// The hint stands over the list, and the mouse goes through it.
+QWidget* ListControls::listPage() {
+  auto* page = new QWidget(&window);
+  auto* place = new QGridLayout(page);
+  place->setContentsMargins({});
+  place->addWidget(&lstCzasowniki, 0, 0);
+  place->addWidget(&lblPustaLista, 0, 0);
+  lblPustaLista.setWordWrap(true);
+  lblPustaLista.setAlignment(Qt::AlignCenter);
+  lblPustaLista.setMargin(kHintMargin);
+  lblPustaLista.setAttribute(Qt::WA_TransparentForMouseEvents);
+  lblPustaLista.raise();
+  lblPustaLista.hide();
+  return page;
+}
+
 QWidget* ListControls::fillingPage() {
   auto* page = new QWidget(&window);
   auto* rows = new QVBoxLayout(page);
@@ -85,7 +104,7 @@ void ListControls::layOut() {
   auto* count = new QHBoxLayout;
   count->addWidget(&lblIlość);
   count->addWidget(&lblIlośćCzasowników, 1);
-  places_.addWidget(&lstCzasowniki);
+  places_.addWidget(listPage());
   places_.addWidget(fillingPage());
   auto* lists = new QVBoxLayout;
   lists->addWidget(choice);
@@ -126,6 +145,11 @@ void ListControls::enable(const dictionary::ListEnabling& enabled) {
 void ListControls::showFilling(bool isFilling) {
   if (isFilling) growBar(0, 0);
   places_.setCurrentIndex(isFilling ? 1 : 0);
+}
+
+void ListControls::showHint(const QString& text) {
+  lblPustaLista.setText(text);
+  lblPustaLista.setVisible(!text.isEmpty());
 }
 
 void ListControls::growBar(int filled, int number) {

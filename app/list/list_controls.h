@@ -5,10 +5,10 @@
 #include <QDialog>
 #include <QFrame>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/list/verb_list_box.h"
 #include "dictionary/verb_list.h"
 #include "dictionary/verb_list_commands.h"
 
@@ -29,12 +29,16 @@ class ListControls {
   // Puts the label and the empty bar in the place of the list, and back.
   void showFilling(bool isFilling);
 
+  // Says `text` in the place of the verbs; nothing hides what says it.
+  void showHint(const QString& text);
+
   // Lets the bar grow to `filled` of `number` verbs; painted at once.
   void growBar(int filled, int number);
 
   QDialog& window;
   QComboBox& cmbLista;
-  QListWidget& lstCzasowniki;
+  VerbListBox& lstCzasowniki;
+  QLabel& lblPustaLista;  // over the list, where it is empty
   QLabel& lblIlość;
   QLabel& lblIlośćCzasowników;
   QLabel& lblWPrzygotowaniu;
@@ -50,6 +54,7 @@ class ListControls {
  private:
   void furnish();
   void layOut();
+  [[nodiscard]] QWidget* listPage();
   [[nodiscard]] QWidget* fillingPage();
 
   QVBoxLayout& buttons_;

@@ -19,6 +19,9 @@ ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
   };
   opens("mnuEdycjaLista", ListPurpose::list);
   opens("mnuEdycjaUsuńCzasownik", ListPurpose::deletion);
+  userVerbs_.tellOfChanges([this] {
+    if (window_) window_->followUserVerbs();
+  });
 }
 
 void ListMenu::open(dictionary::ListPurpose purpose) {

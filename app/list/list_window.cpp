@@ -1,6 +1,8 @@
 // The verb list.
 #include "app/list/list_window.h"
 
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -10,6 +12,13 @@
 namespace odmiennik::app {
 
 using dictionary::ListButton;
+
+namespace {
+
+// A pause after which the next key begins another verb; learners do not type fast.
+constexpr qint64 kPauseMilliseconds = 1000;
+
+}  // namespace
 
 ListWindow::ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
                        dictionary::MainCommands& main, QWidget* mainWindow)
@@ -41,18 +50,20 @@ void ListWindow::connectControls() {
   });
   connect(&controls_.lstCzasowniki, &QListWidget::currentRowChanged, this,
           [this](int row) { list_.select(static_cast<std::size_t>(row)); });
+  connect(&controls_.lstCzasowniki, &VerbListBox::typed, this, &ListWindow::search);
   connect(&controls_.cmbLista, &QComboBox::currentIndexChanged, this, &ListWindow::choose);
   connect(&controls_.cmbLista, &QComboBox::activated, this, &ListWindow::chooseAgain);
 }
 
 void ListWindow::showFor(dictionary::ListPurpose purpose) {
+  purpose_ = purpose;
   controls_.present(dictionary::appearanceOf(purpose));
   if (!isVisible()) {
     const QSignalBlocker silent(controls_.cmbLista);
     controls_.cmbLista.setCurrentIndex(choice_ = 0);
     controls_.cmbLista.setFocus();
   }
-  if (choice_ == 0 && !list_.isFilling()) ŁadujListęUżytkownika();
+  if (!list_.isFilling()) choice_ == 0 ? ŁadujListęUżytkownika() : showState();
   show();
   raise();
   activateWindow();
@@ -99,6 +110,24 @@ void ListWindow::showState() {
   controls_.enable(list_.enabled());
   controls_.lstCzasowniki.setCurrentRow(selected ? static_cast<int>(*selected) : -1);
   controls_.lblIlośćCzasowników.setText(fromUtf8(list_.countLabel()));
+  const bool isEmpty = list_.entries().empty();
+  controls_.showHint(isEmpty ? fromUtf8(dictionary::emptyListHint(purpose_, choice_)) : QString());
+}
+
+// The scroll bar keeps the place; the selected verb is chosen by the list.
+void ListWindow::followUserVerbs() {
+  if (isDeleting_ || choice_ != 0 || list_.isFilling()) return;
+  const int place = controls_.lstCzasowniki.verticalScrollBar()->value();
+  list_.followUserVerbs(findUserVerbs(prefix_, userVerbs_));
+  showEntries();
+  controls_.lstCzasowniki.verticalScrollBar()->setValue(place);
+}
+
+void ListWindow::search(const QString& key) {
+  const bool isContinued = sinceKey_.isValid() && sinceKey_.elapsed() < kPauseMilliseconds;
+  sinceKey_.start();
+  const auto found = search_.type(toFrench(key), isContinued, list_.entries(), list_.selected());
+  if (found) controls_.lstCzasowniki.showInUpperThird(static_cast<int>(*found));
 }
 
 // The main window comes forward for a verb that is to be typed or corrected; after the other
@@ -114,6 +143,7 @@ void ListWindow::run(ListButton button) {
 void ListWindow::deleteSelected() {
   if (list_.isFilling() || !list_.selected()) return;
   const std::string infinitive(list_.selectedVerb());
+  const QScopedValueRollback<bool> deleting(isDeleting_, true);
   if (userVerbs_.remove(infinitive) != dictionary::DeleteResult::deleted) return;
   list_.drop(infinitive);
   showEntries();

@@ -1,6 +1,7 @@
 // The window frmLista: verbs to pick one from, the user's own or those of a letter.
 #pragma once
 
+#include <QElapsedTimer>
 #include <string>
 
 #include "app/common/steady_window.h"
@@ -8,6 +9,7 @@
 #include "dictionary/user_verbs.h"
 #include "dictionary/verb_list.h"
 #include "dictionary/verb_list_commands.h"
+#include "dictionary/verb_search.h"
 
 namespace odmiennik::app {
 
@@ -25,6 +27,10 @@ class ListWindow final : public SteadyWindow<> {
   // the user's own verbs; where they are listed they are read anew.
   void showFor(dictionary::ListPurpose purpose);
 
+  // The user's verbs have been saved or deleted elsewhere: where they are listed, they are listed
+  // anew, with choice and place as they were.
+  void followUserVerbs();
+
  private:
   void connectControls();
   void ŁadujListęUżytkownika();
@@ -32,6 +38,7 @@ class ListWindow final : public SteadyWindow<> {
   void chooseAgain(int choice);
   void showEntries();
   void showState();
+  void search(const QString& key);
   void run(dictionary::ListButton button);
   void deleteSelected();
 
@@ -40,8 +47,12 @@ class ListWindow final : public SteadyWindow<> {
   dictionary::MainCommands& main_;
   dictionary::VerbList list_;
   ListControls controls_;
+  dictionary::VerbSearch search_;
+  QElapsedTimer sinceKey_;  // not yet valid before the first key
+  dictionary::ListPurpose purpose_ = dictionary::ListPurpose::list;
   int choice_ = 0;
   bool isChosenAnew_ = false;  // the choice has just become another one
+  bool isDeleting_ = false;
 };
 
 }  // namespace odmiennik::app

@@ -1,4 +1,6 @@
 // What the verb list does: commands of the main window, deleting, opening and closing.
+#include <QScrollBar>
+
 #include "tests/window/list_under_test.h"
 #include "tests/window/suites.h"
 
@@ -29,6 +31,9 @@ class ListCommandsSuite : public QObject {
   void escapeAndZamknijClose();
   void theMenuOpensItBesideAUsableMainWindow();
   void theListConjugatesInTheMainWindow();
+  void aSavedVerbIsListedAtOnce();
+  void whatIsChosenAndSeenStaysAfterASave();
+  void aSaveWhileALetterIsListedChangesNothing();
 };
 
 void ListCommandsSuite::theButtonsHandTheirCommandsOver() {
@@ -196,6 +201,42 @@ void ListCommandsSuite::theListConjugatesInTheMainWindow() {
   list.findChild<QPushButton*>(QString::fromUtf8("cmdOdmień"))->click();
   QTRY_COMPARE(program.form(0), "vais");
   QCOMPARE(program.form(96), "aller");
+}
+
+void ListCommandsSuite::aSavedVerbIsListedAtOnce() {
+  ListUnderTest program({}, 0);
+  program.save("parler");
+  QCOMPARE(program.entries(), QStringList{"parler"});
+  QCOMPARE(program.selected(), "parler");
+  QCOMPARE(program.count(), "1/7342");
+  QCOMPARE(program.enabled().size(), 5);
+  program.save("finir");
+  QCOMPARE(program.entries(), (QStringList{"parler", "finir"}));
+  QCOMPARE(program.selected(), "parler");
+  program.press("cmdOdmień");
+  QCOMPARE(program.commands.diary, QStringList{"conjugate parler"});
+}
+
+void ListCommandsSuite::whatIsChosenAndSeenStaysAfterASave() {
+  constexpr int kVerbs = 60;
+  ListUnderTest program(std::vector<std::string_view>(kVerbs, "aimer"), kVerbs);
+  program.list().setCurrentRow(40);
+  program.list().verticalScrollBar()->setValue(30);
+  program.save("finir");
+  QCOMPARE(program.list().count(), kVerbs + 1);
+  QCOMPARE(program.list().currentRow(), 40);
+  QCOMPARE(program.list().verticalScrollBar()->value(), 30);
+}
+
+void ListCommandsSuite::aSaveWhileALetterIsListedChangesNothing() {
+  ListUnderTest program({"finir"}, 1);
+  program.choose(kLetterD);
+  program.list().setCurrentRow(500);
+  program.save("parler");
+  QCOMPARE(program.list().count(), 1026);
+  QCOMPARE(program.list().currentRow(), 500);
+  program.choose(0);
+  QCOMPARE(program.entries(), (QStringList{"finir", "parler"}));
 }
 
 std::unique_ptr<QObject> listCommandsSuite() { return std::make_unique<ListCommandsSuite>(); }

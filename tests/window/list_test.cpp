@@ -40,6 +40,11 @@ class ListSuite : public QObject {
   void deletingStaysAsTheUsersListSetIt();
   void theBarGrowsFromEmptyToFull();
   void whileALetterIsFilledNothingIsTaken();
+  void anEmptyListSaysWhatToDo();
+  void aLetterWithoutVerbsSaysSo();
+  void anEmptyListForDeletingSaysSo();
+  void theHintGoesWithTheFirstVerb();
+  void whatIsTypedWithoutAccentsIsShownInTheUpperThird();
 };
 
 void ListSuite::everyControlHasItsNameAndCaption() {
@@ -168,6 +173,56 @@ void ListSuite::whileALetterIsFilledNothingIsTaken() {
   QCOMPARE(program.list().count(), 1026);
   QCOMPARE(program.widget<QComboBox>("cmbLista").currentIndex(), kLetterD);
   QVERIFY(program.commands.diary.isEmpty());
+}
+
+void ListSuite::anEmptyListSaysWhatToDo() {
+  const ListUnderTest program({}, 0);
+  QVERIFY(program.hint().isVisible());
+  QVERIFY(program.hint().isEnabled());
+  QVERIFY2(program.hint().text().contains("„Nowy”"), qPrintable(program.hint().text()));
+  QVERIFY(program.list().geometry().contains(program.hint().geometry()));
+  const int width = program.hint().width();
+  QVERIFY(program.hint().heightForWidth(width) <= program.hint().height());
+}
+
+void ListSuite::aLetterWithoutVerbsSaysSo() {
+  const ListUnderTest program({"finir"}, 1);
+  QVERIFY(!program.hint().isVisible());
+  program.choose(kLetterX);
+  QVERIFY(program.hint().isVisible());
+  QCOMPARE(program.hint().text(), "W spisie nie ma czasowników na literę „x”.");
+  program.choose(kLetterA);
+  QVERIFY(!program.hint().isVisible());
+}
+
+void ListSuite::anEmptyListForDeletingSaysSo() {
+  const ListUnderTest program({}, 0);
+  program.window.showFor(dictionary::ListPurpose::deletion);
+  QVERIFY(program.hint().isVisible());
+  QCOMPARE(program.hint().text(),
+           "Nie masz jeszcze własnych czasowników, więc nie ma czego usuwać.");
+  program.window.showFor(dictionary::ListPurpose::list);
+  QVERIFY(program.hint().text().contains("„Nowy”"));
+}
+
+void ListSuite::theHintGoesWithTheFirstVerb() {
+  ListUnderTest program({}, 0);
+  program.save("finir");
+  QVERIFY(!program.hint().isVisible());
+  program.press("cmdUsuń");
+  QVERIFY(program.hint().isVisible());
+}
+
+void ListSuite::whatIsTypedWithoutAccentsIsShownInTheUpperThird() {
+  const ListUnderTest program({}, 0);
+  program.choose(kLetterE);
+  program.list().setFocus();
+  for (const int key : {Qt::Key_E, Qt::Key_T, Qt::Key_E, Qt::Key_I})
+    QTest::keyClick(&program.list(), static_cast<Qt::Key>(key));
+  QCOMPARE(program.selected(), "éteindre");
+  const QRect place = program.list().visualItemRect(program.list().currentItem());
+  QVERIFY(place.top() > 0);
+  QVERIFY(place.bottom() < program.list().viewport()->height() / 3);
 }
 
 std::unique_ptr<QObject> listSuite() { return std::make_unique<ListSuite>(); }

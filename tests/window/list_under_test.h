@@ -8,7 +8,8 @@
 namespace odmiennik::window_test {
 
 inline constexpr int kLetterA = 1;
-inline constexpr int kLetterD = 4;   // the longest
+inline constexpr int kLetterD = 4;  // the longest
+inline constexpr int kLetterE = 5;
 inline constexpr int kLetterX = 24;  // no verb begins with it
 
 struct NotingCommands final : dictionary::MainCommands {
@@ -51,6 +52,7 @@ struct ListUnderTest {
   }
   [[nodiscard]] QPushButton& button(const char* name) const { return widget<QPushButton>(name); }
   [[nodiscard]] QListWidget& list() const { return widget<QListWidget>("lstCzasowniki"); }
+  [[nodiscard]] QLabel& hint() const { return widget<QLabel>("lblPustaLista"); }
   [[nodiscard]] QString count() const { return widget<QLabel>("lblIlośćCzasowników").text(); }
   [[nodiscard]] QString selected() const {
     return list().currentItem() == nullptr ? QString() : list().currentItem()->text();
@@ -66,6 +68,12 @@ struct ListUnderTest {
     for (const char* name : {"cmdOdmień", "cmdEdytuj", "cmdNowy", "cmdUsuń", "cmdDrukuj"})
       if (button(name).isEnabled()) names += QString::fromUtf8(name);
     return names;
+  }
+  // Saves a verb as the main window does.
+  void save(std::string_view infinitive) {
+    dictionary::UserVerbRecord record;
+    record.forms[engine::slot::kInfinitive] = infinitive;
+    verbs.save(record);
   }
   void choose(int choice) const { widget<QComboBox>("cmbLista").setCurrentIndex(choice); }
   void press(const char* name) const {

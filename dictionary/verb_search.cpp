@@ -1,0 +1,59 @@
+// Typing into the list.
+#include "dictionary/verb_search.h"
+
+#include "engine/french.h"
+#include "engine/initial_letter.h"
+#include "engine/normalization.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+using namespace engine::literals;
+using Entries = std::vector<std::string>;
+
+// Two letters in one: searching for "oe" finds œuvrer.
+constexpr char kJoinedOE = "œ"_fr[0];
+constexpr char kJoinedAE = "æ"_fr[0];
+
+// The first entry from `start` on that begins so, going round the end.
+std::optional<std::size_t> firstFrom(std::size_t start, std::string_view beginning,
+                                     const Entries& entries) {
+  for (std::size_t step = 0; step < entries.size(); ++step) {
+    const std::size_t entry = (start + step) % entries.size();
+    if (withoutAccents(entries[entry]).starts_with(beginning)) return entry;
+  }
+  return std::nullopt;
+}
+
+bool isOneLetterRepeated(std::string_view typed) {
+  return typed.find_first_not_of(typed.front()) == std::string_view::npos;
+}
+
+}  // namespace
+
+std::string withoutAccents(std::string_view french) {
+  std::string lower(french);
+  engine::lowerCase(lower);
+  std::string plain;
+  for (const char letter : lower) {
+    const char initial = engine::initialLetter(letter);
+    plain += initial == 0 ? letter : initial;
+    if (letter == kJoinedOE || letter == kJoinedAE) plain += 'e';
+  }
+  return plain;
+}
+
+std::optional<std::size_t> VerbSearch::type(std::string_view key, bool isContinued,
+                                            const Entries& entries,
+                                            std::optional<std::size_t> current) {
+  if (!isContinued) typed_.clear();
+  const std::size_t next = current ? *current + 1 : 0;
+  const std::size_t start = typed_.empty() ? next : current.value_or(0);
+  typed_ += withoutAccents(key);
+  if (typed_.empty()) return std::nullopt;
+  const auto found = firstFrom(start, typed_, entries);
+  if (found || !isOneLetterRepeated(typed_)) return found;
+  return firstFrom(next, typed_.substr(0, 1), entries);
+}
+
+}  // namespace odmiennik::dictionary
