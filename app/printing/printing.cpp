@@ -59,12 +59,13 @@ bool isReady(const QPrinterInfo& printer) {
          printer.state() != QPrinter::Aborted;
 }
 
-bool printWidget(QWidget& widget, const QString& title) {
+bool printWidget(QWidget& widget, const QString& title, const PrintChoices& choices) {
   const Hourglass hourglass;
   const QPrinterInfo current = QPrinterInfo::defaultPrinter();
   if (!isReady(current)) return false;
   QPrinter printer(current, QPrinter::HighResolution);
   printer.setDocName(title);
+  apply(choices, current, printer);
   return printPicture(widget, printer);
 }
 
@@ -77,12 +78,12 @@ Printing::Printing(QMainWindow& main, dictionary::MessageBoxes& messages)
       Qt::QueuedConnection);
   QObject::connect(
       &menuItem(*main.menuBar(), "mnuPlikUstawieniaDrukarki"), &QAction::triggered, &main,
-      [&main] { setUpPrinter(main); }, Qt::QueuedConnection);
+      [this] { setUpPrinter(main_, choices_); }, Qt::QueuedConnection);
 }
 
 bool Printing::print() {
   const HiddenForPrinting hidden(*main_.centralWidget());
-  const bool isPrinted = printWidget(*main_.centralWidget(), main_.windowTitle());
+  const bool isPrinted = printWidget(*main_.centralWidget(), main_.windowTitle(), choices_);
   if (!isPrinted) messages_.show(dictionary::MessageId::printerNotReady);
   return isPrinted;
 }

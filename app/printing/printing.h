@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "app/printing/print_choices.h"
 #include "dictionary/messages.h"
 
 namespace odmiennik::app {
@@ -20,6 +21,7 @@ class Printing {
  private:
   QMainWindow& main_;
   dictionary::MessageBoxes& messages_;
+  PrintChoices choices_;
 };
 
 }  // namespace odmiennik::app

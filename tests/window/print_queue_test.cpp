@@ -1,9 +1,12 @@
 // Printing to real queues of a private print server.
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QListWidget>
 #include <QPrinterInfo>
 #include <QRegularExpression>
+#include <QSet>
+#include <QSpinBox>
 
 #include "tests/window/print_server.h"
 #include "tests/window/program_run.h"
@@ -53,6 +56,9 @@ class PrintQueueSuite : public QObject {
   void aQueueThatRefusesTheJobIsNotReady();
   void theChosenPrinterBecomesTheDefault();
   void cancelLeavesTheDefault();
+  void whatIsChosenIsPrintedWith();
+  void whatWasChosenIsOfferedAgain();
+  void theDialogOffersNothingInEnglishButItsTitle();
 
  private:
   void print() const { program_->item("mnuPlikDrukuj").trigger(); }
@@ -61,6 +67,7 @@ class PrintQueueSuite : public QObject {
   [[nodiscard]] QRect placeOf(const QWidget& control, const QImage& picture) const;
   [[nodiscard]] QImage printedPicture() const;
   static void choosePrinter(QDialog& dialog, const QString& name);
+  void setUp(const std::function<void(QDialog&)>& choose) const;
 
   std::unique_ptr<PrintServer> server_;
   std::unique_ptr<ProgramUnderTest> program_;
@@ -202,17 +209,23 @@ void PrintQueueSuite::choosePrinter(QDialog& dialog, const QString& name) {
     if (const int row = box->findText(name); row >= 0) box->setCurrentIndex(row);
 }
 
-void PrintQueueSuite::theChosenPrinterBecomesTheDefault() {
+// Opens the dialog, chooses and accepts.
+void PrintQueueSuite::setUp(const std::function<void(QDialog&)>& choose) const {
   QTimer poll;
-  connect(&poll, &QTimer::timeout, &poll, [&poll] {
+  connect(&poll, &QTimer::timeout, &poll, [&] {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) return;
     poll.stop();
-    choosePrinter(*dialog, kOtherQueue);
+    choose(*dialog);
     dialog->accept();
   });
   poll.start(1);
   program_->item("mnuPlikUstawieniaDrukarki").trigger();
+  QTRY_VERIFY(!poll.isActive() && QApplication::activeModalWidget() == nullptr);
+}
+
+void PrintQueueSuite::theChosenPrinterBecomesTheDefault() {
+  setUp([](QDialog& dialog) { choosePrinter(dialog, kOtherQueue); });
   QTRY_COMPARE(QPrinterInfo::defaultPrinterName(), kOtherQueue);
   print();
   QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kOtherQueue), 20'000);
@@ -226,6 +239,76 @@ void PrintQueueSuite::cancelLeavesTheDefault() {
   QCoreApplication::processEvents();
   QCOMPARE(QPrinterInfo::defaultPrinterName(), kQueue);
   QVERIFY(program_->messages.shown.empty());
+}
+
+namespace {
+
+template <typename Widget>
+Widget& in(const QDialog& dialog, const char* name) {
+  auto* found = dialog.findChild<Widget*>(QString::fromUtf8(name));
+  if (found == nullptr) qFatal("no control %s", name);
+  return *found;
+}
+
+void choosePaper(const QDialog& dialog, const QString& name) {
+  auto& papers = in<QComboBox>(dialog, "cmbPapier");
+  QVERIFY2(papers.findText(name) >= 0, qPrintable(name));
+  papers.setCurrentIndex(papers.findText(name));
+  emit papers.activated(papers.currentIndex());
+}
+
+}  // namespace
+
+// An A5 page is 420 points wide and 595 high, whichever way it lies.
+void PrintQueueSuite::whatIsChosenIsPrintedWith() {
+  setUp([](QDialog& dialog) {
+    choosePaper(dialog, "A5");
+    in<QSpinBox>(dialog, "txtKopie").setValue(2);
+    in<QCheckBox>(dialog, "chkOdcienieSzarości").setChecked(true);
+  });
+  program_->conjugate("monter");
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  const QString facts = outputOf("pdfinfo", {server_->document(kQueue)});
+  const auto size = QRegularExpression("Page size: +(\\d+)\\S* x (\\d+)").match(facts);
+  QVERIFY2(size.hasMatch(), qPrintable(facts));
+  const QSet<int> sides{size.captured(1).toInt(), size.captured(2).toInt()};
+  QVERIFY2(sides.contains(595) && (sides.contains(419) || sides.contains(420)), qPrintable(facts));
+  QVERIFY2(facts.contains(QRegularExpression("Pages: +2\n")), qPrintable(facts));
+}
+
+void PrintQueueSuite::whatWasChosenIsOfferedAgain() {
+  setUp([](QDialog& dialog) {
+    choosePaper(dialog, "A5");
+    in<QSpinBox>(dialog, "txtKopie").setValue(3);
+    in<QCheckBox>(dialog, "chkOdcienieSzarości").setChecked(true);
+  });
+  ModalVisitor visitor([](QDialog& dialog) {
+    QCOMPARE(in<QComboBox>(dialog, "cmbPapier").currentText(), "A5");
+    QCOMPARE(in<QSpinBox>(dialog, "txtKopie").value(), 3);
+    QVERIFY(in<QCheckBox>(dialog, "chkOdcienieSzarości").isChecked());
+  });
+  program_->item("mnuPlikUstawieniaDrukarki").trigger();
+  QTRY_COMPARE(visitor.visits, 1);
+}
+
+// Every word is one of these, a printer's name, or a paper.
+void PrintQueueSuite::theDialogOffersNothingInEnglishButItsTitle() {
+  ModalVisitor visitor([](QDialog& dialog) {
+    QSet<QString> words;
+    for (const auto* label : dialog.findChildren<QLabel*>()) words += label->text();
+    for (const auto* button : dialog.findChildren<QAbstractButton*>()) words += button->text();
+    words.remove(QString());
+    QCOMPARE(words, (QSet<QString>{"&Drukarka:", "&Papier:", "&Liczba kopii:",
+                                   "W odcieniach &szarości", "OK", "&Anuluj"}));
+    const auto& papers = in<QComboBox>(dialog, "cmbPapier");
+    QVERIFY(papers.count() > 3);
+    const QRegularExpression paper("^([AB]\\d|\\d+ × \\d+ mm)$");
+    for (int row = 0; row < papers.count(); ++row)
+      QVERIFY2(paper.match(papers.itemText(row)).hasMatch(), qPrintable(papers.itemText(row)));
+  });
+  program_->item("mnuPlikUstawieniaDrukarki").trigger();
+  QTRY_COMPARE(visitor.visits, 1);
 }
 
 std::unique_ptr<QObject> printQueueSuite() { return std::make_unique<PrintQueueSuite>(); }
