@@ -36,6 +36,8 @@ constexpr MenuRow kRows[] = {
     {item, "mnuEdycjaEdytujCzasownik", "E&dytuj", ready, "F2"},
     {item, "mnuEdycjaUsuńCzasownik", "U&suń", ready},
     {separator, "mnuEdycjaLinia5", ""},
+    {item, "mnuCzasownikInformacje", "&Informacje o czasowniku", ready, "Ctrl+I"},
+    {item, "mnuCzasownikBezokolicznik", "Pole &bezokolicznika", ready, "Ctrl+B"},
     {checkableItem, "mnuCzasownikAutouzupełnianie", "&Autouzupełnianie", ready},
     // deliberate: chosen, it does nothing.
     {item, "mnuEdycjaWyszukaj", "&Wyszukaj", ready},

@@ -1,6 +1,7 @@
 // The main window as edit mode sees it.
 #include "app/editing/edited_window.h"
 
+#include "app/common/announcement.h"
 #include "app/common/text.h"
 #include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
@@ -33,10 +34,20 @@ void EditedWindow::clearBoxes() {
 void EditedWindow::present(const dictionary::EditPresentation& presentation) {
   window_.setEditing(presentation.isEditing);
   QAction& edit = item("mnuEdycjaEdytujCzasownik");
+  const bool wasEditing = !edit.property(kTagProperty).toString().isEmpty();
+  if (presentation.isEditing != wasEditing) announce(spokenState(presentation.isEditing));
   edit.setProperty(kTagProperty, presentation.isEditing ? QStringLiteral("edit") : QString());
   edit.setText(fromUtf8(presentation.menuCaption));
   item("mnuPlikZapiszCzasownik").setEnabled(presentation.isEditing);
   window_.setWindowTitle(fromUtf8(presentation.windowCaption));
+}
+
+QString EditedWindow::spokenState(bool isEditing) const {
+  if (!isEditing) return QStringLiteral("Koniec edycji.");
+  const QString verb = window_.boxes().entry().text().trimmed();
+  const QString what = verb.isEmpty() ? QStringLiteral("nowego czasownika")
+                                      : QStringLiteral("czasownika %1").arg(verb);
+  return QStringLiteral("Edycja %1. Formy można zmieniać, Ctrl+S zapisuje.").arg(what);
 }
 
 void EditedWindow::showHourglass(bool isShown) {
@@ -61,7 +72,9 @@ bool EditedWindow::writeRecord() {
   const dictionary::SaveResult result =
       userVerbs_.save(dictionary::recordOfBoxes(texts, window_.auxiliary()));
   showHourglass(false);
-  return result != dictionary::SaveResult::failed;
+  if (result == dictionary::SaveResult::failed) return false;
+  announce(QStringLiteral("Zapisano czasownik %1.").arg(window_.boxes().entry().text().trimmed()));
+  return true;
 }
 
 }  // namespace odmiennik::app

@@ -29,6 +29,8 @@ class EditedWindow final : public dictionary::EditWindow {
 
  private:
   [[nodiscard]] QAction& item(std::string_view name) const;
+  // What a screen reader says when edit mode has been entered or left.
+  [[nodiscard]] QString spokenState(bool isEditing) const;
 
   MainWindow& window_;
   WindowPointer& pointer_;

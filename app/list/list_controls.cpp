@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QStackedLayout>
 
+#include "app/common/caption.h"
 #include "app/common/text.h"
 
 namespace odmiennik::app {
@@ -99,15 +100,13 @@ QWidget* ListControls::fillingPage() {
 }
 
 void ListControls::layOut() {
-  auto* choice = new QLabel(QStringLiteral("&Lista:"), &window);
-  choice->setBuddy(&cmbLista);
   auto* count = new QHBoxLayout;
   count->addWidget(&lblIlość);
   count->addWidget(&lblIlośćCzasowników, 1);
   places_.addWidget(listPage());
   places_.addWidget(fillingPage());
   auto* lists = new QVBoxLayout;
-  lists->addWidget(choice);
+  lists->addWidget(captionOf(QStringLiteral("&Lista:"), cmbLista));
   lists->addWidget(&cmbLista);
   lists->addLayout(&places_, 1);
   lists->addLayout(count);

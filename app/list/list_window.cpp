@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "app/common/announcement.h"
 #include "app/common/text.h"
 #include "app/list/list_filling.h"
 
@@ -145,6 +146,7 @@ void ListWindow::deleteSelected() {
   const std::string infinitive(list_.selectedVerb());
   const QScopedValueRollback<bool> deleting(isDeleting_, true);
   if (userVerbs_.remove(infinitive) != dictionary::DeleteResult::deleted) return;
+  announce(QStringLiteral("Usunięto czasownik %1.").arg(fromFrench(infinitive)));
   list_.drop(infinitive);
   showEntries();
 }

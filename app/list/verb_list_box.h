@@ -21,6 +21,7 @@ class VerbListBox final : public QListWidget {
  protected:
   // Qt's own search minds accents and leaves what it found at the lower edge.
   void keyboardSearch(const QString& key) override { emit typed(key); }
+  void focusInEvent(QFocusEvent* event) override;
 };
 
 }  // namespace odmiennik::app

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "app/common/text.h"
-#include "app/logic/tense_topics.h"
 
 namespace odmiennik::app {
 
@@ -15,17 +14,6 @@ FormBoxes::FormBoxes(const Controls& controls) {
   controls.forEach("lblSubjoncif", [this](const ControlRow& row, QWidget& widget) {
     captions_[static_cast<std::size_t>(row.index)] = static_cast<CaptionLabel*>(&widget);
   });
-  labelTenses(controls);
-}
-
-// A screen reader tells the heading of a tense with the tense's first box.
-void FormBoxes::labelTenses(const Controls& controls) const {
-  controls.forEach("lblCzas", [this](const ControlRow& row, QWidget& widget) {
-    const TenseHeading& heading = kTenseTopics[static_cast<std::size_t>(row.index)];
-    static_cast<QLabel&>(widget).setBuddy(&(*this)[heading.firstSlot]);
-  });
-  controls.get<QLabel>(positionOf("lblImiesłówZłożony"))
-      .setBuddy(&(*this)[engine::slot::kCompoundParticiple]);
 }
 
 int FormBoxes::slotOf(const QObject& box) const {

@@ -36,8 +36,6 @@ class FormBoxes {
   void showCaptions(const engine::SubjunctiveCaptions& captions) const;
 
  private:
-  void labelTenses(const Controls& controls) const;
-
   std::array<FormBox*, engine::kSlotCount> boxes_{};
   std::array<CaptionLabel*, 4> captions_{};
 };

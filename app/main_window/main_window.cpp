@@ -3,11 +3,15 @@
 
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QToolTip>
 
+#include "app/common/announcement.h"
 #include "app/common/text.h"
 #include "app/controls/form_surface.h"
 #include "app/controls/main_menu.h"
+#include "app/logic/spoken_verb.h"
 #include "app/logic/start_up.h"
+#include "engine/windows1252.h"
 
 namespace odmiennik::app {
 namespace {
@@ -84,6 +88,14 @@ void MainWindow::selectEntryWord() {
 void MainWindow::connectCommands() {
   connect(&menuItem(*menuBar(), "mnuPlikKoniec"), &QAction::triggered, this, &MainWindow::close,
           Qt::QueuedConnection);
+  connect(&menuItem(*menuBar(), "mnuCzasownikInformacje"), &QAction::triggered, this,
+          &MainWindow::tellInformation);
+  QAction& toEntry = menuItem(*menuBar(), "mnuCzasownikBezokolicznik");
+  toEntry.setShortcutContext(Qt::ApplicationShortcut);  // from the list too
+  connect(&toEntry, &QAction::triggered, this, [this] {
+    activateWindow();
+    boxes_.selectEntry();
+  });
   // Not `clicked`: a screen reader ticks the box without clicking it.
   connect(&auxiliary_.widget(), &QCheckBox::toggled, this, &MainWindow::toggleAuxiliary);
 }
@@ -93,10 +105,12 @@ void MainWindow::conjugate() {
   const QScopedValueRollback<bool> conjugating(isConjugating_, true);
   const std::string typed = toFrench(boxes_.entry().text());
   Restored restored(conjugation_);
-  if (driver_.conjugate(conjugation_, typed) == engine::Outcome::reset) return;
+  const engine::Outcome outcome = driver_.conjugate(conjugation_, typed);
+  if (outcome == engine::Outcome::reset) return;
   restored.keep();
   emit conjugated();
   showConjugation();
+  if (outcome == engine::Outcome::conjugated) announce(spokenInformation());
   boxes_.selectEntry();
 }
 
@@ -118,9 +132,26 @@ void MainWindow::setEditing(bool isEditing) {
 // conjugated. While a verb is edited the boxes are the user's.
 void MainWindow::toggleAuxiliary(bool isAvoir) {
   engine::Driver::toggleAuxiliary(conjugation_, isAvoir, isEditing_);
-  if (!isEditing_) return showConjugation();
-  auxiliary_.show(conjugation_);
-  emit auxiliaryEdited();
+  if (isEditing_)
+    auxiliary_.show(conjugation_);
+  else
+    showConjugation();
+  announce(auxiliary_.widget().text().remove('&'));
+  if (isEditing_) emit auxiliaryEdited();
+}
+
+QString MainWindow::spokenInformation() const {
+  const std::string verb = engine::toUtf8(infinitive());
+  const bool isOwn = conjugation_.source == engine::Source::user;
+  return fromUtf8(spokenVerb(verb, conjugation_.information.labels) +
+                  (isOwn ? " Formy z Twojego pliku." : ""));
+}
+
+// Said, and shown for a moment beside the frame that holds it.
+void MainWindow::tellInformation() {
+  const QWidget& frame = controls_.get<QWidget>(positionOf("frmInformacjeOCzasowniku"));
+  QToolTip::showText(frame.mapToGlobal(frame.rect().bottomLeft()), spokenInformation(), this);
+  announce(spokenInformation());
 }
 
 // All texts change before anything is painted: one repaint a conjugation.

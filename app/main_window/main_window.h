@@ -63,6 +63,8 @@ class MainWindow final : public QMainWindow {
   void connectCommands();
   void toggleAuxiliary(bool isAvoir);
   void showConjugation();
+  [[nodiscard]] QString spokenInformation() const;
+  void tellInformation();
 
   engine::Driver& driver_;
   engine::Conjugation conjugation_;

@@ -4,6 +4,8 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 
+#include "app/common/caption.h"
+
 namespace odmiennik::app {
 namespace {
 
@@ -45,8 +47,8 @@ void PrinterDialog::layOut() {
   setMinimumWidth(kWidth);
   auto* rows = new QFormLayout(this);
   rows->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-  rows->addRow(QStringLiteral("&Drukarka:"), &printers_);
-  rows->addRow(QStringLiteral("&Papier:"), &papers_);
+  rows->addRow(captionOf(QStringLiteral("&Drukarka:"), printers_), &printers_);
+  rows->addRow(captionOf(QStringLiteral("&Papier:"), papers_), &papers_);
   rows->addRow(QStringLiteral("&Liczba kopii:"), &copies_);
   rows->addRow(QString(), &isGrey_);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/common/announcement.h"
 #include "app/common/beside.h"
 #include "app/common/colours.h"
 #include "app/common/text.h"
@@ -135,6 +136,7 @@ void TipWindow::choose(int demonstration) {
 void TipWindow::DisplayCurrentTip() {
   tip_ = drawTip(random_(), tipCount(), isForced_);
   text_->setText(fromUtf8(tipText(tip_, "\n")));
+  if (isVisible()) announce(text_->text());
   showDemonstrationButtons();
 }
 

@@ -45,6 +45,7 @@ int main(int argumentCount, char** arguments) {
       {"saving", savingSuite},
       {"settings", settingsSuite},
       {"small_screen", smallScreenSuite},
+      {"spoken", spokenSuite},
       {"start_up", startUpSuite},
       {"steady_windows", steadyWindowsSuite},
       {"stopped_demonstration", stoppedDemonstrationSuite},

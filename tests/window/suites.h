@@ -40,6 +40,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> savingSuite();
 [[nodiscard]] std::unique_ptr<QObject> settingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> smallScreenSuite();
+[[nodiscard]] std::unique_ptr<QObject> spokenSuite();
 [[nodiscard]] std::unique_ptr<QObject> startUpSuite();
 [[nodiscard]] std::unique_ptr<QObject> steadyWindowsSuite();
 [[nodiscard]] std::unique_ptr<QObject> stoppedDemonstrationSuite();

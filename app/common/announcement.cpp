@@ -1,0 +1,82 @@
+// Sentences for screen readers. What they speak was tried: a change of a name or of a description
+// reaches them from Qt 6.4 without its text and stays unspoken; a notification that comes into
+// sight is spoken wherever the focus is.
+#include "app/common/announcement.h"
+
+#include <QAccessible>
+#include <QAccessibleObject>
+#include <QApplication>
+#include <QPointer>
+#include <QStringList>
+#include <QTimer>
+
+namespace odmiennik::app {
+namespace {
+
+// Later than what closes, opens or gets the focus meanwhile, which would interrupt the sentence.
+constexpr int kDelayMilliseconds = 100;
+
+// One a program: collects the sentences of one doing.
+class Announcer final : public QObject {
+ public:
+  explicit Announcer(QObject& parent) : QObject(&parent) {
+    delay_.setSingleShot(true);
+    delay_.setInterval(kDelayMilliseconds);
+    connect(&delay_, &QTimer::timeout, this, &Announcer::say);
+  }
+
+  void add(const QString& sentence) {
+    sentences_ += sentence;
+    delay_.start();
+  }
+
+  [[nodiscard]] const QString& said() const { return said_; }
+
+ private:
+  void say() {
+    said_ = sentences_.join(QLatin1Char(' '));
+    sentences_.clear();
+    QAccessibleEvent shown(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+  }
+
+  QTimer delay_;
+  QStringList sentences_;
+  QString said_;
+};
+
+// The notification as a screen reader sees it: part of the program, and of none of its windows,
+// whose captions it would hear each time.
+class Notification final : public QAccessibleObject {
+ public:
+  using QAccessibleObject::QAccessibleObject;
+  QString text(QAccessible::Text kind) const override {
+    if (kind != QAccessible::Name) return {};
+    return static_cast<const Announcer*>(object())->said();
+  }
+  QAccessible::Role role() const override { return QAccessible::Notification; }
+  QAccessible::State state() const override { return {}; }
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(qApp);
+  }
+  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+};
+
+QAccessibleInterface* notificationOf(const QString& /*className*/, QObject* object) {
+  return dynamic_cast<Announcer*>(object) == nullptr ? nullptr : new Notification(object);
+}
+
+}  // namespace
+
+void announce(const QString& sentence) {
+  static QPointer<Announcer> announcer;
+  if (!announcer) {
+    QAccessible::installFactory(notificationOf);
+    announcer = new Announcer(*qApp);
+  }
+  announcer->add(sentence);
+}
+
+}  // namespace odmiennik::app

@@ -1,0 +1,15 @@
+// What is known of a verb beside its forms, as one sentence to be heard.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/verb_information.h"
+
+namespace odmiennik::app {
+
+// Infinitive (UTF-8), group, auxiliary and transitivity: "finir: grupa druga, czasownik posiłkowy
+// avoir, przechodni i nieprzechodni." What is not known is said to be so.
+[[nodiscard]] std::string spokenVerb(std::string_view infinitive, const engine::VerbLabels& labels);
+
+}  // namespace odmiennik::app
