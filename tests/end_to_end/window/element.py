@@ -95,6 +95,13 @@ class Element:
         """Replaces the text, as a screen reader's dictation does."""
         self._accessible.queryEditableText().setTextContents(text)
 
+    def labels(self):
+        """The names of what labels it; a screen reader says them in the place of its own."""
+        return [relation.getTarget(number).name
+                for relation in self._accessible.getRelationSet()
+                if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY
+                for number in range(relation.getNTargets())]
+
     def select_all(self):
         text = self._accessible.queryText()
         text.addSelection(0, text.characterCount)

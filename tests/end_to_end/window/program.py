@@ -24,6 +24,7 @@ class Program:
 
     def __init__(self, executable, home):
         self._executable = executable
+        self.reader = None  # Orca, in scenarios that ask for it
         self.environment = {}  # what the program shall see otherwise: {"PATH": "/tmp"}
         self.folder = pathlib.Path(home, "program folder")
         self.folder.mkdir()

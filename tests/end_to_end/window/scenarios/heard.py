@@ -1,0 +1,91 @@
+"""What a blind learner hears, said by the real Orca."""
+
+import keyboard
+from program import ENTRY
+from waiting import wait_for
+
+SCREEN_READER = True
+
+FIRST_BOXES = ("Indicatif présent, je", "Subjonctif présent, je", "Conditionnel présent, je",
+               "Impératif passé, tu", "Participe passé")
+
+
+def _start(program):
+    program.start()
+    program.reader.await_said(ENTRY)
+
+
+def a_verb_is_conjugated_edited_saved_and_deleted(program):
+    reader = program.reader
+    _start(program)
+    keyboard.type_text("finir")
+    program.box(ENTRY).await_text("finir")
+    keyboard.keys("Return")
+    reader.await_said("finir: grupa druga, czasownik posiłkowy avoir")
+    keyboard.keys("Tab", "Tab")
+    reader.await_said("Participe présent")
+    keyboard.keys("ctrl+i")
+    reader.await_said("finir: grupa druga")
+    keyboard.keys("ctrl+b")
+    reader.await_said(ENTRY)
+    keyboard.keys("F2")
+    reader.await_said("Edycja czasownika finir")
+    keyboard.keys("Tab", "Tab")
+    reader.await_said("Participe présent")
+    keyboard.type_text("finix")
+    program.box("Participe présent").await_text("finix")
+    keyboard.keys("ctrl+s")
+    reader.await_said("Zapisano czasownik finir.")
+    keyboard.keys("F2")
+    reader.await_said("Koniec edycji.")
+    keyboard.keys("alt+c", "l")
+    reader.await_said("Wprowadzone przez użytkownika")
+    keyboard.keys("Tab")
+    reader.await_said("finir")
+    keyboard.keys("alt+u")
+    reader.await_said("Usunięto czasownik finir.")
+
+
+def every_tense_is_announced_with_its_mood_and_person(program):
+    _start(program)
+    for box in program.boxes():
+        assert box.labels() == [], f"{box.name!r} is labelled {box.labels()}"
+    for name in FIRST_BOXES:
+        program.box(name).focus()
+        program.reader.await_said(name)
+
+
+def the_new_caption_of_the_auxiliary_and_the_next_tip_are_said(program):
+    reader = program.reader
+    _start(program)
+    keyboard.type_text("monter")
+    program.box(ENTRY).await_text("monter")
+    keyboard.keys("Return")
+    reader.await_said("monter:", "avoir lub être")
+    program.check_box().focus()
+    reader.await_said("se conjugué avec avoir")
+    keyboard.keys("space")
+    reader.await_said("se conjugué avec être")
+    program.menu_item("Pomoc", "Porada dnia").press()
+    tip = program.dialog("Porada dnia")
+    reader.await_said("Porada dnia")
+    shown = tip.texts()
+    keyboard.keys("alt+n")
+    wait_for(lambda: tip.texts() != shown, "another tip")
+    reader.await_said(max(tip.texts(), key=len).splitlines()[0][:40])
+    keyboard.keys("Escape")
+    tip.await_end()
+
+
+def the_list_says_its_choice_and_each_verb(program):
+    _start(program)
+    keyboard.keys("alt+c", "l")
+    program.reader.await_said("Lista czasowników")
+    program.reader.await_said("Wprowadzone przez użytkownika")
+    program.reader.await_said("Nie masz jeszcze własnych czasowników.")
+    keyboard.keys("Down")
+    program.reader.await_said("a")
+    keyboard.keys("Tab")
+    program.reader.await_said("abaisser")
+    keyboard.keys("Down")
+    program.reader.await_said("abandonner")
