@@ -28,6 +28,17 @@ std::string_view encliticOf(int slot) {
   return textOf(text_id::kEnclitic + slot - slot::kImperative);
 }
 
+// Behind the pronoun, "en" and "y" may stand, before which "toi" is "t'": va-t'en, allons-nous-en.
+constexpr std::string_view kEncliticsBeforeAdverb[][2] = {
+    {"-t'en", "-t'y"}, {"-nous-en", "-nous-y"}, {"-vous-en", "-vous-y"}};
+
+std::string_view withoutEnclitic(int slot, std::string_view form) {
+  if (form.ends_with(encliticOf(slot))) return less(form, encliticOf(slot).size());
+  for (const std::string_view enclitic : kEncliticsBeforeAdverb[slot - slot::kImperative])
+    if (form.ends_with(enclitic)) return less(form, enclitic.size());
+  return form;
+}
+
 constexpr bool isPersonal(int slot) { return slot < kPersonalSlotCount; }
 constexpr bool isImperative(int slot) {
   return slot >= slot::kImperative && slot < slot::kPastImperative;
@@ -52,8 +63,10 @@ bool elides(std::string_view form, bool hAspirate) {
 }
 
 std::string_view withoutOwnReflexive(int slot, std::string_view form) {
-  if (isImperative(slot) && form.ends_with(encliticOf(slot)))
-    return less(form, encliticOf(slot).size());
+  if (isImperative(slot)) {
+    const std::string_view bare = withoutEnclitic(slot, form);
+    if (bare.size() != form.size()) return bare;
+  }
   if (hasReflexivePrefix(form)) return withoutReflexivePrefix(form);
   if (!isPersonal(slot)) return form;
   for (const bool elided : {false, true})

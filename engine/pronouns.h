@@ -29,7 +29,8 @@ void addReflexivePronouns(FormTable& forms, bool hAspirate);
 }
 
 // The form of `slot` without the reflexive pronoun that it carries, as a view of `form`:
-// (0, "me lave") -> "lave", (90, "lave-toi") -> "lave", (96, "se laver") -> "laver".
+// (0, "me lave") -> "lave", (90, "lave-toi") -> "lave", (96, "se laver") -> "laver". An "en" or "y"
+// behind the imperative's pronoun goes with it: (90, "va-t'en") -> "va".
 [[nodiscard]] std::string_view withoutOwnReflexive(int slot, std::string_view form);
 
 using SubjectPronouns = std::array<std::string_view, kPersonalSlotCount>;

@@ -148,6 +148,33 @@ TEST(ReflexivePronouns, AreNotAddedWhereTheSlotHasItsOwn) {
   EXPECT_EQ(forms[92], "lavez-vous");
 }
 
+struct Enclitics {
+  int slot;
+  const char* form;
+  const char* bare;
+};
+
+constexpr Enclitics kEnclitics[] = {{90, "va-t'en", "va"},
+                                    {90, "rends-t'y", "rends"},
+                                    {91, "allons-nous-en", "allons"},
+                                    {91, "rendons-nous-y", "rendons"},
+                                    {92, "allez-vous-en", "allez"},
+                                    {92, "rendez-vous-y", "rendez"}};
+
+TEST(ReflexivePronouns, AreNotAddedWhereEnOrYStandsBehindTheImperativesOwn) {
+  for (const auto& [slot, form, bare] : kEnclitics) {
+    FormTable forms;
+    forms[slot] = form;
+    addReflexivePronouns(forms, false);
+    EXPECT_EQ(forms[slot], form);
+  }
+}
+
+TEST(OwnReflexive, BeforeEnOrYIsTakenOffTheImperativeForDisplay) {
+  for (const auto& [slot, form, bare] : kEnclitics)
+    EXPECT_EQ(withoutOwnReflexive(slot, form), bare) << form;
+}
+
 TEST(ReflexivePronouns, AreAddedBehindThePronounOfAnotherPerson) {
   FormTable forms;
   forms[0] = "te lave";
