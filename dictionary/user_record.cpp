@@ -82,11 +82,16 @@ void readForms(std::string_view line, engine::FormTable& forms) {
     std::string_view field;
     forms[slot].assign(fields.next(field) ? field : std::string_view{});
   }
+  std::string& infinitive = forms[engine::slot::kInfinitive];
+  infinitive = engine::keptInfinitive(infinitive);
 }
 
 std::string recordLine(const UserVerbRecord& record) {
   std::string line;
-  for (const std::string& form : record.forms) appendForm(line, form);
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+    const std::string& form = record.forms[slot];
+    appendForm(line, slot == engine::slot::kInfinitive ? engine::keptInfinitive(form) : form);
+  }
   appendFlag(line, record.auxiliary);
   return line;
 }

@@ -38,11 +38,13 @@ struct RecordOutline {
   return flag == 0 ? engine::kEtre : engine::kAvoir;
 }
 
-// Puts the first 101 fields of a line into the slots; slots without a field are emptied.
+// Puts the first 101 fields of a line into the slots; slots without a field are emptied. The
+// infinitive comes as it would be kept today: "Se laver" of an older file is "se laver".
 void readForms(std::string_view line, engine::FormTable& forms);
 
 // The line of a record in the writer's format: every form trimmed and followed by a comma, a blank
-// and the flag, CR LF. A line break inside a form becomes a blank, since it would end the record.
+// and the flag, CR LF; the infinitive as it is kept (engine::keptInfinitive). A line break inside a
+// form becomes a blank, since it would end the record.
 [[nodiscard]] std::string recordLine(const UserVerbRecord& record);
 
 // Whether the record's line could be read back: not where a form begins with a double quote, which

@@ -17,6 +17,23 @@ constexpr std::string_view kVerbs = "Czasowniki.dat";
 constexpr std::string_view kPreviousVerbs = "Czas.dat";
 constexpr std::string_view kBackup = "Czasowniki.bak";
 
+// A save replaces "Aimer" by "aimer", but not "se laver" by "laver".
+auto isOfVerb(std::string_view infinitive) {
+  std::string wanted;
+  engine::normalize(infinitive, wanted);
+  return [wanted, stored = std::string()](std::string_view text) mutable {
+    engine::normalize(text, stored);
+    return stored == wanted;
+  };
+}
+
+// deliberate: a delete goes by the entry of the list, which tells "Aimer" from "aimer".
+auto isKeptAs(std::string_view infinitive) {
+  return [wanted = engine::keptInfinitive(infinitive)](std::string_view text) {
+    return engine::keptInfinitive(text) == wanted;
+  };
+}
+
 }  // namespace
 
 UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxes& messages,
@@ -25,13 +42,21 @@ UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxe
 
 fs::path UserVerbsFile::file() const { return linkedFile(fileFor(prefix_, kVerbs)); }
 
-bool UserVerbsFile::load(std::string_view key, engine::FormTable& forms, std::uint8_t& storedAux) {
+// The first record that differs by its prefix only is taken on the way, lest the file be read
+// twice.
+bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
+                         std::uint8_t& storedAux) {
+  const std::string_view key = engine::withoutReflexivePrefix(infinitive);
+  std::string stored;
   bool isFound = false;
   visitRecords(count_, [&](const UserRecordReader& records) {
-    if (engine::lookupKey(records.outline().infinitive) != key) return false;
+    engine::normalize(records.outline().infinitive, stored);
+    const bool isSame = stored == infinitive;
+    if (!isSame && (isFound || engine::withoutReflexivePrefix(stored) != key)) return false;
     readForms(records.line(), forms);
     storedAux = auxiliaryOf(records.outline().flag);
-    return isFound = true;
+    isFound = true;
+    return isSame;
   });
   return isFound;
 }
@@ -39,7 +64,7 @@ bool UserVerbsFile::load(std::string_view key, engine::FormTable& forms, std::ui
 std::vector<std::string> UserVerbsFile::infinitives() {
   std::vector<std::string> listed;
   visitRecords(kAllRecords, [&](const UserRecordReader& records) {
-    listed.emplace_back(records.outline().infinitive);
+    listed.push_back(engine::keptInfinitive(records.outline().infinitive));
     return false;
   });
   return listed;
@@ -87,13 +112,13 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
 // Complete only when the new file stands in the place of the old.
 CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record) {
   const std::string line = recordLine(record);
-  const auto infinitive = engine::trimmed(record.forms[engine::slot::kInfinitive]);
   UserVerbsRewrite rewrite(files_, file());
   CopyResult copied{.isComplete = true};
   fs::path backup;
   if (existingFile(prefix_, kVerbs)) {
     UserRecordReader records(files_.open(file()));
-    copied = rewrite.copy(records, count_, {infinitive, line});
+    copied =
+        rewrite.copy(records, count_, {isOfVerb(record.forms[engine::slot::kInfinitive]), line});
     if (copied.isComplete && records.hasMore()) backup = freeName(prefix_, kBackup);
   }
   if (copied.changed == 0) rewrite.append(line);
@@ -103,9 +128,10 @@ CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record) {
 }
 
 DeleteResult UserVerbsFile::remove(std::string_view infinitive) {
+  const auto isMeant = isKeptAs(infinitive);
   bool isFound = false;
   const bool isRead = visitRecords(kAllRecords, [&](const UserRecordReader& records) {
-    return isFound = records.outline().infinitive == infinitive;
+    return isFound = isMeant(records.outline().infinitive);
   });
   if (isRead && !isFound) return DeleteResult::notFound;
   if (!isRead || !rewriteWithout(infinitive)) {
@@ -121,7 +147,7 @@ bool UserVerbsFile::rewriteWithout(std::string_view infinitive) {
   UserVerbsRewrite rewrite(files_, file());
   {
     UserRecordReader records(files_.open(file()));
-    const CopyResult copied = rewrite.copy(records, kAllRecords, {infinitive, {}});
+    const CopyResult copied = rewrite.copy(records, kAllRecords, {isKeptAs(infinitive), {}});
     if (!copied.isComplete) return false;
   }
   if (!rewrite.content().finish()) return false;

@@ -34,20 +34,21 @@ class UserVerbsFile final : public engine::UserVerbs {
                 FileSystem& files = systemFiles());
 
   // A damaged record is passed over, but counted.
-  [[nodiscard]] bool load(std::string_view key, engine::FormTable& forms,
+  [[nodiscard]] bool load(std::string_view infinitive, engine::FormTable& forms,
                           std::uint8_t& storedAux) override;
 
-  // Replaces every record whose slot 96 is exactly `record`'s, trimmed, or appends it (and counts
-  // it). Records behind the stored number are dropped; the file as it was is then kept as
-  // Czasowniki.bak. Refused, with a message, is a record that could not be read back: one with a
-  // form that begins with a double quote.
+  // Replaces every record whose normalized slot 96, prefix included, is `record`'s, or appends it
+  // (and counts it): "Aimer" and "aimer" are one verb, "se laver" and "laver" are two. Records
+  // behind the stored number are dropped; the file as it was is then kept as Czasowniki.bak.
+  // Refused, with a message, is a record that could not be read back: one with a form that begins
+  // with a double quote.
   SaveResult save(const UserVerbRecord& record);
 
-  // Removes every record whose slot 96 is exactly `infinitive`; the count is lowered by one, and
-  // the file as it was stays behind as Czas.dat.
+  // Removes every record that is kept as `infinitive` (as infinitives() gives it); the count is
+  // lowered by one, and the file as it was stays behind as Czas.dat.
   DeleteResult remove(std::string_view infinitive);
 
-  // Slot 96 of every readable record, in file order.
+  // The infinitive of every readable record as it is kept, in file order.
   [[nodiscard]] std::vector<std::string> infinitives();
 
   // Puts back `Czas.dat` when a crash left no `Czasowniki.dat`, and removes what an interrupted

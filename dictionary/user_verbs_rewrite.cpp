@@ -12,7 +12,7 @@ CopyResult UserVerbsRewrite::copy(UserRecordReader& records, std::int64_t limit,
     if (read == RecordRead::endOfFile) break;
     if (read == RecordRead::damaged) {
       if (!copyDamaged(records, result)) return result;
-    } else if (records.outline().infinitive == change.infinitive) {
+    } else if (change.isMeant(records.outline().infinitive)) {
       ++result.changed;
       append(change.replacement);
     } else {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <string_view>
 
@@ -10,10 +11,10 @@
 
 namespace odmiennik::dictionary {
 
-// What is written in the place of every record of an infinitive; nothing removes them.
+// What is written in the place of every record that is meant; nothing removes them.
 struct RecordChange {
-  std::string_view infinitive;   // compared exactly with slot 96
-  std::string_view replacement;  // a line of the writer's
+  std::function<bool(std::string_view)> isMeant;  // asked with slot 96 as it stands in the line
+  std::string_view replacement;                   // a line of the writer's
 };
 
 struct CopyResult {

@@ -92,20 +92,20 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
     ports_.shell.resetSettings();
     return Outcome::reset;
   }
+  const std::string infinitive = flags.normalizedInput;
   takeReflexivePrefix(flags);
   const std::string_view record = ports_.index.record(flags.normalizedInput);
   applyRecord(record, flags, conjugation.information);
   if (flags.isPronominal) applyPronominal(flags, conjugation.information);
   if (chosen) keepAuxiliary(*chosen, conjugation);
-  if (loadUserVerb(conjugation, isEditing) || loadBuiltinVerb(conjugation, isEditing))
+  if (loadUserVerb(conjugation, infinitive, isEditing) || loadBuiltinVerb(conjugation, isEditing))
     return Outcome::conjugated;
   return conjugateByRule(conjugation, !record.empty(), isEditing);
 }
 
-bool Driver::loadUserVerb(Conjugation& conjugation, bool isEditing) {
+bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive, bool isEditing) {
   EngineFlags& flags = conjugation.flags;
-  if (!ports_.userVerbs.load(flags.normalizedInput, conjugation.forms, flags.storedAux))
-    return false;
+  if (!ports_.userVerbs.load(infinitive, conjugation.forms, flags.storedAux)) return false;
   flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
   flags.isImpersonal = false;
   applyStoredVerb(flags, conjugation.information);

@@ -37,7 +37,8 @@ class Driver {
   // `chosen` is the auxiliary that the user has chosen for the verb that is shown, if it is this
   // one.
   Outcome fill(Conjugation& conjugation, bool isEditing, std::optional<std::uint8_t> chosen);
-  bool loadUserVerb(Conjugation& conjugation, bool isEditing);
+  // `infinitive` has its reflexive prefix still.
+  bool loadUserVerb(Conjugation& conjugation, std::string_view infinitive, bool isEditing);
   bool loadBuiltinVerb(Conjugation& conjugation, bool isEditing);
   Outcome conjugateByRule(Conjugation& conjugation, bool isKnown, bool isEditing);
   void show(Conjugation& conjugation, bool isEditing);

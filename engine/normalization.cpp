@@ -1,6 +1,7 @@
 // Trimming, lower case and the reflexive prefix of infinitives.
 #include "engine/normalization.h"
 
+#include <algorithm>
 #include <array>
 
 #include "engine/french.h"
@@ -27,6 +28,10 @@ constexpr std::array<char, 256> kLowerCase = [] {
 
 constexpr char kTypographicApostrophe = "’"_fr[0];
 
+void readTypographicApostrophe(std::string& text) {
+  std::ranges::replace(text, kTypographicApostrophe, '\'');
+}
+
 }  // namespace
 
 std::string_view trimmed(std::string_view text) {
@@ -51,10 +56,17 @@ std::string_view withoutReflexivePrefix(std::string_view text) {
 
 void normalize(std::string_view text, std::string& out) {
   out.assign(trimmed(text));
-  for (char& letter : out) {
-    letter = kLowerCase[static_cast<unsigned char>(letter)];
-    if (letter == kTypographicApostrophe) letter = '\'';
-  }
+  lowerCase(out);
+  readTypographicApostrophe(out);
+}
+
+std::string keptInfinitive(std::string_view text) {
+  std::string kept(trimmed(text));
+  readTypographicApostrophe(kept);
+  std::string lower = kept;
+  lowerCase(lower);
+  const std::size_t prefix = lower.size() - withoutReflexivePrefix(lower).size();
+  return kept.replace(0, prefix, lower, 0, prefix);
 }
 
 std::string lookupKey(std::string_view infinitive) {

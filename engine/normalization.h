@@ -23,6 +23,10 @@ void lowerCase(std::string& text);
 // "  S’Asseoir " -> "s'asseoir".
 void normalize(std::string_view text, std::string& out);
 
+// An infinitive as it is kept: trimmed, the typographic apostrophe as "'", a reflexive prefix in
+// lower case, whatever else it holds as it is: " S’Habiller " -> "s'Habiller".
+[[nodiscard]] std::string keptInfinitive(std::string_view text);
+
 // The key under which a stored infinitive is found: normalized and without its reflexive prefix.
 [[nodiscard]] std::string lookupKey(std::string_view infinitive);
 

@@ -20,8 +20,11 @@ class VerbIndex {
 class UserVerbs {
  public:
   virtual ~UserVerbs() = default;
-  // Loads the first record whose key is `key`; false leaves nothing promised about `forms`.
-  [[nodiscard]] virtual bool load(std::string_view key, FormTable& forms,
+  // Loads the first record saved under just this infinitive (normalized, its reflexive prefix
+  // included); where there is none, the first whose infinitive differs by the prefix only: with
+  // "se laver" and "laver" saved each is found, with one of them both words find it. False leaves
+  // nothing promised about `forms`.
+  [[nodiscard]] virtual bool load(std::string_view infinitive, FormTable& forms,
                                   std::uint8_t& storedAux) = 0;
 };
 

@@ -78,13 +78,15 @@ std::string_view TestProgram::Index::record(std::string_view infinitive) {
   return found == told.end() ? general.record(infinitive) : std::string_view(found->second);
 }
 
-bool TestProgram::UserVerbs::load(std::string_view key, engine::FormTable& forms,
+bool TestProgram::UserVerbs::load(std::string_view infinitive, engine::FormTable& forms,
                                   std::uint8_t& storedAux) {
   for (const UserRecord& record : records) {
     forms.clear();
     for (const auto& [number, text] : record.slots) forms[number] = french(text);
     storedAux = record.auxiliary;
-    if (engine::lookupKey(forms[engine::slot::kInfinitive]) == key) return true;
+    if (engine::lookupKey(forms[engine::slot::kInfinitive]) ==
+        engine::withoutReflexivePrefix(infinitive))
+      return true;
   }
   return false;
 }

@@ -71,7 +71,8 @@ class TestProgram {
     int questions = 0;
   };
   struct UserVerbs final : engine::UserVerbs {
-    bool load(std::string_view key, engine::FormTable& forms, std::uint8_t& storedAux) override;
+    bool load(std::string_view infinitive, engine::FormTable& forms,
+              std::uint8_t& storedAux) override;
     std::vector<UserRecord> records;
   };
   struct BuiltinVerbs final : engine::BuiltinVerbs {

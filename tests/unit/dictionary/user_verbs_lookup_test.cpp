@@ -62,6 +62,30 @@ TEST_F(UserVerbsLookUp, ComparesTrimmedLowerCasedAndWithoutReflexivePrefix) {
   EXPECT_EQ(forms_[96], french("s'Écrier"));
 }
 
+TEST_F(UserVerbsLookUp, TakesTheRecordOfJustWhatWasTypedBeforeOneWithAnotherPrefix) {
+  writeVerbs(lineOf("se laver", {{0, "me lave"}}) + lineOf("Laver", {{0, "lave"}}));
+  EXPECT_TRUE(load(2, "laver"));
+  EXPECT_EQ(forms_[0], "lave");
+  EXPECT_TRUE(load(2, "se laver"));
+  EXPECT_EQ(forms_[0], "me lave");
+}
+
+TEST_F(UserVerbsLookUp, TakesTheFirstRecordThatMatchesWithoutPrefixWhenThereIsNoOther) {
+  writeVerbs(lineOf("aimer") + lineOf("se laver", {{0, "un"}}) + lineOf("se laver", {{0, "deux"}}));
+  EXPECT_TRUE(load(3, "laver"));
+  EXPECT_EQ(forms_[0], "un");
+}
+
+TEST_F(UserVerbsLookUp, ReadsAReflexivePrefixHoweverItWasTyped) {
+  writeVerbs(linesOf({"Se zyzer", "S’habiller"}));
+  EXPECT_TRUE(load(2, "se zyzer"));
+  EXPECT_EQ(forms_[96], "se zyzer");
+  EXPECT_TRUE(load(2, "s'habiller"));
+  EXPECT_EQ(forms_[96], "s'habiller");
+  UserVerbsFile verbs(folder_.prefix(), 2, messages_);
+  EXPECT_EQ(verbs.infinitives(), (Texts{"se zyzer", "s'habiller"}));
+}
+
 TEST_F(UserVerbsLookUp, ReadsNoMoreRecordsThanAreCounted) {
   writeVerbs(linesOf({"aimer", "finir", "rendre"}));
   EXPECT_TRUE(load(2, "finir"));

@@ -69,12 +69,38 @@ TEST_F(UserVerbsSave, ReplacesEveryRecordOfTheVerb) {
   EXPECT_EQ(verbs(), aimer + lineOf("finir") + aimer);
 }
 
-TEST_F(UserVerbsSave, ComparesTheTrimmedInfinitiveExactly) {
+TEST_F(UserVerbsSave, TakesInfinitivesThatDifferByCapitalsForOneVerb) {
   writeVerbs(linesOf({"Aimer", "se laver"}));
   EXPECT_EQ(open(2).save(verb(" Aimer ")), SaveResult::replaced);
-  EXPECT_EQ(open(2).save(verb("aimer")), SaveResult::appended);
-  EXPECT_EQ(open(3).save(verb("laver")), SaveResult::appended);
-  EXPECT_EQ(verbs(), linesOf({"Aimer", "se laver", "aimer", "laver"}));
+  EXPECT_EQ(open(2).save(verb("aimer")), SaveResult::replaced);
+  EXPECT_EQ(verbs(), linesOf({"aimer", "se laver"}));
+}
+
+TEST_F(UserVerbsSave, TakesAVerbWithAndWithoutPrefixForTwo) {
+  writeVerbs(linesOf({"se laver"}));
+  EXPECT_EQ(open(1).save(verb("laver")), SaveResult::appended);
+  EXPECT_EQ(verbs(), linesOf({"se laver", "laver"}));
+}
+
+// Written byte by byte, since the writer itself is what is tested.
+std::string lineWith(std::string_view infinitive) {
+  return std::string(96, ',') + french(infinitive) + std::string(5, ',') + " 1\r\n";
+}
+
+TEST_F(UserVerbsSave, WritesAReflexivePrefixInLowerCaseAndItsApostropheAsTheStraightOne) {
+  UserVerbsFile verbs = open(0);
+  verbs.save(verb(" Se zyzer "));
+  verbs.save(verb("S’Habiller"));
+  EXPECT_EQ(this->verbs(), lineWith("se zyzer") + lineWith("s'Habiller"));
+}
+
+TEST_F(UserVerbsSave, HoweverThePrefixIsTypedThereIsOneRecord) {
+  writeVerbs(lineWith("Se zyzer"));
+  UserVerbsFile verbs = open(1);
+  for (const char* typed : {"se zyzer", "SE zyzer", "Se Zyzer", "se zyzer"})
+    EXPECT_EQ(verbs.save(verb(typed)), SaveResult::replaced) << typed;
+  EXPECT_EQ(this->verbs(), lineWith("se zyzer"));
+  EXPECT_EQ(verbs.count(), 1);
 }
 
 TEST_F(UserVerbsSave, WritesCopiedRecordsInTheWritersFormat) {
