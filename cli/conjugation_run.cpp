@@ -1,6 +1,9 @@
 // One run over all verbs asked for.
 #include "cli/conjugation_run.h"
 
+#include "dictionary/spelling.h"
+#include "engine/windows1252.h"
+
 namespace odmiennik::cli {
 namespace {
 
@@ -82,6 +85,14 @@ void ConjugationRun::answer(const InputLine& line, std::string_view lineName) {
                       faultSentence(question));
   for (const std::string& message : answered.messages)
     console_.complain(nameOf(question.infinitive), message);
+  if (answered.isRefused) suggestSpelling(question);
+}
+
+// The window's message stays word for word; only the command adds what may have been meant.
+void ConjugationRun::suggestSpelling(const Question& question) {
+  const std::string meant = dictionary::otherSpelling(question.infinitive);
+  if (meant.empty()) return;
+  console_.complain(nameOf(question.infinitive), "Czy chodziło o „" + engine::toUtf8(meant) + "”?");
 }
 
 }  // namespace odmiennik::cli

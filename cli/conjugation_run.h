@@ -24,6 +24,7 @@ class ConjugationRun {
   void answerArguments();
   void answerInput();
   void answer(const InputLine& line, std::string_view lineName);
+  void suggestSpelling(const Question& question);
 
   const Options& options_;
   Console& console_;

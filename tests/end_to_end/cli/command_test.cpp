@@ -53,6 +53,21 @@ TEST(command, a_refused_verb_gives_one_and_its_message) {
   EXPECT_TRUE(holds(result.out, "══ parler ═"));
 }
 
+TEST(command, a_refused_verb_known_under_another_spelling_is_asked_about) {
+  const std::string refused =
+      "Podany czasownik nie został znaleziony i nie było możliwe odmienienie go regularnie.\n";
+  const std::pair<const char*, const char*> spellings[] = {{"etre", "être"},
+                                                           {"connaitre", "connaître"},
+                                                           {"paraitre", "paraître"},
+                                                           {"s'assoir", "s'asseoir"}};
+  for (const auto& [typed, meant] : spellings) {
+    const std::string subject = std::string("odmien: „") + typed + "”: ";
+    const Result result = run({typed});
+    EXPECT_EQ(result.exitCode, 1) << typed;
+    EXPECT_EQ(result.err, subject + refused + subject + "Czy chodziło o „" + meant + "”?\n");
+  }
+}
+
 TEST(command, an_unknown_verb_that_a_rule_conjugates_gives_zero_and_its_message) {
   const Result result = run({"blabler"});
   EXPECT_EQ(result.exitCode, 0);
