@@ -16,6 +16,11 @@ QString fromFrench(std::string_view bytes) {
 
 bool isFrenchLetter(QChar letter) { return engine::byteOfCodePoint(letter.unicode()).has_value(); }
 
+QString captionOf(std::string_view utf8) {
+  const QString mark = QStringLiteral("[*]");
+  return fromUtf8(utf8).replace(mark, mark + mark);
+}
+
 std::string toFrench(const QString& text) {
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(text.size()));

@@ -39,7 +39,7 @@ void EditedWindow::present(const dictionary::EditPresentation& presentation) {
   edit.setProperty(kTagProperty, presentation.isEditing ? QStringLiteral("edit") : QString());
   edit.setText(fromUtf8(presentation.menuCaption));
   item("mnuPlikZapiszCzasownik").setEnabled(presentation.isEditing);
-  window_.setWindowTitle(fromUtf8(presentation.windowCaption));
+  window_.setWindowTitle(captionOf(presentation.windowCaption));
 }
 
 QString EditedWindow::spokenState(bool isEditing) const {

@@ -66,7 +66,7 @@ bool Editing::newVerb() {
 void Editing::boxChanged() {
   const std::string infinitive = mode_.isEditing() ? edited_.entryText() : std::string();
   if (mode_.boxChanged(infinitive))
-    window_.setWindowTitle(fromUtf8(mode_.presentation().windowCaption));
+    window_.setWindowTitle(captionOf(mode_.presentation().windowCaption));
 }
 
 }  // namespace odmiennik::app

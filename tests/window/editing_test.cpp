@@ -1,4 +1,6 @@
 // Editing a verb in its boxes: entering and leaving edit mode.
+#include <QWindow>
+
 #include "tests/window/edited_program.h"
 #include "tests/window/suites.h"
 
@@ -22,6 +24,7 @@ class EditingSuite : public QObject {
   void enteringShowsMarkerCaptionsAndTheStartingPoint();
   void aMissingFormIsAnEmptyBoxWhileEditing();
   void theCaptionFollowsTheInfinitive();
+  void theCaptionShowsWhatQtKeepsForItself();
   void leavingRestoresMarkerAndCaptions();
   void editAgainLeavesEditMode();
   void conjugatingUnchangedFormsAsksNothing();
@@ -73,6 +76,12 @@ void EditingSuite::theCaptionFollowsTheInfinitive() {
   program_->edit("parler");
   program_->entry().setText("être");
   QCOMPARE(program_->window.windowTitle(), "Odmiennik - edycja \"être\"");
+}
+
+void EditingSuite::theCaptionShowsWhatQtKeepsForItself() {
+  program_->edit("parler");
+  program_->entry().setText("[*]par[*][*]ler");
+  QCOMPARE(program_->window.windowHandle()->title().section('"', 1, 1), "[*]par[*][*]ler");
 }
 
 void EditingSuite::leavingRestoresMarkerAndCaptions() {
