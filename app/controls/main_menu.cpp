@@ -3,6 +3,7 @@
 
 #include <QKeySequence>
 #include <QMenu>
+#include <QShortcut>
 
 #include "app/common/text.h"
 #include "app/controls/menu_table.h"
@@ -26,6 +27,13 @@ void addItem(QMenu& menu, const MenuRow& row) {
   menu.addAction(action);
 }
 
+// Alt alone leads to the menu everywhere; F10 does on systems whose own windows have it.
+void openWithKey(QMenuBar& bar) {
+  auto* key = new QShortcut(QKeySequence(Qt::Key_F10), &bar);
+  QObject::connect(key, &QShortcut::activated, &bar,
+                   [&bar] { bar.setActiveAction(bar.actions().constFirst()); });
+}
+
 }  // namespace
 
 void buildMainMenu(QMenuBar& bar) {
@@ -36,6 +44,7 @@ void buildMainMenu(QMenuBar& bar) {
     else
       addItem(*menu, row);
   }
+  openWithKey(bar);
 }
 
 QAction& menuItem(const QMenuBar& bar, std::string_view name) {

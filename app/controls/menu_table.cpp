@@ -21,6 +21,8 @@ constexpr MenuRow kRows[] = {
     {menu, "mnuEdycja", "&Edycja", ready},
     {item, "mnuEdycjaTablica", "&Tablica znaków"},
     {separator, "mnuEdycjaLinia3", ""},
+    {item, "mnuEdycjaCofnij", "&Cofnij", unavailable, "Ctrl+Z"},
+    {separator, "mnuEdycjaLinia6", ""},
     {item, "mnuEdycjaWytnij", "&Wytnij", unavailable, "Ctrl+X"},
     {item, "mnuEdycjaKopiuj", "&Kopiuj", unavailable, "Ctrl+C"},
     {item, "mnuEdycjaWklej", "Wkl&ej", unavailable, "Ctrl+V"},
@@ -29,7 +31,7 @@ constexpr MenuRow kRows[] = {
     {item, "mnuEdycjaZaznaczWszystko", "&Zaznacz wszystko", unavailable, "Ctrl+A"},
 
     {menu, "mnuCzasownik", "&Czasownik", ready},
-    {item, "mnuEdycjaLista", "&Lista", ready},
+    {item, "mnuEdycjaLista", "&Lista", ready, "Ctrl+L"},
     {separator, "mnuEdycjaLinia4", ""},
     {item, "mnuEdycjaOdmień", "&Odmień", ready, "Ctrl+O"},
     {item, "mnuEdycjaNowyCzasownik", "&Nowy", ready, "Ctrl+N"},
@@ -47,7 +49,7 @@ constexpr MenuRow kRows[] = {
     {item, "mnuWidokKolory", "&Kolory", ready},
 
     {menu, "mnuPomoc", "Pomo&c", ready},
-    {item, "mnuPomocTematy", "&Tematy pomocy", ready},
+    {item, "mnuPomocTematy", "&Tematy pomocy", ready, "F1"},
     {item, "mnuPomocPoradaDnia", "&Porada dnia", ready},
     {item, "mnuPomocJak", "Jak odmienić czasownik?", ready},
     {separator, "mnuPomocLinia1", ""},

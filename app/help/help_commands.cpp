@@ -2,19 +2,43 @@
 #include "app/help/help_commands.h"
 
 #include <QApplication>
-#include <QShortcut>
+#include <QEvent>
 
 #include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
 
 namespace odmiennik::app {
+namespace {
+
+// The key of a menu item that does more than the item when it is chosen.
+class ItemKey final : public QObject {
+ public:
+  ItemKey(QAction& item, std::function<void()> pressed)
+      : QObject(&item), pressed_(std::move(pressed)) {
+    item.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* /*item*/, QEvent* event) override {
+    if (event->type() != QEvent::Shortcut) return false;
+    pressed_();
+    return true;
+  }
+
+ private:
+  std::function<void()> pressed_;
+};
+
+}  // namespace
 
 HelpCommands::HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages,
                            std::function<Usage()> usage)
     : help_(window), headings_(window.controls(), help_, nullptr) {
+  QAction& topics = menuItem(*window.menuBar(), "mnuPomocTematy");
+  topics.setShortcutContext(Qt::ApplicationShortcut);  // beside the main window too
+  new ItemKey(topics, [this, &window] { openForFocus(window); });
   QObject::connect(
-      &menuItem(*window.menuBar(), "mnuPomocTematy"), &QAction::triggered, &help_,
-      [this] { help_.open(kWelcomePage); }, Qt::QueuedConnection);
+      &topics, &QAction::triggered, &help_, [this] { help_.open(kWelcomePage); },
+      Qt::QueuedConnection);
   QObject::connect(
       &menuItem(*window.menuBar(), "mnuPomocOProgramie"), &QAction::triggered, &help_,
       [&window, &messages, usage = std::move(usage)] {
@@ -23,9 +47,6 @@ HelpCommands::HelpCommands(MainWindow& window, dictionary::MessageBoxes& message
         about->open();
       },
       Qt::QueuedConnection);
-  auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &window);
-  key->setContext(Qt::ApplicationShortcut);  // beside the main window too
-  QObject::connect(key, &QShortcut::activated, &help_, [this, &window] { openForFocus(window); });
 }
 
 void HelpCommands::openForFocus(const MainWindow& window) {

@@ -11,7 +11,8 @@ EditAvailability editAvailability(const ActiveControl& control, bool isTextOnCli
           .canCopy = isSelected,
           .canPaste = isTextOnClipboard && !control.isReadOnly,
           .canDelete = isRemovable,
-          .canSelectAll = control.selectionLength < control.textLength};
+          .canSelectAll = control.selectionLength < control.textLength,
+          .canUndo = control.hasHistory && !control.isReadOnly};
 }
 
 }  // namespace odmiennik::app

@@ -12,6 +12,7 @@ struct ActiveControl {
   bool isReadOnly = false;
   std::size_t selectionLength = 0;
   std::size_t textLength = 0;
+  bool hasHistory = false;  // something has been typed that can be taken back
 };
 
 struct EditAvailability {
@@ -20,6 +21,7 @@ struct EditAvailability {
   bool canPaste = false;
   bool canDelete = false;
   bool canSelectAll = false;
+  bool canUndo = false;
 
   bool operator==(const EditAvailability&) const = default;
 };

@@ -16,7 +16,8 @@ struct Item {
   std::string_view name;
   bool EditAvailability::*isAvailable;
 };
-constexpr Item kItems[] = {{"mnuEdycjaWytnij", &EditAvailability::canCut},
+constexpr Item kItems[] = {{"mnuEdycjaCofnij", &EditAvailability::canUndo},
+                           {"mnuEdycjaWytnij", &EditAvailability::canCut},
                            {"mnuEdycjaKopiuj", &EditAvailability::canCopy},
                            {"mnuEdycjaWklej", &EditAvailability::canPaste},
                            {"mnuEdycjaUsuń", &EditAvailability::canDelete},
@@ -32,6 +33,7 @@ bool isTextOnClipboard() {
 
 EditMenu::EditMenu(QMainWindow& window, const FormBoxes& boxes)
     : window_(window), menu_(*window.menuBar()->findChild<QMenu*>(QStringLiteral("mnuEdycja"))) {
+  connectItem("mnuEdycjaCofnij", &EditAvailability::canUndo, [](QLineEdit& box) { box.undo(); });
   connectItem("mnuEdycjaWytnij", &EditAvailability::canCut, [](QLineEdit& box) { box.cut(); });
   connectItem("mnuEdycjaKopiuj", &EditAvailability::canCopy, [](QLineEdit& box) { box.copy(); });
   connectItem("mnuEdycjaWklej", &EditAvailability::canPaste, [](QLineEdit& box) { box.paste(); });
@@ -67,7 +69,22 @@ void EditMenu::followBoxes(const FormBoxes& boxes) {
     connect(&box, &QLineEdit::selectionChanged, this, follow);
     connect(&box, &QLineEdit::textChanged, this, follow);
     connect(&box, &FormBox::lockChanged, this, follow);
+    box.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&box, &QWidget::customContextMenuRequested, this,
+            [this, &box](QPoint at) { showContextMenu(box, box.mapToGlobal(at)); });
   }
+}
+
+// The menu's own items, so that both menus say and allow the same.
+void EditMenu::showContextMenu(QLineEdit& box, QPoint onScreen) {
+  active_ = &box;
+  clipboardChanged();
+  auto* context = new QMenu(&box);
+  context->setAttribute(Qt::WA_DeleteOnClose);
+  const QList<QAction*> actions = menu_.actions();
+  const qsizetype first = actions.indexOf(&menuItem(*window_.menuBar(), kItems[0].name));
+  context->addActions(actions.sliced(first));
+  context->popup(onScreen);
 }
 
 // While a menu is open the control that had the focus before is the active one.
@@ -91,6 +108,7 @@ EditAvailability EditMenu::availability() const {
     control.isReadOnly = box->isReadOnly();
     control.selectionLength = static_cast<std::size_t>(box->selectedText().size());
     control.textLength = static_cast<std::size_t>(box->text().size());
+    control.hasHistory = box->isUndoAvailable();
   }
   return editAvailability(control, isTextOnClipboard_);
 }

@@ -1,4 +1,5 @@
-// The edit commands of the menu, on whichever control has the focus.
+// The edit commands of the menu and of the boxes' context menus, on whichever control has the
+// focus.
 #pragma once
 
 #include <QMainWindow>
@@ -30,6 +31,7 @@ class EditMenu final : public QObject {
 
   void connectItem(std::string_view name, bool EditAvailability::*isAvailable, Command command);
   void followBoxes(const FormBoxes& boxes);
+  void showContextMenu(QLineEdit& box, QPoint onScreen);
   void focusChanged(QWidget* now);
   void clipboardChanged();
   [[nodiscard]] EditAvailability availability() const;

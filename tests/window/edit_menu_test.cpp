@@ -34,20 +34,34 @@ class EditMenuSuite : public QObject {
   void aLockedBoxIsCopiedWithItsKeys();
   void theMenuOpenedWithTheKeyboardKeepsTheSelection();
   void theCharacterMapIsNeverTouched();
+  void whatWasTypedIsTakenBack();
+  void nothingIsTakenBackFromALockedBox();
+  void whatTheProgramWroteIsNotTakenBack();
+  void theContextMenuSaysAndAllowsWhatTheMenuDoes();
+  void theContextMenuWorksOnItsBox();
 
  private:
   // The letters of the items that are enabled once the menu has been opened.
   [[nodiscard]] QString available() const {
     emit program_->widget<QMenu>("mnuEdycja").aboutToShow();
     QString letters;
-    for (const char* name : {"mnuEdycjaWytnij", "mnuEdycjaKopiuj", "mnuEdycjaWklej",
-                             "mnuEdycjaUsuń", "mnuEdycjaZaznaczWszystko"})
+    for (const char* name : {"mnuEdycjaCofnij", "mnuEdycjaWytnij", "mnuEdycjaKopiuj",
+                             "mnuEdycjaWklej", "mnuEdycjaUsuń", "mnuEdycjaZaznaczWszystko"})
       letters += program_->item(name).isEnabled() ? program_->item(name).text() + " " : QString();
     return letters.remove('&').trimmed();
   }
   void select(const QString& text, int start, int length) const {
     program_->entry().setText(text);
     program_->entry().setSelection(start, length);
+  }
+  // The context menu of a box, opened as its key does.
+  [[nodiscard]] static QMenu& contextMenu(app::FormBox& box) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(4, 4),
+                            box.mapToGlobal(QPoint(4, 4)));
+    QCoreApplication::sendEvent(&box, &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) qFatal("no context menu has opened");
+    return *menu;
   }
   void lockedBox(int slot) const {
     program_->conjugate("parler");
@@ -178,6 +192,71 @@ void EditMenuSuite::theCharacterMapIsNeverTouched() {
   program_->widget<QPushButton>("cmdOdmień").setFocus();
   QCOMPARE(available(), "");
   QCOMPARE(program_->item("mnuEdycjaTablica").isEnabled(), isEnabled);
+}
+
+void EditMenuSuite::whatWasTypedIsTakenBack() {
+  program_->conjugate("parler");
+  program_->item("mnuEdycjaEdytujCzasownik").trigger();
+  QTRY_VERIFY(!program_->box(0).isReadOnly());
+  program_->box(0).setFocus();
+  program_->box(0).end(false);
+  QCOMPARE(available(), "Wklej Zaznacz wszystko");
+  QTest::keyClicks(&program_->box(0), "x");
+  QCOMPARE(available(), "Cofnij Wklej Zaznacz wszystko");
+  program_->item("mnuEdycjaCofnij").trigger();
+  QCOMPARE(program_->form(0), "parle");
+  QVERIFY(!program_->item("mnuEdycjaCofnij").isEnabled());
+  QTest::keyClicks(&program_->box(0), "y");
+  QTest::keyClick(&program_->box(0), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(program_->form(0), "parle");
+}
+
+void EditMenuSuite::nothingIsTakenBackFromALockedBox() {
+  lockedBox(0);
+  QVERIFY(!available().contains("Cofnij"));
+  QTest::keyClick(&program_->box(0), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(program_->form(0), "parle");
+  QVERIFY(program_->messages.shown.empty());
+}
+
+// The forms of another verb are no step of the user's.
+void EditMenuSuite::whatTheProgramWroteIsNotTakenBack() {
+  program_->conjugate("parler");
+  program_->item("mnuEdycjaEdytujCzasownik").trigger();
+  QTRY_VERIFY(!program_->box(0).isReadOnly());
+  program_->box(0).setFocus();
+  QTest::keyClicks(&program_->box(0), "x");
+  program_->messages.answer = dictionary::Button::no;
+  QVERIFY(program_->program.editing().conjugate("finir"));
+  program_->item("mnuEdycjaEdytujCzasownik").trigger();
+  QTRY_VERIFY(!program_->box(0).isReadOnly());
+  program_->box(0).setFocus();
+  QTest::keyClick(&program_->box(0), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(program_->form(0), "finis");
+}
+
+void EditMenuSuite::theContextMenuSaysAndAllowsWhatTheMenuDoes() {
+  lockedBox(0);
+  QMenu& context = contextMenu(program_->box(0));
+  QStringList captions, allowed;
+  for (const QAction* action : context.actions()) {
+    if (action->isSeparator()) continue;
+    captions += action->text().remove('&');
+    if (action->isEnabled()) allowed += captions.back();
+  }
+  context.close();
+  QCOMPARE(captions,
+           (QStringList{"Cofnij", "Wytnij", "Kopiuj", "Wklej", "Usuń", "Zaznacz wszystko"}));
+  QCOMPARE(allowed.join(' '), available());
+}
+
+void EditMenuSuite::theContextMenuWorksOnItsBox() {
+  select("parler", 1, 3);
+  QMenu& context = contextMenu(program_->entry());
+  QTest::keyClick(&context, Qt::Key_K);
+  QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+  QCOMPARE(QGuiApplication::clipboard()->text(), "arl");
+  QCOMPARE(program_->entry().selectedText(), "arl");
 }
 
 std::unique_ptr<QObject> editMenuSuite() { return std::make_unique<EditMenuSuite>(); }

@@ -28,6 +28,10 @@ class MenuSuite : public QObject {
   void theTreeHasItsNamesAndCaptionsInOrder();
   void everyItemHasANameOfItsOwn();
   void whatCannotBeDoneAtTheStartIsDisabled();
+  void theMenuTellsTheKeysOfItsItems_data();
+  void theMenuTellsTheKeysOfItsItems();
+  void ctrlLOpensTheList();
+  void f10OpensTheFirstMenu();
   void koniecClosesTheWindow();
   void wyszukajIsInert();
   void withoutACharacterMapItsItemIsDisabled();
@@ -50,6 +54,8 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
   QTest::newRow("mnuEdycja") << "&Edycja"
                              << QStringList{"mnuEdycjaTablica &Tablica znaków",
                                             "mnuEdycjaLinia3 -",
+                                            "mnuEdycjaCofnij &Cofnij",
+                                            "mnuEdycjaLinia6 -",
                                             "mnuEdycjaWytnij &Wytnij",
                                             "mnuEdycjaKopiuj &Kopiuj",
                                             "mnuEdycjaWklej Wkl&ej",
@@ -110,8 +116,49 @@ void MenuSuite::whatCannotBeDoneAtTheStartIsDisabled() {
       if (!action->isEnabled()) disabled += action->objectName();
   disabled.removeAll("mnuEdycjaTablica");  // as the system has one
   disabled.removeAll("mnuEdycjaWklej");    // as the clipboard allows
-  const QStringList expected{"mnuPlikZapiszCzasownik", "mnuEdycjaZaznaczWszystko"};
+  const QStringList expected{"mnuPlikZapiszCzasownik", "mnuEdycjaCofnij",
+                             "mnuEdycjaZaznaczWszystko"};
   QCOMPARE(disabled, expected);
+}
+
+void MenuSuite::theMenuTellsTheKeysOfItsItems_data() {
+  QTest::addColumn<QString>("item");
+  QTest::addColumn<QString>("key");
+  QTest::newRow("list") << "mnuEdycjaLista"
+                        << "Ctrl+L";
+  QTest::newRow("help") << "mnuPomocTematy"
+                        << "F1";
+  QTest::newRow("undo") << "mnuEdycjaCofnij"
+                        << "Ctrl+Z";
+}
+
+void MenuSuite::theMenuTellsTheKeysOfItsItems() {
+  QFETCH(QString, item);
+  const QAction& action = program_->item(item.toUtf8().constData());
+  QTEST(action.shortcut().toString(), "key");
+  QVERIFY(action.isShortcutVisibleInContextMenu());
+}
+
+void MenuSuite::ctrlLOpensTheList() {
+  QTest::keyClick(&program_->entry(), Qt::Key_L, Qt::ControlModifier);
+  QTRY_VERIFY(program_->window.findChild<QDialog*>("frmLista") != nullptr);
+  QVERIFY(program_->widget<QDialog>("frmLista").isVisible());
+}
+
+// From a locked box, without the hint that other keys are answered with; Escape leads back.
+void MenuSuite::f10OpensTheFirstMenu() {
+  program_->conjugate("parler");
+  program_->box(3).setFocus();
+  QTest::keyClick(&program_->box(3), Qt::Key_F10);
+  auto& menu = program_->widget<QMenu>("mnuPlik");
+  QTRY_COMPARE(QApplication::activePopupWidget(), &menu);
+  QTest::keyClick(&menu, Qt::Key_Down);
+  QVERIFY(menu.activeAction() != nullptr);
+  QTest::keyClick(&menu, Qt::Key_Escape);
+  QTRY_VERIFY(!menu.isVisible());
+  QCoreApplication::processEvents();
+  QCOMPARE(QApplication::focusWidget(), &program_->box(3));
+  QVERIFY(program_->messages.shown.empty());
 }
 
 void MenuSuite::koniecClosesTheWindow() {

@@ -26,7 +26,7 @@ TEST(edit_commands, in_a_locked_box_with_a_selection_are_copy_and_select_all) {
 
 TEST(edit_commands, in_the_entry_box_with_a_selection_are_all) {
   EXPECT_EQ(editAvailability(box(false, 2, 5), kText),
-            (EditAvailability{true, true, true, true, true}));
+            (EditAvailability{true, true, true, true, true, false}));
 }
 
 TEST(edit_commands, without_a_selection_are_paste_and_select_all) {
@@ -37,6 +37,16 @@ TEST(edit_commands, without_a_selection_are_paste_and_select_all) {
 TEST(edit_commands, do_not_select_all_where_all_is_selected_or_nothing_is_written) {
   EXPECT_FALSE(editAvailability(box(false, 5, 5), kText).canSelectAll);
   EXPECT_FALSE(editAvailability(box(false, 0, 0), kText).canSelectAll);
+}
+
+TEST(edit_commands, take_back_what_was_typed_into_an_unlocked_box) {
+  ActiveControl typed = box(false, 0, 5);
+  EXPECT_FALSE(editAvailability(typed, kNoText).canUndo);
+  typed.hasHistory = true;
+  EXPECT_TRUE(editAvailability(typed, kNoText).canUndo);
+  typed.isReadOnly = true;
+  EXPECT_FALSE(editAvailability(typed, kNoText).canUndo);
+  EXPECT_FALSE(editAvailability({"cmdOdmień", false, 0, 5, true}, kNoText).canUndo);
 }
 
 TEST(edit_commands, paste_nowhere_without_a_text_on_the_clipboard) {
