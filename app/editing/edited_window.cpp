@@ -9,11 +9,24 @@
 #include "dictionary/saving.h"
 
 namespace odmiennik::app {
+namespace {
+
+// The first of an item's keys stands in the menu: while a verb is edited it tells the way out.
+void offerEscape(QAction& item, bool isOffered) {
+  QList<QKeySequence> keys = item.shortcuts();
+  keys.removeAll(Qt::Key_Escape);
+  if (isOffered) keys.prepend(Qt::Key_Escape);
+  item.setShortcuts(keys);
+}
+
+}  // namespace
 
 EditedWindow::EditedWindow(MainWindow& window, WindowPointer& pointer,
                            dictionary::UserVerbsFile& userVerbs)
     : window_(window), pointer_(pointer), userVerbs_(userVerbs) {
-  item("mnuEdycjaEdytujCzasownik").setProperty(kTagProperty, QString());
+  QAction& edit = item("mnuEdycjaEdytujCzasownik");
+  edit.setProperty(kTagProperty, QString());
+  edit.setAutoRepeat(false);  // a key that is held down enters or leaves edit mode once
   item("mnuPlikZapiszCzasownik").setEnabled(false);
 }
 
@@ -38,6 +51,7 @@ void EditedWindow::present(const dictionary::EditPresentation& presentation) {
   if (presentation.isEditing != wasEditing) announce(spokenState(presentation.isEditing));
   edit.setProperty(kTagProperty, presentation.isEditing ? QStringLiteral("edit") : QString());
   edit.setText(fromUtf8(presentation.menuCaption));
+  offerEscape(edit, presentation.isEditing);
   item("mnuPlikZapiszCzasownik").setEnabled(presentation.isEditing);
   window_.setWindowTitle(captionOf(presentation.windowCaption));
 }

@@ -34,7 +34,6 @@ void Editing::connectCommands() {
   };
   const auto conjugates = [this] { conjugate(); };
   runs("mnuEdycjaOdmień", conjugates);
-  runs("mnuEdycjaEdytujCzasownik", [this] { edit(); });
   runs("mnuEdycjaNowyCzasownik", [this] { newVerb(); });
   runs("mnuPlikZapiszCzasownik", [this] { save(); });
   connect(&window_.boxes().entry(), &QLineEdit::returnPressed, this, conjugates,
@@ -42,6 +41,16 @@ void Editing::connectCommands() {
   connect(&window_.controls().get<QPushButton>(positionOf("cmdOdmień")), &QPushButton::clicked,
           this, conjugates, Qt::QueuedConnection);
 }
+  connect(&menuItem(*window_.menuBar(), "mnuEdycjaEdytujCzasownik"), &QAction::triggered, this,
+          &Editing::enterOrLeave);
+}
+
+// Whoever asks to leave edit mode twice, before the first command has run, does not enter it again.
+void Editing::enterOrLeave() {
+  const auto editUnlessDone = [this, wasEditing = isEditing()] {
+    if (wasEditing == isEditing()) edit();
+  };
+  QMetaObject::invokeMethod(this, editUnlessDone, Qt::QueuedConnection);
 
 // A second command while the first one's message is on the screen does nothing.
 bool Editing::run(EditCommand command) {

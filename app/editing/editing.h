@@ -46,6 +46,7 @@ class Editing final : public QObject, public dictionary::MainCommands {
   bool run(dictionary::EditCommand command);
   void boxChanged();
 
+  void enterOrLeave();
   MainWindow& window_;
   EditedWindow edited_;
   dictionary::MessageBoxes& messages_;

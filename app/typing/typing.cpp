@@ -12,6 +12,9 @@ Typing::Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& m
                   menuItem(*window.menuBar(), "mnuCzasownikAutouzupełnianie"), store),
       keys_(window.boxes(), *window.menuBar(), completion_, messages),
       letters_(window.controls(), current_),
+      auxiliary_(window.controls().get<QCheckBox>(positionOf("chkZAvoir")), window.boxes(),
+                 current_),
+      enter_(window.controls(), window.boxes(), menuItem(*window.menuBar(), "mnuEdycjaOdmień")),
       menu_(window, window.boxes()) {}
 
 }  // namespace odmiennik::app

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "app/typing/autocompletion.h"
+#include "app/typing/auxiliary_focus.h"
 #include "app/typing/box_keys.h"
 #include "app/typing/current_box.h"
 #include "app/typing/edit_menu.h"
+#include "app/typing/enter_key.h"
 #include "app/typing/letter_buttons.h"
 
 namespace odmiennik::app {
@@ -29,6 +31,8 @@ class Typing {
   Autocompletion completion_;
   BoxKeys keys_;
   LetterButtons letters_;
+  AuxiliaryFocus auxiliary_;
+  EnterKey enter_;
   EditMenu menu_;
 };
 

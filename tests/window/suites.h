@@ -9,6 +9,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> aboutSuite();
 [[nodiscard]] std::unique_ptr<QObject> accessibilitySuite();
 [[nodiscard]] std::unique_ptr<QObject> alwaysOnTopSuite();
+[[nodiscard]] std::unique_ptr<QObject> auxiliaryFocusSuite();
 [[nodiscard]] std::unique_ptr<QObject> clippingSuite();
 [[nodiscard]] std::unique_ptr<QObject> closingSuite();
 [[nodiscard]] std::unique_ptr<QObject> coloursSuite();
@@ -18,6 +19,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
 [[nodiscard]] std::unique_ptr<QObject> editMenuSuite();
 [[nodiscard]] std::unique_ptr<QObject> editingSuite();
+[[nodiscard]] std::unique_ptr<QObject> editingKeysSuite();
 [[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
