@@ -2,6 +2,7 @@
 #include "dictionary/edit_mode_runner.h"
 
 #include "data/messages.h"
+#include "dictionary/saving.h"
 #include "engine/normalization.h"
 #include "engine/windows1252.h"
 
@@ -26,7 +27,7 @@ class EditRun {
       case EditStep::askToSave:
         return askToSave();
       case EditStep::writeRecord:
-        return window_.writeRecord();
+        return writeRecord();
       case EditStep::refuseInfinitive:
         messages_.show(MessageId::infinitiveNeeded);
         break;
@@ -58,6 +59,27 @@ class EditRun {
   bool askToSave() {
     const std::string infinitive = engine::toUtf8(window_.entryText());
     return messages_.show(MessageId::saveEditedVerb, infinitive) == Button::yes;
+  }
+
+  bool writeRecord() {
+    const UserVerbRecord record = window_.record();
+    const auto faulty = faultySlot(record);
+    if (faulty) window_.focusForm(*faulty);
+    return !faulty && window_.write(record);
+  }
+
+  // The slot whose form keeps the record from being saved, once the user has been told or asked.
+  std::optional<int> faultySlot(const UserVerbRecord& record) {
+    const auto show = [&](MessageId message, int slot) {
+      return messages_.show(message, engine::toUtf8(record.forms[slot]));
+    };
+    if (const auto quoted = quotedForm(record)) {
+      show(MessageId::formCannotBeSaved, *quoted);
+      return quoted;
+    }
+    const auto split = formWithComma(record);
+    if (split && show(MessageId::commaInForm, *split) == Button::yes) return std::nullopt;
+    return split;
   }
 
   EditMode& mode_;

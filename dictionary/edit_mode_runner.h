@@ -6,6 +6,7 @@
 
 #include "dictionary/edit_mode.h"
 #include "dictionary/messages.h"
+#include "dictionary/user_record.h"
 
 namespace odmiennik::dictionary {
 
@@ -22,8 +23,12 @@ class EditWindow {
   // Both conjugate the infinitive's box, fill the boxes and return the infinitive of slot 96.
   virtual std::string conjugate() = 0;
   virtual std::string conjugateForEditing() = 0;
-  // Writes the record of the boxes; says itself why when it cannot.
-  [[nodiscard]] virtual bool writeRecord() = 0;
+  // The record of the boxes.
+  [[nodiscard]] virtual UserVerbRecord record() const = 0;
+  // Writes it; says itself why when it cannot.
+  [[nodiscard]] virtual bool write(const UserVerbRecord& record) = 0;
+  // Leads the user to the box of a form that cannot stay as it is.
+  virtual void focusForm(int slot) = 0;
 };
 
 // Runs a command to its end, questions included. False when it stopped: whoever gave the command

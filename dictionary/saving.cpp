@@ -27,4 +27,10 @@ UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> te
   return record;
 }
 
+std::optional<int> formWithComma(const UserVerbRecord& record) {
+  for (int slot = 0; slot < engine::slot::kPastParticiple; ++slot)
+    if (record.forms[slot].find(',') != std::string::npos) return slot;
+  return std::nullopt;
+}
+
 }  // namespace odmiennik::dictionary

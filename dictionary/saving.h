@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,5 +22,10 @@ namespace odmiennik::dictionary {
 // the boxes themselves are left alone, so that a write that fails has changed nothing.
 [[nodiscard]] UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
                                            std::uint8_t auxiliary);
+
+// The slot of the first form that holds a comma, with which the form would come back split and
+// those behind it one slot further. deliberate: not asked of slots 99 and 100, where the program
+// itself shows "dû, due".
+[[nodiscard]] std::optional<int> formWithComma(const UserVerbRecord& record);
 
 }  // namespace odmiennik::dictionary

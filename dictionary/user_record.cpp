@@ -19,6 +19,16 @@ void appendForm(std::string& line, std::string_view form) {
   line += ',';
 }
 
+// What stands between two commas of a form is a field of the line.
+bool holdsQuotedField(std::string_view form) {
+  while (true) {
+    const auto comma = form.find(',');
+    if (engine::trimmed(form.substr(0, comma)).starts_with('"')) return true;
+    if (comma == std::string_view::npos) return false;
+    form.remove_prefix(comma + 1);
+  }
+}
+
 void appendFlag(std::string& line, std::uint8_t flag) {
   line += ' ';
   line += std::to_string(flag);
@@ -96,9 +106,10 @@ std::string recordLine(const UserVerbRecord& record) {
   return line;
 }
 
-bool isReadable(const UserVerbRecord& record) {
-  const std::string line = recordLine(record);
-  return outlineOf(std::string_view(line).substr(0, line.size() - kLineEnd.size())).has_value();
+std::optional<int> quotedForm(const UserVerbRecord& record) {
+  for (int slot = 0; slot < engine::kSlotCount; ++slot)
+    if (holdsQuotedField(record.forms[slot])) return slot;
+  return std::nullopt;
 }
 
 std::string rewrittenLine(std::string_view line) {

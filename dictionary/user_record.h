@@ -47,9 +47,10 @@ void readForms(std::string_view line, engine::FormTable& forms);
 // form becomes a blank, since it would end the record.
 [[nodiscard]] std::string recordLine(const UserVerbRecord& record);
 
-// Whether the record's line could be read back: not where a form begins with a double quote, which
-// takes the rest of the line.
-[[nodiscard]] bool isReadable(const UserVerbRecord& record);
+// The slot of the first form with which the record's line could not be read back as it was: one
+// that begins with a double quote, or has one right behind a comma. The quote takes the rest of the
+// line, or is lost with the one that closes it.
+[[nodiscard]] std::optional<int> quotedForm(const UserVerbRecord& record);
 
 // The same as recordLine for a record read from a line. Fields between slot 100 and the flag, left
 // there by a form with a comma, stay.

@@ -7,6 +7,7 @@
 #include "dictionary/file_names.h"
 #include "dictionary/user_verbs_rewrite.h"
 #include "engine/normalization.h"
+#include "engine/windows1252.h"
 
 namespace odmiennik::dictionary {
 namespace {
@@ -91,8 +92,8 @@ bool UserVerbsFile::visitRecords(std::int64_t limit, const Visit& isEnough) {
 }
 
 SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
-  if (!isReadable(record)) {
-    messages_.show(MessageId::formCannotBeSaved);
+  if (const auto slot = quotedForm(record)) {
+    messages_.show(MessageId::formCannotBeSaved, engine::toUtf8(record.forms[*slot]));
     return SaveResult::failed;
   }
   const CopyResult copied = rewriteWith(record);

@@ -78,17 +78,27 @@ std::string EditedWindow::conjugateForEditing() {
   return window_.infinitive();
 }
 
-bool EditedWindow::writeRecord() {
+dictionary::UserVerbRecord EditedWindow::record() const {
   std::array<std::string, engine::kSlotCount> texts;
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     texts[static_cast<std::size_t>(slot)] = toFrench(window_.boxes()[slot].text());
+  return dictionary::recordOfBoxes(texts, window_.auxiliary());
+}
+
+bool EditedWindow::write(const dictionary::UserVerbRecord& record) {
   showHourglass(true);
-  const dictionary::SaveResult result =
-      userVerbs_.save(dictionary::recordOfBoxes(texts, window_.auxiliary()));
+  const dictionary::SaveResult result = userVerbs_.save(record);
   showHourglass(false);
   if (result == dictionary::SaveResult::failed) return false;
   announce(QStringLiteral("Zapisano czasownik %1.").arg(window_.boxes().entry().text().trimmed()));
   return true;
+}
+
+// Another window, like the list, may have asked for the save.
+void EditedWindow::focusForm(int slot) {
+  window_.activateWindow();
+  window_.boxes()[slot].setFocus();
+  window_.boxes()[slot].selectAll();
 }
 
 }  // namespace odmiennik::app

@@ -25,7 +25,9 @@ class EditedWindow final : public dictionary::EditWindow {
   void showHourglass(bool isShown) override;
   std::string conjugate() override;
   std::string conjugateForEditing() override;
-  [[nodiscard]] bool writeRecord() override;
+  [[nodiscard]] dictionary::UserVerbRecord record() const override;
+  [[nodiscard]] bool write(const dictionary::UserVerbRecord& record) override;
+  void focusForm(int slot) override;
 
  private:
   [[nodiscard]] QAction& item(std::string_view name) const;

@@ -31,6 +31,10 @@ class RefusedSaveSuite : public QObject {
   void aFailedSaveKeepsEverything_data() { nameCommandsThatAsk(); }
   void aFailedSaveKeepsEverything();
   void aFormThatBeginsWithAQuoteIsNotSaved();
+  void aCommaAnsweredNoKeepsEverything_data() { nameCommandsThatAsk(); }
+  void aCommaAnsweredNoKeepsEverything();
+  void aCommaAnsweredYesIsSaved();
+  void aParticipleWithACommaIsSavedUnasked();
 
  private:
   void nameCommandsThatAsk();
@@ -119,6 +123,40 @@ void RefusedSaveSuite::aFormThatBeginsWithAQuoteIsNotSaved() {
   QCOMPARE(program_->messages.shown, std::vector<MessageId>{MessageId::formCannotBeSaved});
   verifyNothingIsLost("parler");
   QVERIFY(program_->userVerbs().isNull());
+  QCOMPARE(QApplication::focusWidget(), &program_->box(7));
+  QCOMPARE(program_->box(7).selectedText(), "\"parlais");
+}
+
+// The file divides forms by commas.
+void RefusedSaveSuite::aCommaAnsweredNoKeepsEverything() {
+  QFETCH(QString, name);
+  edit();
+  program_->box(7).setText("parlais, parlaix");
+  program_->messages.answers[MessageId::commaInForm] = Button::no;
+  command(name);
+  QVERIFY(program_->messages.shown.size() >= 2);
+  QVERIFY(program_->messages.shown.back() == MessageId::commaInForm);
+  verifyNothingIsLost("parler");
+  QVERIFY(program_->userVerbs().isNull());
+  QTRY_COMPARE(QApplication::focusWidget(), &program_->box(7));
+}
+
+void RefusedSaveSuite::aCommaAnsweredYesIsSaved() {
+  edit();
+  program_->box(7).setText("parlais, parlaix");
+  program_->trigger("mnuPlikZapiszCzasownik");
+  QCOMPARE(program_->messages.shown, std::vector<MessageId>{MessageId::commaInForm});
+  QVERIFY(!program_->isEditing());
+  QCOMPARE(program_->fields().value(7), "parlais");
+  QCOMPARE(program_->fields().value(8), " parlaix");
+}
+
+void RefusedSaveSuite::aParticipleWithACommaIsSavedUnasked() {
+  program_->edit("devoir");
+  QCOMPARE(program_->form(99), "dû, due");
+  program_->trigger("mnuPlikZapiszCzasownik");
+  QVERIFY(program_->messages.shown.empty());
+  QVERIFY(!program_->isEditing());
 }
 
 std::unique_ptr<QObject> refusedSaveSuite() { return std::make_unique<RefusedSaveSuite>(); }

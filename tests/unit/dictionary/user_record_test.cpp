@@ -99,11 +99,26 @@ TEST(Record, WithFewerThan102FieldsIsDamaged) {
 TEST(Record, CannotBeReadBackWhereAFormBeginsWithAQuote) {
   UserVerbRecord record;
   record.forms[96] = "aimer";
-  EXPECT_TRUE(isReadable(record));
-  record.forms[7] = "aim\"ais";
-  EXPECT_TRUE(isReadable(record));
-  record.forms[7] = "\"aimais";
-  EXPECT_FALSE(isReadable(record));
+  EXPECT_EQ(quotedForm(record), std::nullopt);
+  record.forms[7] = "aim\"ais, b\"";
+  EXPECT_EQ(quotedForm(record), std::nullopt);
+  record.forms[100] = "\"";
+  EXPECT_EQ(quotedForm(record), 100);
+  record.forms[7] = "  \"aimais";
+  EXPECT_EQ(quotedForm(record), 7);
+}
+
+TEST(Record, CannotBeReadBackWhereAQuoteStandsBehindAComma) {
+  UserVerbRecord record;
+  record.forms[7] = "aimais, \"b";
+  EXPECT_EQ(quotedForm(record), 7);
+}
+
+// It would be read, but without its quotes.
+TEST(Record, DoesNotReadBackAsWrittenWhereAFormIsQuotedAltogether) {
+  UserVerbRecord record;
+  record.forms[7] = "\"aimais\"";
+  EXPECT_EQ(quotedForm(record), 7);
 }
 
 TEST(Record, WithoutFlagIsDamaged) { EXPECT_FALSE(outlineOf(commas(96) + "aimer" + commas(5))); }

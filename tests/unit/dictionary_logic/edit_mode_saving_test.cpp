@@ -77,6 +77,50 @@ TEST(saving_an_edited_verb, refuses_an_infinitive_that_is_none_and_keeps_editing
   EXPECT_EQ(edited.window.diary, Diary{});
 }
 
+TEST(saving_an_edited_verb, names_the_form_that_cannot_be_saved_and_leads_to_it) {
+  EditedVerb edited("aimer");
+  edited.window.type(7, "\"aimais");
+  edited.window.type(3, "a, b");
+  edited.expectNothingLost(save);
+  EXPECT_EQ(
+      edited.window.messages.shown,
+      Texts{"Nie można zapisać czasownika, bo forma „\"aimais” zaczyna się od cudzysłowu. Usuń "
+            "cudzysłów i zapisz ponownie."});
+  EXPECT_EQ(edited.window.diary, Diary{"focus 7"});
+}
+
+constexpr std::string_view kCommaQuestion =
+    "Forma „a, b” zawiera przecinek, który w pliku rozdziela formy. Zapisać mimo to?";
+
+TEST(saving_an_edited_verb, asks_about_a_comma_and_leads_to_it_on_no) {
+  EditedVerb edited("aimer");
+  edited.window.type(3, "a, b");
+  edited.window.messages.answers = {Button::no};
+  EXPECT_FALSE(edited.window.give(save));
+  EXPECT_EQ(edited.window.messages.shown, Texts{std::string(kCommaQuestion)});
+  EXPECT_EQ(edited.window.diary, Diary{"focus 3"});
+  EXPECT_TRUE(edited.window.seen.isEditing);
+  EXPECT_FALSE(edited.window.mode.isSaved());
+}
+
+TEST(saving_an_edited_verb, with_a_comma_is_done_on_yes) {
+  EditedVerb edited("aimer");
+  edited.window.type(3, "a, b");
+  edited.window.messages.answers = {Button::yes};
+  EXPECT_TRUE(edited.window.give(save));
+  EXPECT_EQ(edited.window.diary, (Diary{"write aimer", "conjugate aimer"}));
+}
+
+TEST(saving_an_edited_verb, a_comma_refused_behind_the_save_question_loses_nothing) {
+  for (const EditCommand command : {edit, newVerb, conjugate, close}) {
+    EditedVerb edited("aimer");
+    edited.window.type(3, "a, b");
+    edited.expectNothingLost(command);
+    EXPECT_EQ(edited.window.messages.shown.size(), 2U);
+    EXPECT_EQ(edited.window.diary, Diary{"focus 3"});
+  }
+}
+
 TEST(saving_an_edited_verb, a_write_that_fails_keeps_editing) {
   EditedVerb edited("aimer");
   edited.window.canWrite = false;

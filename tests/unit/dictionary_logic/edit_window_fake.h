@@ -8,6 +8,7 @@
 
 #include "data/messages.h"
 #include "dictionary/edit_mode_runner.h"
+#include "dictionary/saving.h"
 #include "engine/slots.h"
 #include "tests/support/test_program.h"
 
@@ -54,10 +55,14 @@ class EditWindowFake final : public dictionary::EditWindow {
   }
   std::string conjugate() override { return fill("conjugate "); }
   std::string conjugateForEditing() override { return fill("edit "); }
-  bool writeRecord() override {
+  dictionary::UserVerbRecord record() const override {
+    return dictionary::recordOfBoxes(texts, engine::kAvoir);
+  }
+  bool write(const dictionary::UserVerbRecord& /*record*/) override {
     diary.push_back("write " + entryText());
     return canWrite;
   }
+  void focusForm(int slot) override { diary.push_back("focus " + std::to_string(slot)); }
 
   dictionary::EditMode mode{"Odmiennik v.1.0.12"};
   MessagesFake messages;

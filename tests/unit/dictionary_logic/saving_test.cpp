@@ -69,5 +69,21 @@ TEST(record_to_save, only_the_exact_mark_stands_for_a_missing_form) {
   EXPECT_EQ(record.forms[8], " --");
 }
 
+TEST(comma_in_a_form, is_found_in_the_first_form_that_has_one) {
+  UserVerbRecord record;
+  EXPECT_EQ(formWithComma(record), std::nullopt);
+  record.forms[98] = "payant,paiant";
+  EXPECT_EQ(formWithComma(record), 98);
+  record.forms[0] = "paye, paie";
+  EXPECT_EQ(formWithComma(record), 0);
+}
+
+TEST(comma_in_a_form, deliberate_is_not_looked_for_in_the_last_two) {
+  UserVerbRecord record;
+  record.forms[99] = french("dû, due");
+  record.forms[100] = french("ayant dû, due");
+  EXPECT_EQ(formWithComma(record), std::nullopt);
+}
+
 }  // namespace
 }  // namespace odmiennik::dictionary
