@@ -28,6 +28,9 @@ EditTurn EditMode::begin(EditCommand command, std::string_view entryText) {
   command_ = command;
   if (command == EditCommand::save)
     return isEditing_ ? save(entryText) : EditTurn{{}, EditProgress::stopped};
+  if (command == EditCommand::restore)
+    return isEditing_ ? EditTurn{{}, EditProgress::stopped}
+                      : await(Awaited::consent, {askToRestore});
   if (hasUnsavedChanges()) return await(Awaited::answer, {askToSave});
   return carryOut(entryText);
 }
@@ -42,6 +45,12 @@ EditTurn EditMode::goOn(bool isYes, std::string_view entryText) {
       return isYes ? recordWritten() : EditTurn{{}, EditProgress::stopped};
     case Awaited::conjugation:
       return carryOut(entryText);
+    case Awaited::consent:
+      if (isYes) return await(Awaited::removal, {removeRecord});
+      break;
+    case Awaited::removal:
+      if (isYes) return {{showShownInfinitive, EditStep::conjugate}};
+      break;
     case Awaited::nothing:
       break;
   }
@@ -75,6 +84,7 @@ EditTurn EditMode::carryOut(std::string_view entryText) {
     case EditCommand::conjugate:
       return isEditing_ ? leaveAndConjugate() : EditTurn{{EditStep::conjugate}};
     case EditCommand::close:
+    case EditCommand::restore:
     case EditCommand::save:
       break;
   }

@@ -13,13 +13,17 @@ enum class EditCommand : std::uint8_t {
   newVerb,    // edit mode for a verb that is not shown yet
   save,       // only in edit mode
   conjugate,  // leaves edit mode first
+  restore,    // gives up the user's own forms of the shown verb; not while a verb is edited
   close,      // of the main window, once the exit question has been answered
 };
 
 // What the window has to do, in the order given.
 enum class EditStep : std::uint8_t {
-  askToSave,            // the save question; its answer goes into goOn()
-  refuseInfinitive,     // the message that a proper infinitive is needed
+  askToSave,         // the save question; its answer goes into goOn()
+  refuseInfinitive,  // the message that a proper infinitive is needed
+  askToRestore,      // the question about the shown verb's own forms; its answer goes into goOn()
+  removeRecord,      // remove the shown verb's record; goOn() is told whether it is gone
+  showShownInfinitive,  // put the shown verb's infinitive into its box
   writeRecord,          // write the boxes' record; goOn() is told whether it is on disk
   present,              // show presentation()
   showHourglass,        // as the pointer
@@ -63,7 +67,7 @@ class EditMode {
   [[nodiscard]] EditTurn begin(EditCommand command, std::string_view entryText);
 
   // Goes on after a turn that is `waiting`. `isYes`: the question was answered Yes, or the record
-  // is written.
+  // is written or removed.
   [[nodiscard]] EditTurn goOn(bool isYes, std::string_view entryText);
 
   // A box's text has changed, whoever changed it. True asks to show the window's caption anew.
@@ -84,7 +88,7 @@ class EditMode {
   [[nodiscard]] EditPresentation presentation() const;
 
  private:
-  enum class Awaited : std::uint8_t { nothing, answer, record, conjugation };
+  enum class Awaited : std::uint8_t { nothing, answer, record, conjugation, consent, removal };
 
   [[nodiscard]] bool hasUnsavedChanges() const { return isEditing_ && !isSaved_ && !isGivenUp_; }
   [[nodiscard]] EditTurn await(Awaited awaited, std::vector<EditStep> steps);

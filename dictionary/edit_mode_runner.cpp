@@ -26,8 +26,12 @@ class EditRun {
     switch (step) {
       case EditStep::askToSave:
         return askToSave();
+      case EditStep::askToRestore:
+        return askToRestore();
       case EditStep::writeRecord:
         return writeRecord();
+      case EditStep::removeRecord:
+        return window_.remove(window_.storedInfinitive());
       case EditStep::refuseInfinitive:
         messages_.show(MessageId::infinitiveNeeded);
         break;
@@ -48,6 +52,7 @@ class EditRun {
     if (step == EditStep::conjugate) mode_.filled(window_.conjugate());
     if (step == EditStep::conjugateForEditing) mode_.filled(window_.conjugateForEditing());
     if (step == EditStep::clearBoxes) clearBoxes();
+    if (step == EditStep::showShownInfinitive) window_.setEntryText(window_.shownInfinitive());
     if (step == EditStep::restoreInfinitive) window_.setEntryText(remembered_);
   }
 
@@ -59,6 +64,12 @@ class EditRun {
   bool askToSave() {
     const std::string infinitive = engine::toUtf8(window_.entryText());
     return messages_.show(MessageId::saveEditedVerb, infinitive) == Button::yes;
+  }
+
+  bool askToRestore() {
+    const std::string infinitive = engine::toUtf8(window_.storedInfinitive());
+    return !infinitive.empty() &&
+           messages_.show(MessageId::restoreProgramForms, infinitive) == Button::yes;
   }
 
   bool writeRecord() {

@@ -27,6 +27,12 @@ class EditWindow {
   [[nodiscard]] virtual UserVerbRecord record() const = 0;
   // Writes it; says itself why when it cannot.
   [[nodiscard]] virtual bool write(const UserVerbRecord& record) = 0;
+  // The infinitive that the conjugation belongs to, and that of the user's own record that it comes
+  // from; the latter is empty when it comes from none.
+  [[nodiscard]] virtual std::string shownInfinitive() const = 0;
+  [[nodiscard]] virtual std::string storedInfinitive() const = 0;
+  // Removes a record of the user's; says itself why when it cannot.
+  [[nodiscard]] virtual bool remove(std::string_view infinitive) = 0;
   // Leads the user to the box of a form that cannot stay as it is.
   virtual void focusForm(int slot) = 0;
 };

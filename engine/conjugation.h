@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "engine/display.h"
@@ -25,7 +26,8 @@ struct Conjugation {
   VerbInformation information;
   Display shown;
   Source source = Source::none;
-  std::string_view model;  // the rule that conjugated it (UTF-8), "" for a stored verb
+  std::string storedInfinitive;  // slot 96 of the user's record, "" when the verb has none
+  std::string_view model;        // the rule that conjugated it (UTF-8), "" for a stored verb
 };
 
 }  // namespace odmiennik::engine

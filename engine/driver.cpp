@@ -87,6 +87,7 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
   EngineFlags& flags = conjugation.flags;
   conjugation.source = Source::none;
   conjugation.model = {};
+  conjugation.storedInfinitive.clear();
   readInfinitive(conjugation.forms, flags);
   if (flags.normalizedInput == kResetWord) {
     ports_.shell.resetSettings();
@@ -106,6 +107,7 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
 bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive, bool isEditing) {
   EngineFlags& flags = conjugation.flags;
   if (!ports_.userVerbs.load(infinitive, conjugation.forms, flags.storedAux)) return false;
+  conjugation.storedInfinitive = conjugation.forms[slot::kInfinitive];
   flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
   flags.isImpersonal = false;
   applyStoredVerb(flags, conjugation.information);

@@ -37,6 +37,7 @@ constexpr MenuRow kRows[] = {
     {item, "mnuEdycjaNowyCzasownik", "&Nowy", ready, "Ctrl+N"},
     {item, "mnuEdycjaEdytujCzasownik", "E&dytuj", ready, "F2"},
     {item, "mnuEdycjaUsuńCzasownik", "U&suń", ready},
+    {item, "mnuCzasownikPrzywróć", "P&rzywróć odmianę programu"},
     {separator, "mnuEdycjaLinia5", ""},
     {item, "mnuCzasownikInformacje", "&Informacje o czasowniku", ready, "Ctrl+I"},
     {item, "mnuCzasownikBezokolicznik", "Pole &bezokolicznika", ready, "Ctrl+B"},

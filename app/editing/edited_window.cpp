@@ -94,6 +94,15 @@ bool EditedWindow::write(const dictionary::UserVerbRecord& record) {
   return true;
 }
 
+std::string EditedWindow::shownInfinitive() const { return window_.infinitive(); }
+
+std::string EditedWindow::storedInfinitive() const { return window_.storedInfinitive(); }
+
+// A record that is not there any more has been removed meanwhile, in the list.
+bool EditedWindow::remove(std::string_view infinitive) {
+  return userVerbs_.remove(infinitive) != dictionary::DeleteResult::failed;
+}
+
 // Another window, like the list, may have asked for the save.
 void EditedWindow::focusForm(int slot) {
   window_.activateWindow();

@@ -27,6 +27,9 @@ class EditedWindow final : public dictionary::EditWindow {
   std::string conjugateForEditing() override;
   [[nodiscard]] dictionary::UserVerbRecord record() const override;
   [[nodiscard]] bool write(const dictionary::UserVerbRecord& record) override;
+  [[nodiscard]] std::string shownInfinitive() const override;
+  [[nodiscard]] std::string storedInfinitive() const override;
+  [[nodiscard]] bool remove(std::string_view infinitive) override;
   void focusForm(int slot) override;
 
  private:

@@ -35,12 +35,12 @@ void Editing::connectCommands() {
   const auto conjugates = [this] { conjugate(); };
   runs("mnuEdycjaOdmień", conjugates);
   runs("mnuEdycjaNowyCzasownik", [this] { newVerb(); });
+  runs("mnuCzasownikPrzywróć", [this] { restore(); });
   runs("mnuPlikZapiszCzasownik", [this] { save(); });
   connect(&window_.boxes().entry(), &QLineEdit::returnPressed, this, conjugates,
           Qt::QueuedConnection);
   connect(&window_.controls().get<QPushButton>(positionOf("cmdOdmień")), &QPushButton::clicked,
           this, conjugates, Qt::QueuedConnection);
-}
   connect(&menuItem(*window_.menuBar(), "mnuEdycjaEdytujCzasownik"), &QAction::triggered, this,
           &Editing::enterOrLeave);
 }
@@ -51,12 +51,21 @@ void Editing::enterOrLeave() {
     if (wasEditing == isEditing()) edit();
   };
   QMetaObject::invokeMethod(this, editUnlessDone, Qt::QueuedConnection);
+}
 
 // A second command while the first one's message is on the screen does nothing.
 bool Editing::run(EditCommand command) {
   if (isRunning_) return false;
   const QScopedValueRollback<bool> running(isRunning_, true);
-  return dictionary::runEditCommand(command, mode_, edited_, messages_);
+  const bool isDone = dictionary::runEditCommand(command, mode_, edited_, messages_);
+  offerRestoring();
+  return isDone;
+}
+
+// Forms that are being edited are left first: what becomes of them is another question.
+void Editing::offerRestoring() {
+  menuItem(*window_.menuBar(), "mnuCzasownikPrzywróć")
+      .setEnabled(window_.isUsersOwn() && !isEditing());
 }
 
 bool Editing::conjugate(std::string_view infinitive) {

@@ -29,6 +29,9 @@ class Editing final : public QObject, public dictionary::MainCommands {
   // Enters edit mode, or leaves it like conjugate().
   bool edit() override { return run(dictionary::EditCommand::edit); }
   bool newVerb() override;
+  // Gives up the user's own forms of the shown verb for the program's, once the user agrees.
+  bool restore() { return run(dictionary::EditCommand::restore); }
+
   bool save() { return run(dictionary::EditCommand::save); }
 
   // Asked when the window is to be closed, once the user has said that it may be.
@@ -43,10 +46,11 @@ class Editing final : public QObject, public dictionary::MainCommands {
 
  private:
   void connectCommands();
+  void enterOrLeave();
   bool run(dictionary::EditCommand command);
   void boxChanged();
+  void offerRestoring();
 
-  void enterOrLeave();
   MainWindow& window_;
   EditedWindow edited_;
   dictionary::MessageBoxes& messages_;

@@ -23,7 +23,10 @@ class Restored {
       : conjugation_(conjugation),
         flags_(conjugation.flags),
         information_(conjugation.information),
-        infinitive_(conjugation.forms[engine::slot::kInfinitive]) {}
+        infinitive_(conjugation.forms[engine::slot::kInfinitive]),
+        storedInfinitive_(conjugation.storedInfinitive),
+        source_(conjugation.source),
+        model_(conjugation.model) {}
   Restored(const Restored&) = delete;
   Restored& operator=(const Restored&) = delete;
   ~Restored() {
@@ -31,6 +34,9 @@ class Restored {
     conjugation_.flags = flags_;
     conjugation_.information = information_;
     conjugation_.forms[engine::slot::kInfinitive] = infinitive_;
+    conjugation_.storedInfinitive = storedInfinitive_;
+    conjugation_.source = source_;
+    conjugation_.model = model_;
   }
 
   void keep() { isKept_ = true; }
@@ -40,6 +46,9 @@ class Restored {
   engine::EngineFlags flags_;
   engine::VerbInformation information_;
   std::string infinitive_;
+  std::string storedInfinitive_;
+  engine::Source source_;
+  std::string_view model_;
   bool isKept_ = false;
 };
 

@@ -36,6 +36,13 @@ class MainWindow final : public QMainWindow {
     return conjugation_.forms[engine::slot::kInfinitive];
   }
 
+  // Whether the shown forms are the user's own, from the file of user verbs; and the infinitive of
+  // their record, which may lack the reflexive prefix of the shown one.
+  [[nodiscard]] bool isUsersOwn() const { return conjugation_.source == engine::Source::user; }
+  [[nodiscard]] const std::string& storedInfinitive() const {
+    return conjugation_.storedInfinitive;
+  }
+
   // The auxiliary that the user has set: 1 avoir, 0 être.
   [[nodiscard]] std::uint8_t auxiliary() const { return conjugation_.flags.auxiliary; }
 

@@ -82,6 +82,7 @@ class AccessibilitySuite : public QObject {
   void everyWindowsControlsHaveNamesOfTheirOwn();
   void theOrderOfTheTabKeyIsThatOfReading_data();
   void theOrderOfTheTabKeyIsThatOfReading();
+  void noAccessKeyStandsTwiceInAMenu_data();
   void noAccessKeyStandsTwiceInAMenu();
   void deliberateTheMenuBarHasOneAccessKeyTwice();
   void noShortcutStandsTwice();
@@ -164,7 +165,20 @@ void AccessibilitySuite::theOrderOfTheTabKeyIsThatOfReading() {
   QCOMPARE(faultOfOrder(walked), QString());
 }
 
+// The caption of the item that edits has a key for each of its states.
+void AccessibilitySuite::noAccessKeyStandsTwiceInAMenu_data() {
+  QTest::addColumn<int>("timesChosen");
+  QTest::newRow("at the start") << 0;
+  QTest::newRow("while editing") << 1;
+  QTest::newRow("afterwards") << 2;
+}
+
 void AccessibilitySuite::noAccessKeyStandsTwiceInAMenu() {
+  QFETCH(int, timesChosen);
+  for (int i = 0; i < timesChosen; ++i) {
+    program_->item("mnuEdycjaEdytujCzasownik").trigger();
+    QCoreApplication::processEvents();
+  }
   const auto menus = program_->window.menuBar()->actions();
   QCOMPARE(menus.size(), 5);
   for (const QAction* menu : menus) {

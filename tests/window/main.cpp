@@ -44,6 +44,7 @@ int main(int argumentCount, char** arguments) {
       {"printing", printingSuite},
       {"refused_save", refusedSaveSuite},
       {"rescaling", rescalingSuite},
+      {"restoring", restoringSuite},
       {"saving", savingSuite},
       {"settings", settingsSuite},
       {"small_screen", smallScreenSuite},

@@ -69,6 +69,7 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
                                                "mnuEdycjaNowyCzasownik &Nowy",
                                                "mnuEdycjaEdytujCzasownik E&dytuj",
                                                "mnuEdycjaUsuńCzasownik U&suń",
+                                               "mnuCzasownikPrzywróć P&rzywróć odmianę programu",
                                                "mnuEdycjaLinia5 -",
                                                "mnuCzasownikInformacje &Informacje o czasowniku",
                                                "mnuCzasownikBezokolicznik Pole &bezokolicznika",
@@ -104,7 +105,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 32);
+  QCOMPARE(items, 33);
   QCOMPARE(names.size(), items);
 }
 
@@ -117,7 +118,8 @@ void MenuSuite::whatCannotBeDoneAtTheStartIsDisabled() {
   disabled.removeAll("mnuEdycjaTablica");  // as the system has one
   disabled.removeAll("mnuEdycjaWklej");    // as the clipboard allows
   const QStringList expected{"mnuPlikZapiszCzasownik", "mnuEdycjaCofnij",
-                             "mnuEdycjaZaznaczWszystko"};
+                             "mnuEdycjaZaznaczWszystko",
+                             "mnuCzasownikPrzywróć"};
   QCOMPARE(disabled, expected);
 }
 

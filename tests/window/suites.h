@@ -39,6 +39,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> printingSuite();
 [[nodiscard]] std::unique_ptr<QObject> refusedSaveSuite();
 [[nodiscard]] std::unique_ptr<QObject> rescalingSuite();
+[[nodiscard]] std::unique_ptr<QObject> restoringSuite();
 [[nodiscard]] std::unique_ptr<QObject> savingSuite();
 [[nodiscard]] std::unique_ptr<QObject> settingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> smallScreenSuite();

@@ -167,6 +167,56 @@ TEST(edit_mode, no_command_starts_while_another_waits_for_its_answer) {
   EXPECT_TRUE(second.steps.empty());
 }
 
+constexpr std::string_view kRestoreQuestion =
+    "Usunąć zapisaną odmianę czasownika „laver” i odmienić go od nowa?";
+
+TEST(restoring, removes_the_record_and_conjugates_the_shown_verb_anew_on_yes) {
+  EditWindowFake window("fin");
+  window.shown = "se laver";
+  window.stored = "laver";
+  window.messages.answers = {Button::yes};
+  EXPECT_TRUE(window.give(restore));
+  EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
+  EXPECT_EQ(window.diary, (Diary{"remove laver", "conjugate se laver"}));
+}
+
+TEST(restoring, does_nothing_on_no) {
+  EditWindowFake window("laver");
+  window.shown = window.stored = "laver";
+  EXPECT_FALSE(window.give(restore));
+  EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
+  EXPECT_EQ(window.diary, Diary{});
+}
+
+TEST(restoring, stops_where_the_record_cannot_be_removed) {
+  EditWindowFake window("fin");
+  window.shown = window.stored = "laver";
+  window.canWrite = false;
+  window.messages.answers = {Button::yes};
+  EXPECT_FALSE(window.give(restore));
+  EXPECT_EQ(window.diary, Diary{"remove laver"});
+  EXPECT_EQ(window.entryText(), "fin");
+}
+
+TEST(restoring, asks_nothing_where_the_verb_is_not_the_users) {
+  EditWindowFake window("laver");
+  window.shown = "laver";
+  EXPECT_FALSE(window.give(restore));
+  EXPECT_EQ(window.messages.shown, Texts{});
+  EXPECT_EQ(window.diary, Diary{});
+}
+
+TEST(restoring, does_nothing_while_a_verb_is_edited) {
+  EditWindowFake window("laver");
+  window.shown = window.stored = "laver";
+  EXPECT_TRUE(window.give(edit));
+  window.diary.clear();
+  EXPECT_FALSE(window.give(restore));
+  EXPECT_EQ(window.messages.shown, Texts{});
+  EXPECT_EQ(window.diary, Diary{});
+  EXPECT_TRUE(window.seen.isEditing);
+}
+
 TEST(edit_mode, an_answer_that_nobody_waits_for_changes_nothing) {
   EditMode mode("Odmiennik");
   EXPECT_EQ(mode.goOn(true, "aller").progress, EditProgress::stopped);

@@ -62,6 +62,12 @@ class EditWindowFake final : public dictionary::EditWindow {
     diary.push_back("write " + entryText());
     return canWrite;
   }
+  std::string shownInfinitive() const override { return shown; }
+  std::string storedInfinitive() const override { return stored; }
+  bool remove(std::string_view infinitive) override {
+    diary.push_back("remove " + std::string(infinitive));
+    return canWrite;
+  }
   void focusForm(int slot) override { diary.push_back("focus " + std::to_string(slot)); }
 
   dictionary::EditMode mode{"Odmiennik v.1.0.12"};
@@ -70,6 +76,7 @@ class EditWindowFake final : public dictionary::EditWindow {
   dictionary::EditPresentation seen = mode.presentation();
   std::vector<std::string> diary;
   bool canWrite = true;
+  std::string shown, stored;  // infinitives
 
  private:
   void setText(int slot, std::string_view text) {

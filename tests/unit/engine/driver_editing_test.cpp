@@ -23,6 +23,16 @@ TEST(EditMode, LeavesThePlaceholdersOfABuiltInVerb) {
   EXPECT_EQ(program.box(24), "*");
 }
 
+TEST(UserVerb, IsToldWithTheInfinitiveOfItsRecord) {
+  TestProgram program;
+  program.addUserVerb({.slots = {{0, "lave"}, {96, "laver"}}});
+  program.conjugate("se laver");
+  EXPECT_EQ(program.box(96), "se laver");
+  EXPECT_EQ(program.state().storedInfinitive, "laver");
+  program.conjugate("aller");
+  EXPECT_EQ(program.state().storedInfinitive, "");
+}
+
 TEST(EditMode, ShowsNothingInEmptyBoxes) {
   TestProgram program;
   program.edit("falloir");
