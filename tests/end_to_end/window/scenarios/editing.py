@@ -143,3 +143,45 @@ def deleting_lowers_the_count(program):
     program.start()
     program.conjugate("aimer")
     program.box(FORM).await_text("aime")
+
+
+def enter_leads_to_the_next_form_and_escape_out(program):
+    program.start()
+    _edit(program, "aimer")
+    _write(program, FORM, "aimechange")
+    keyboard.keys("Return")
+    second = program.box("Indicatif présent, tu")
+    wait_for(lambda: second.has("focused"), "the focus in the next box")
+    keyboard.type_text("aimezmiana")
+    second.await_text("aimezmiana")
+    keyboard.keys("Escape")
+    program.message("Zapisać edytowany czasownik - 'aimer'?").answer("Nie")
+    program.await_title("Odmiennik")
+    second.await_text("aimes")
+    assert not (program.folder / "Czasowniki.dat").exists()
+
+
+def a_form_with_a_comma_is_questioned_and_has_the_focus(program):
+    program.start()
+    _edit(program, "aimer")
+    _write(program, FORM, "aime, aimer")
+    program.box(ENTRY).focus()
+    keyboard.keys("ctrl+s")
+    program.message("Forma „aime, aimer” zawiera przecinek, który w pliku rozdziela formy. "
+                    "Zapisać mimo to?")
+    keyboard.keys("Return")
+    wait_for(lambda: program.box(FORM).has("focused"), "the focus in the box of the form")
+    assert program.main_window().name == 'Odmiennik - edycja "aimer"'
+    assert not (program.folder / "Czasowniki.dat").exists()
+
+
+def the_programs_forms_of_a_verb_come_back(program):
+    program.start()
+    assert not program.menu_item("Czasownik", "Przywróć odmianę programu").has("enabled")
+    _save_changed_verb(program, "aimer", "aimechange")
+    program.menu_item("Czasownik", "Przywróć odmianę programu").press()
+    program.message("Usunąć zapisaną odmianę czasownika „aimer” i odmienić go od nowa?").answer("Tak")
+    program.box(FORM).await_text("aime")
+    program.quit()
+    assert program.settings()[0] == "0"
+    assert _records(program) == []

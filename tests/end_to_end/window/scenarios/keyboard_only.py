@@ -137,3 +137,13 @@ def the_menu_switches_completion_off(program):
     program.message("Podany czasownik nie został znaleziony "
                     "i nie było możliwe odmienienie go regularnie.").answer("OK")
     assert program.box(ENTRY).text == "all"
+
+
+def the_menu_opens_with_f10_and_the_list_with_its_key(program):
+    program.start()
+    listed = _choose(program, "Lista czasowników", "F10", "Right", "Right", "l")
+    keyboard.keys("Escape")
+    listed.await_end()
+    listed = _choose(program, "Lista czasowników", "ctrl+l")
+    keyboard.keys("Escape")
+    listed.await_end()
