@@ -12,8 +12,7 @@ namespace odmiennik::app {
 
 // In a box that can be typed into it leads to the next one in the order of the Tab key, from the
 // last to the entry box; on the auxiliary's check box and on the button it conjugates. Held down it
-// does all this once: neither a question nor a second conjugation is answered by a key that has not
-// been let go. A locked box keeps its hint.
+// does all this once, and conjugates once in the entry box too. A locked box keeps its hint.
 class EnterKey final : public QObject {
   Q_OBJECT
 
