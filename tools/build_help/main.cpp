@@ -7,6 +7,7 @@
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
+#include "tools/build_help/typesetting.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::
   for (const std::string& page : pages) {
     const fs::path name = fs::path(std::u8string(page.begin(), page.end()));
     try {
-      writeFile(to / name, asciiPage(readFile(from / name)));
+      writeFile(to / name, asciiPage(typeset(readFile(from / name))));
     } catch (const std::exception& error) {
       throw std::runtime_error(page + ": " + error.what());
     }
@@ -30,7 +31,7 @@ void buildHelp(const fs::path& help, const fs::path& output) {
   const std::vector<std::string> pages = pageNames(help / "strony");
   fs::remove_all(output / "strony");
   copyPages(help / "strony", output / "strony", pages);
-  writeFile(output / "styl.css", readFile(help / "styl.css"));
+  for (const char* sheet : kStyleSheets) writeFile(output / sheet, readFile(help / sheet));
   writeFile(output / "Werbolin.hhp", projectFile(pages));
   writeFile(output / "Werbolin.hhc", contentsFile(contents.contents));
   writeFile(output / "Werbolin.hhk", indexFile(contents.index));

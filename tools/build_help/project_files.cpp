@@ -46,7 +46,8 @@ std::string projectFile(const std::vector<std::string>& pages) {
       "Full-text search=Yes\r\n"
       "Language=0x415 Polish (Poland)\r\n"
       "Title=Odmiennik – pomoc\r\n\r\n"
-      "[FILES]\r\nstyl.css\r\n");
+      "[FILES]\r\n");
+  for (const char* sheet : kStyleSheets) text += std::string(sheet) + "\r\n";
   for (const std::string& page : pages) text += "strony\\" + page + "\r\n";
   // Context 2 is what the Help button of the entry box's hint asks for. chmcmd knows a page of an
   // alias by its forward slash alone, and writes its path as on the machine that compiles the help.

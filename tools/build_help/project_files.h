@@ -1,6 +1,7 @@
 // The project of the compiled help: its main file, table of contents and index, in Windows-1250.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -8,7 +9,11 @@
 
 namespace odmiennik::tools {
 
-// The project file, with the names of all pages (as they stand in strony/).
+// The style sheets of the help, beside the project file: what every page asks for, and what is read
+// behind it on a dark screen and on paper.
+inline constexpr std::array<const char*, 3> kStyleSheets{"styl.css", "ciemny.css", "druk.css"};
+
+// The project file, with the style sheets and the names of all pages (as they stand in strony/).
 [[nodiscard]] std::string projectFile(const std::vector<std::string>& pages);
 
 [[nodiscard]] std::string contentsFile(const std::vector<ContentsEntry>& entries);

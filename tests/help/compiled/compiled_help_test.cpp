@@ -7,6 +7,7 @@
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
+#include "tools/build_help/typesetting.h"
 
 namespace odmiennik::help {
 namespace {
@@ -15,6 +16,10 @@ const std::filesystem::path kSources = std::filesystem::path(ODMIENNIK_SOURCE_DI
 
 std::string pageSource(const std::string& name) {
   return tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end()));
+}
+
+std::string builtPage(const std::string& name) {
+  return tools::asciiPage(tools::typeset(pageSource(name)));
 }
 
 // The number at a place of a binary table, least significant byte first.
@@ -40,12 +45,13 @@ TEST(compiled_help, holds_every_page_as_it_was_written) {
   const std::vector<std::string> names = tools::pageNames(kSources / "strony");
   ASSERT_GE(names.size(), 18U);
   for (const std::string& name : names)
-    EXPECT_EQ(file.content("/strony/" + name), tools::asciiPage(pageSource(name))) << name;
+    EXPECT_EQ(file.content("/strony/" + name), builtPage(name)) << name;
 }
 
-TEST(compiled_help, holds_the_style_sheet) {
+TEST(compiled_help, holds_the_style_sheets) {
   const HelpFile file(ODMIENNIK_COMPILED_HELP);
-  EXPECT_EQ(file.content("/styl.css"), tools::readFile(kSources / "styl.css"));
+  for (const char* sheet : tools::kStyleSheets)
+    EXPECT_EQ(file.content(std::string("/") + sheet), tools::readFile(kSources / sheet)) << sheet;
 }
 
 TEST(compiled_help, holds_the_table_of_contents_and_the_index) {
