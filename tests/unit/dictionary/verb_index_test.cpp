@@ -34,8 +34,8 @@ TEST(VerbIndex, KnowsNothingOfAnythingElse) {
 }
 
 TEST(VerbIndex, Holds7342VerbsFiledUnderTheUnaccentedFirstLetter) {
-  constexpr int kCounts[] = {526, 329, 742, 1026, 818, 265, 202, 105, 215, 52, 7, 132, 307,
-                             70,  97,  526, 22,   942, 451, 314, 16,  152, 1,  0, 4,   21};
+  constexpr int kCounts[] = {526, 329, 742, 1026, 818, 265, 202, 106, 215, 52, 7, 132, 307,
+                             70,  97,  526, 22,   942, 450, 314, 16,  152, 1,  0, 4,   21};
   int sum = 0;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     EXPECT_EQ(verbCount(letter), kCounts[letter - 'a']) << letter;
@@ -112,7 +112,7 @@ class SpecialVerbs : public ::testing::TestWithParam<const char*> {
 
 TEST_P(SpecialVerbs, HaveTheirRecords) {
   const auto verbs = lines(GetParam());
-  ASSERT_GE(verbs.size(), 18U);
+  ASSERT_GE(verbs.size(), 17U);
   for (const std::string& line : verbs) {
     const auto tab = line.find('\t');
     EXPECT_EQ(record(line.substr(0, tab)), line.substr(tab + 1)) << line;
@@ -120,7 +120,7 @@ TEST_P(SpecialVerbs, HaveTheirRecords) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, SpecialVerbs,
-                         ::testing::Values("avoir_ou_etre", "etre", "group4", "h_aspire",
+                         ::testing::Values("avoir_ou_etre", "decided", "etre", "group4", "h_aspire",
                                            "impersonal", "pronominal"),
                          [](const auto& list) { return std::string(list.param); });
 

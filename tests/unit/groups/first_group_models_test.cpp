@@ -197,10 +197,10 @@ TEST(EterModel, ComparesTheWholeInfinitive) {
 
 TEST(ElerModel, ListedVerbsOpenTheirE) {
   for (const std::string_view verb :
-       {"aciseler",   "geler",    "celer",      "ciseler",   "congeler", "déceler",
-        "décongeler", "dégeler",  "démanteler", "écarteler", "embreler", "épinceler",
-        "friseler",   "harceler", "marteler",   "modeler",   "peler",    "receler",
-        "recongeler", "regeler",  "remodeler",  "surgeler"}) {
+       {"aciseler",   "geler",    "celer",      "ciseler",   "congeler",     "déceler",
+        "décongeler", "dégeler",  "démanteler", "écarteler", "embreler",     "épinceler",
+        "friseler",   "harceler", "marteler",   "modeler",   "peler",        "receler",
+        "recongeler", "regeler",  "remodeler",  "surgeler",  "cyberharceler"}) {
     const std::string stem(verb.substr(0, verb.size() - 4));
     EXPECT_EQ(ByRule(verb).slot(0), stem + "èle");
     EXPECT_EQ(ByRule(verb).slot(5), stem + "èlent");
