@@ -1,6 +1,7 @@
 // The tense headings as links to the help.
 #include <QTest>
 
+#include "app/controls/form_columns.h"
 #include "app/controls/form_surface.h"
 #include "app/help/tense_headings.h"
 #include "app/layout/scaled_layout.h"
@@ -23,7 +24,8 @@ class NotedHelp final : public app::HelpOpener {
 struct HeadingsUnderTest {
   app::FormSurface surface{nullptr};
   app::Controls controls{surface};
-  app::ScaledLayout layout{controls, surface};
+  app::FormColumns columns{controls};
+  app::ScaledLayout layout{controls, surface, columns};
   NotedHelp help;
   app::TenseHeadings headings{controls, help, nullptr};
 };
@@ -168,10 +170,11 @@ void TenseHeadingsSuite::aReleaseOutsideTheHeadingOpensNothing() {
 void TenseHeadingsSuite::theUnderlineOutlivesAChangeOfSize() {
   point(4);
   const int before = QFontInfo(label(4).font()).pixelSize();
-  app::Layout& layout = made_->layout.layout();
-  const app::TwipSize larger{layout.design.width * 2, layout.design.height * 2};
-  QVERIFY(app::RescaleLayout(layout, larger, {}, [] { return true; }));
-  layout.design = larger;
+  const app::TwipSize design = made_->layout.layout().design;
+  const app::TwipSize larger{design.width * 2, design.height * 2};
+  const bool isMinimised = false;
+  QVERIFY(made_->layout.dragged().resize(larger, isMinimised, {}, [] { return true; }) ==
+          app::Rescaled::rescaled);
   made_->layout.apply();
   QVERIFY(QFontInfo(label(4).font()).pixelSize() > before);
   QCOMPARE(underlined(), QList<int>{4});
