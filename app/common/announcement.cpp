@@ -30,12 +30,17 @@ class Announcer final : public QObject {
     delay_.start();
   }
 
+  void setListener(std::function<void(const QString&)> listener) {
+    listener_ = std::move(listener);
+  }
+
   [[nodiscard]] const QString& said() const { return said_; }
 
  private:
   void say() {
     said_ = sentences_.join(QLatin1Char(' '));
     sentences_.clear();
+    if (listener_) return listener_(said_);
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
   }
@@ -43,6 +48,7 @@ class Announcer final : public QObject {
   QTimer delay_;
   QStringList sentences_;
   QString said_;
+  std::function<void(const QString&)> listener_;
 };
 
 // The notification as a screen reader sees it: part of the program, and of none of its windows,
@@ -68,15 +74,21 @@ QAccessibleInterface* notificationOf(const QString& /*className*/, QObject* obje
   return dynamic_cast<Announcer*>(object) == nullptr ? nullptr : new Notification(object);
 }
 
+Announcer& announcer() {
+  static QPointer<Announcer> only;
+  if (!only) {
+    QAccessible::installFactory(notificationOf);
+    only = new Announcer(*qApp);
+  }
+  return *only;
+}
+
 }  // namespace
 
-void announce(const QString& sentence) {
-  static QPointer<Announcer> announcer;
-  if (!announcer) {
-    QAccessible::installFactory(notificationOf);
-    announcer = new Announcer(*qApp);
-  }
-  announcer->add(sentence);
+void announce(const QString& sentence) { announcer().add(sentence); }
+
+void announceTo(std::function<void(const QString&)> listener) {
+  announcer().setListener(std::move(listener));
 }
 
 }  // namespace odmiennik::app

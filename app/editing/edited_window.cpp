@@ -41,6 +41,7 @@ void EditedWindow::setEntryText(std::string_view text) {
 }
 
 void EditedWindow::clearBoxes() {
+  const ChangesUnheard unheard;
   for (int slot = 0; slot < engine::kSlotCount; ++slot) window_.boxes()[slot].showForm(QString());
 }
 

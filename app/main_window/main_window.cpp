@@ -166,6 +166,7 @@ void MainWindow::tellInformation() {
 // All texts change before anything is painted: one repaint a conjugation.
 void MainWindow::showConjugation() {
   const FormColumns::Pause pause(columns_);
+  const ChangesUnheard unheard;
   surface_.setUpdatesEnabled(false);
   surface_.pronouns().show(conjugation_.shown.pronouns);
   boxes_.show(conjugation_.shown);

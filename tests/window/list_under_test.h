@@ -34,6 +34,7 @@ struct ListUnderTest {
   ListUnderTest(const std::vector<std::string_view>& saved, std::int32_t count)
       : folder(saved), verbs(folder.prefix(), count, messages) {
     main.show();
+    verbs.tellOfChanges([this] { window.followUserVerbs(); });
     window.showFor(dictionary::ListPurpose::list);
     if (!QTest::qWaitForWindowActive(&window)) qFatal("the list does not become active");
   }

@@ -105,7 +105,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 33);
+  QCOMPARE(items, 35);
   QCOMPARE(names.size(), items);
 }
 

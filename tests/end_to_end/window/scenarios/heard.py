@@ -6,6 +6,7 @@ from waiting import wait_for
 
 SCREEN_READER = True
 
+FORM = "Impératif présent, tu"  # two Tabs from the entry box
 FIRST_BOXES = ("Indicatif présent, je", "Subjonctif présent, je", "Conditionnel présent, je",
                "Impératif passé, tu", "Participe passé")
 
@@ -15,15 +16,28 @@ def _start(program):
     program.reader.await_said(ENTRY)
 
 
+def _type(program, box, word):
+    """Types over what is selected, and waits until the last letter is there, not only completed."""
+    keyboard.type_text(word)
+    box = program.box(box)
+    wait_for(lambda: box.text == word and box.caret == len(word) and not box.selection,
+             f"{word!r} to be typed")
+
+
+def _open_list(program, hint=""):
+    program.menu_item("Czasownik", "Lista").press()
+    program.reader.await_said("Lista czasowników", hint)
+    program.reader.await_said("Wprowadzone przez użytkownika")
+
+
 def a_verb_is_conjugated_edited_saved_and_deleted(program):
     reader = program.reader
     _start(program)
-    keyboard.type_text("finir")
-    program.box(ENTRY).await_text("finir")
+    _type(program, ENTRY, "finir")
     keyboard.keys("Return")
     reader.await_said("finir: grupa druga, czasownik posiłkowy avoir")
     keyboard.keys("Tab", "Tab")
-    reader.await_said("Participe présent")
+    reader.await_said(FORM)
     keyboard.keys("ctrl+i")
     reader.await_said("finir: grupa druga")
     keyboard.keys("ctrl+b")
@@ -31,15 +45,11 @@ def a_verb_is_conjugated_edited_saved_and_deleted(program):
     keyboard.keys("F2")
     reader.await_said("Edycja czasownika finir")
     keyboard.keys("Tab", "Tab")
-    reader.await_said("Participe présent")
-    keyboard.type_text("finix")
-    program.box("Participe présent").await_text("finix")
+    reader.await_said(FORM)
+    _type(program, FORM, "finix")
     keyboard.keys("ctrl+s")
-    reader.await_said("Zapisano czasownik finir.")
-    keyboard.keys("F2")
-    reader.await_said("Koniec edycji.")
-    keyboard.keys("alt+c", "l")
-    reader.await_said("Wprowadzone przez użytkownika")
+    reader.await_said("Zapisano czasownik finir. Koniec edycji.", "Formy z Twojego pliku.")
+    _open_list(program)
     keyboard.keys("Tab")
     reader.await_said("finir")
     keyboard.keys("alt+u")
@@ -58,8 +68,7 @@ def every_tense_is_announced_with_its_mood_and_person(program):
 def the_new_caption_of_the_auxiliary_and_the_next_tip_are_said(program):
     reader = program.reader
     _start(program)
-    keyboard.type_text("monter")
-    program.box(ENTRY).await_text("monter")
+    _type(program, ENTRY, "monter")
     keyboard.keys("Return")
     reader.await_said("monter:", "avoir lub être")
     program.check_box().focus()
@@ -79,10 +88,7 @@ def the_new_caption_of_the_auxiliary_and_the_next_tip_are_said(program):
 
 def the_list_says_its_choice_and_each_verb(program):
     _start(program)
-    keyboard.keys("alt+c", "l")
-    program.reader.await_said("Lista czasowników")
-    program.reader.await_said("Wprowadzone przez użytkownika")
-    program.reader.await_said("Nie masz jeszcze własnych czasowników.")
+    _open_list(program, "Nie masz jeszcze własnych czasowników.")
     keyboard.keys("Down")
     program.reader.await_said("a")
     keyboard.keys("Tab")
