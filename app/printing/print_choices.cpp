@@ -7,14 +7,19 @@ namespace odmiennik::app {
 namespace {
 
 // Qt knows papers by English names; these have the same in every language.
-constexpr QPageSize::PageSizeId kNamedPapers[] = {QPageSize::A3, QPageSize::A4, QPageSize::A5,
-                                                  QPageSize::A6, QPageSize::B4, QPageSize::B5};
+struct NamedPaper {
+  QPageSize::PageSizeId id;
+  const char* name;
+};
+constexpr NamedPaper kNamedPapers[] = {{QPageSize::A3, "A3"}, {QPageSize::A4, "A4"},
+                                       {QPageSize::A5, "A5"}, {QPageSize::A6, "A6"},
+                                       {QPageSize::B4, "B4"}, {QPageSize::B5, "B5"}};
 
 }  // namespace
 
 QString paperName(const QPageSize& paper) {
-  for (const QPageSize::PageSizeId named : kNamedPapers)
-    if (paper.id() == named) return QPageSize::key(named);
+  for (const auto& [id, name] : kNamedPapers)
+    if (paper.id() == id) return QLatin1String(name);
   const QSize size = paper.size(QPageSize::Millimeter).toSize();
   return QStringLiteral("%1 × %2 mm").arg(size.width()).arg(size.height());
 }
