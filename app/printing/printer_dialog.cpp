@@ -46,7 +46,7 @@ PrinterDialog::PrinterDialog(const PrintChoices& choices, QWidget* parent)
 void PrinterDialog::layOut() {
   setMinimumWidth(kWidth);
   auto* rows = new QFormLayout(this);
-  rows->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+  rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   rows->addRow(captionOf(QStringLiteral("&Drukarka:"), printers_), &printers_);
   rows->addRow(captionOf(QStringLiteral("&Papier:"), papers_), &papers_);
   rows->addRow(QStringLiteral("&Liczba kopii:"), &copies_);
