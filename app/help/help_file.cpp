@@ -7,6 +7,7 @@
 #include <chm_lib.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "app/help/help_file_check.h"
 
@@ -22,7 +23,9 @@ constexpr char kResetTable[] =
     "::DataSpace/Storage/MSCompressed/Transform/{7FC28940-9D31-11D0-9B27-00A0C91E9C7C}/"
     "InstanceData/ResetTable";
 
+// A pipe would be waited for, and a device read without an end.
 bool isSound(const QString& path) {
+  if (!QFileInfo(path).isFile()) return false;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly) || file.size() > kLongestFile) return false;
   const QByteArray bytes = file.readAll();

@@ -1,4 +1,10 @@
 // The help viewer without its file or a page of it, and on a file that is damaged or comes later.
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+#include <filesystem>
+
 #include "tests/window/help_under_test.h"
 #include "tests/window/suites.h"
 
@@ -14,6 +20,8 @@ class HelpFaultsSuite : public QObject {
 
   void aMissingFileIsToldInPolish();
   void aDamagedFileIsToldInPolish();
+  void whatIsNoOrdinaryFileIsToldInPolish();
+  void aFileOfFourGigabytesIsToldInPolish();
   void aMissingPageIsToldInPolish();
   void aFileThatComesLaterIsOpened();
 
@@ -41,6 +49,33 @@ void HelpFaultsSuite::aDamagedFileIsToldInPolish() {
     help_->viewer().open("strony\\default.htm");
     QVERIFY(help_->pages().toPlainText().startsWith("Plik pomocy jest uszkodzony"));
   }
+}
+
+// Reading any of these would wait for ever or never end.
+void HelpFaultsSuite::whatIsNoOrdinaryFileIsToldInPolish() {
+#ifdef _WIN32
+  QSKIP("this system has no pipes and devices among its files");
+#else
+  const std::string pipe = (help_->folder.path() / "pipe.chm").string();
+  QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+  for (const char* file : {pipe.c_str(), "/dev/zero", "/dev/full"}) {
+    const std::string place = (help_->folder.path() / "Werbolin.chm").string();
+    std::filesystem::remove(place);
+    std::filesystem::create_symlink(file, place);
+    help_->viewer().lookIn({QString::fromStdString(place)});
+    help_->viewer().open("strony\\default.htm");
+    QVERIFY(help_->pages().toPlainText().startsWith("Plik pomocy jest uszkodzony"));
+  }
+#endif
+}
+
+void HelpFaultsSuite::aFileOfFourGigabytesIsToldInPolish() {
+  const QString place = QString::fromStdString((help_->folder.path() / "Werbolin.chm").string());
+  QVERIFY(QFile::copy(app::helpFilePlaces().front(), place));
+  QVERIFY(QFile::resize(place, 4LL << 30));
+  help_->viewer().lookIn({place});
+  help_->viewer().open("strony\\default.htm");
+  QVERIFY(help_->pages().toPlainText().startsWith("Plik pomocy jest uszkodzony"));
 }
 
 void HelpFaultsSuite::aMissingPageIsToldInPolish() {
