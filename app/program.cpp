@@ -27,7 +27,7 @@ Program::Program(const Surroundings& given)
       printing_(window_, given.messages),
       listMenu_(window_, prefix_, userVerbs_, editing_),
       demonstration_(window_, editing_, given.pointer),
-      help_(window_, given.messages, [this] {
+      help_(window_, given.store, given.messages, [this] {
         return Usage{settings_.conjugationCount(), settings_.runCount()};
       }) {
   giveIconLater(window_);

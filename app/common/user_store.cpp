@@ -22,19 +22,23 @@ UserStore::UserStore(const QString& file) : settings_(file, QSettings::IniFormat
 
 bool UserStore::isTipShownAtStart() const { return isOne(kTipAtStartKey); }
 
-void UserStore::setTipShownAtStart(bool isShown) { write(kTipAtStartKey, isShown); }
+void UserStore::setTipShownAtStart(bool isShown) { write(kTipAtStartKey, isShown ? 1 : 0); }
 
 bool UserStore::isCompletionOn() const { return isOne(kCompletionKey); }
 
-void UserStore::setCompletionOn(bool isOn) { write(kCompletionKey, isOn); }
+void UserStore::setCompletionOn(bool isOn) { write(kCompletionKey, isOn ? 1 : 0); }
+
+int UserStore::helpZoom() const { return settings_.value(pathOf(kHelpZoomKey), 100).toInt(); }
+
+void UserStore::setHelpZoom(int percent) { write(kHelpZoomKey, percent); }
 
 bool UserStore::isOne(std::string_view key) const {
   const QVariant stored = settings_.value(pathOf(key));
   return !stored.isValid() || stored.toInt() == 1;
 }
 
-void UserStore::write(std::string_view key, bool value) {
-  settings_.setValue(pathOf(key), value ? 1 : 0);
+void UserStore::write(std::string_view key, int value) {
+  settings_.setValue(pathOf(key), value);
   settings_.sync();
 }
 

@@ -25,9 +25,13 @@ class UserStore {
   [[nodiscard]] bool isCompletionOn() const;
   void setCompletionOn(bool isOn);
 
+  // "Powiększenie pomocy": the size of the help's pages in percent; 100 when nothing is kept.
+  [[nodiscard]] int helpZoom() const;
+  void setHelpZoom(int percent);
+
  private:
   [[nodiscard]] bool isOne(std::string_view key) const;
-  void write(std::string_view key, bool value);
+  void write(std::string_view key, int value);
 
   QSettings settings_;
 };

@@ -10,8 +10,6 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr char kContentsPath[] = "/Werbolin.hhc";
-
 QString message(const char* heading, const QString& text) {
   return QStringLiteral("<h2>%1</h2><p>%2</p>").arg(QString::fromUtf8(heading), text);
 }
@@ -88,9 +86,13 @@ QString HelpBook::faultPage(const QUrl& address) const {
                      .arg(nameOf(address)));
 }
 
-std::vector<HelpContentsEntry> HelpBook::contents() const {
+std::vector<HelpContentsEntry> HelpBook::contents() const { return entriesOf("/Werbolin.hhc"); }
+
+std::vector<HelpContentsEntry> HelpBook::index() const { return entriesOf("/Werbolin.hhk"); }
+
+std::vector<HelpContentsEntry> HelpBook::entriesOf(const char* file) const {
   if (!file_) return {};
-  return readHelpContents(file_->content(QLatin1String(kContentsPath)).value_or(QByteArray()));
+  return readHelpContents(file_->content(QLatin1String(file)).value_or(QByteArray()));
 }
 
 }  // namespace odmiennik::app

@@ -36,11 +36,14 @@ class HelpBook {
   // What belongs to a page, a style sheet; empty when there is none.
   [[nodiscard]] QByteArray part(const QUrl& address) const;
 
+  // The table of contents, and the index with its keywords as titles; empty without a file.
   [[nodiscard]] std::vector<HelpContentsEntry> contents() const;
+  [[nodiscard]] std::vector<HelpContentsEntry> index() const;
 
  private:
   enum class State : std::uint8_t { open, missing, damaged };
   [[nodiscard]] std::optional<QByteArray> content(const QUrl& address) const;
+  [[nodiscard]] std::vector<HelpContentsEntry> entriesOf(const char* file) const;
   [[nodiscard]] QString faultPage(const QUrl& address) const;
 
   QStringList places_;

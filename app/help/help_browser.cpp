@@ -1,23 +1,24 @@
 // The pages of the help.
 #include "app/help/help_browser.h"
 
+#include <QApplication>
 #include <QImage>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocumentFragment>
+#include <QWheelEvent>
+
+#include "app/common/colours.h"
+#include "app/help/folded_text.h"
+#include "app/help/help_sheet.h"
+#include "app/help/page_colours.h"
 
 namespace odmiennik::app {
 namespace {
 
 constexpr qreal kMargin = 14;
-
-QPalette paperPalette() {
-  QPalette palette(QColor(0xF0, 0xF0, 0xF0));
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, QColor(0x20, 0x20, 0x20));
-  palette.setColor(QPalette::Link, QColor(0x1A, 0x56, 0xA8));
-  palette.setColor(QPalette::LinkVisited, QColor(0x1A, 0x56, 0xA8));
-  palette.setColor(QPalette::Highlight, QColor(0x1F, 0x3D, 0x7A));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  return palette;
-}
 
 // A transparent point: where nothing is given, the text view would read a local file itself.
 QImage noPicture() {
@@ -26,16 +27,27 @@ QImage noPicture() {
   return picture;
 }
 
+// As it would be typed: hyphens and blanks that hold a line together are the page's alone.
+QString typedText(QString text) {
+  return text.replace(QChar(u'\u2011'), QLatin1Char('-')).replace(QChar::Nbsp, QLatin1Char(' '));
+}
+
+bool isOnDark() { return isDark(QApplication::palette()); }
+
 }  // namespace
 
+// Lines end between words alone: a form is never broken, a table rather wider than the window.
 HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
     : QTextBrowser(parent), book_(book) {
   setObjectName(QStringLiteral("txtStrona"));
   setAccessibleName(QStringLiteral("Strona pomocy"));
   setOpenExternalLinks(false);
-  setPalette(paperPalette());
+  setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  setWordWrapMode(QTextOption::WordWrap);
+  setPalette(pagePalette(isOnDark()));
   setMinimumSize(320, 240);
   document()->setDocumentMargin(kMargin);
+  connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::sayPage);
 }
 
 // Every answer holds something, if only an empty text: without one the text view looks for a local
@@ -44,9 +56,104 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   if (type == QTextDocument::ImageResource) return noPicture();
   const QUrl address = name.isRelative() ? page_.resolved(name) : name;
   if (type == QTextDocument::StyleSheetResource)
-    return QString::fromUtf8(book_.part(address)) + QLatin1Char('\n');
+    return sheetAt(sheet(address), zoom_) + QLatin1Char('\n');
   page_ = address;
   return book_.page(address);
+}
+
+void HelpBrowser::doSetSource(const QUrl& address, QTextDocument::ResourceType type) {
+  QTextBrowser::doSetSource(address, type);
+  takeHeadingSizes(*document());
+}
+
+QString HelpBrowser::sheet(const QUrl& address) const {
+  QByteArray sheet = book_.part(address);
+  if (isOnDark()) sheet += '\n' + book_.part(helpAddress(QLatin1String(kDarkSheet)));
+  return QString::fromUtf8(sheet);
+}
+
+void HelpBrowser::setZoom(int percent) {
+  if (percent == zoom_) return;
+  zoom_ = percent;
+  readAnew();
+}
+
+void HelpBrowser::followTheme() {
+  const QPalette colours = pagePalette(isOnDark());
+  if (colours.color(QPalette::Base) == palette().color(QPalette::Base)) return;
+  setPalette(colours);
+  readAnew();
+}
+
+// Where the caret is not in sight, the first line that is counts as read.
+void HelpBrowser::readAnew() {
+  if (source().isEmpty()) return;
+  const int caret = textCursor().position();
+  const int top = cursorForPosition({0, 0}).position();
+  const QString marked = marked_;
+  reload();
+  markAll(marked);
+  QTextCursor place(document());
+  place.setPosition(std::min(top, document()->characterCount() - 1));
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(place).top());
+  place.setPosition(std::min(caret, document()->characterCount() - 1));
+  const int scrolled = verticalScrollBar()->value();
+  setTextCursor(place);
+  verticalScrollBar()->setValue(scrolled);
+}
+
+void HelpBrowser::mark(const QString& typed) {
+  markAll(typed);
+  if (extraSelections().isEmpty()) return;
+  QTextCursor first = extraSelections().front().cursor;
+  first.setPosition(first.selectionStart());
+  setTextCursor(first);
+}
+
+void HelpBrowser::markAll(const QString& typed) {
+  marked_ = typed;
+  const FoldedText text = folded(document()->toRawText());
+  QList<QTextEdit::ExtraSelection> marks;
+  for (const TextHit& hit : hitsOf(text, searchedWords(typed))) {
+    QTextCursor place(document());
+    place.setPosition(hit.place);
+    place.setPosition(hit.place + hit.length, QTextCursor::KeepAnchor);
+    marks.push_back({place, markFormat(isOnDark())});
+  }
+  setExtraSelections(marks);
+}
+
+QString HelpBrowser::heading() const { return document()->begin().text(); }
+
+// The name of what has the focus is said when it changes.
+void HelpBrowser::sayPage() {
+  markAll({});
+  setAccessibleName(QStringLiteral("Strona pomocy: %1").arg(heading()));
+}
+
+// The caret stands in a link as well when it was not Tab that led there.
+void HelpBrowser::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const QString link = anchorAt(cursorRect().center());
+  if (isEnter && !textCursor().hasSelection() && !link.isEmpty())
+    setSource(source().resolved(QUrl(link)));
+  else
+    QTextBrowser::keyPressEvent(event);
+}
+
+void HelpBrowser::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextBrowser::wheelEvent(event);
+  const int turned = event->angleDelta().y();
+  if (turned != 0) emit zoomTurned(turned > 0 ? 1 : -1);
+  event->accept();
+}
+
+QMimeData* HelpBrowser::createMimeDataFromSelection() const {
+  const QTextDocumentFragment selected = textCursor().selection();
+  auto* copied = new QMimeData;
+  copied->setText(typedText(selected.toPlainText()));
+  copied->setHtml(typedText(selected.toHtml()));
+  return copied;
 }
 
 }  // namespace odmiennik::app

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QMenuBar>
 
 #include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
@@ -28,11 +29,25 @@ class ItemKey final : public QObject {
   std::function<void()> pressed_;
 };
 
+const QWidget* windowBehind(const QWidget& window) {
+  return window.parentWidget() == nullptr ? nullptr : window.parentWidget()->window();
+}
+
+// The page of the window in front, or of the one that a message or a dialog belongs to.
+std::string_view topicInFront() {
+  for (const QWidget* window = QApplication::activeWindow(); window != nullptr;
+       window = windowBehind(*window))
+    if (const auto page = topicOfWindow(window->objectName().toStdString())) return *page;
+  return kWelcomePage;
+}
+
 }  // namespace
 
-HelpCommands::HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages,
+HelpCommands::HelpCommands(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages,
                            std::function<Usage()> usage)
-    : help_(window), headings_(window.controls(), help_, nullptr) {
+    : help_(window, store),
+      headings_(window.controls(), help_, nullptr),
+      key_([this, &window] { openForFocus(window); }) {
   QAction& topics = menuItem(*window.menuBar(), "mnuPomocTematy");
   topics.setShortcutContext(Qt::ApplicationShortcut);  // beside the main window too
   new ItemKey(topics, [this, &window] { openForFocus(window); });
@@ -53,9 +68,7 @@ void HelpCommands::openForFocus(const MainWindow& window) {
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     if (&window.boxes()[slot] == QApplication::focusWidget())
       if (const auto page = topicOfSlot(slot)) return help_.open(*page);
-  const QWidget* front = QApplication::activeWindow();
-  const std::string name = front == nullptr ? std::string() : front->objectName().toStdString();
-  help_.open(topicOfWindow(name).value_or(kWelcomePage));
+  help_.open(topicInFront());
 }
 
 }  // namespace odmiennik::app

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/about/about_window.h"
+#include "app/help/help_key.h"
 #include "app/help/help_viewer.h"
 #include "app/help/tense_headings.h"
 #include "dictionary/messages.h"
@@ -12,13 +13,17 @@ namespace odmiennik::app {
 
 class MainWindow;
 
-// The items of the menu, the tense headings, and F1: in a form box the page of its tense, in the
-// verb list its own, elsewhere the first page of the help.
+// The items of the menu, the tense headings, and F1 in every window: in a form box the page of its
+// tense, in a window beside the main one its own or that of the window it belongs to, elsewhere the
+// first page of the help.
 class HelpCommands {
  public:
-  // `usage` is asked whenever the about window opens.
-  HelpCommands(MainWindow& window, dictionary::MessageBoxes& messages,
+  // `store` keeps what the viewer keeps; `usage` is asked whenever the about window opens.
+  HelpCommands(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages,
                std::function<Usage()> usage);
+
+  HelpCommands(const HelpCommands&) = delete;
+  HelpCommands& operator=(const HelpCommands&) = delete;
 
   [[nodiscard]] HelpViewer& help() { return help_; }
 
@@ -27,6 +32,7 @@ class HelpCommands {
 
   HelpViewer help_;
   TenseHeadings headings_;
+  HelpKey key_;
 };
 
 }  // namespace odmiennik::app

@@ -5,6 +5,8 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "app/help/page_text.h"
+
 namespace odmiennik::app {
 namespace {
 
@@ -18,18 +20,6 @@ constexpr char16_t kUpperHalf[] =
     u"\u00A0ˇ˘Ł¤Ą¦§¨©Ş«¬\u00AD®Ż°±˛ł´µ¶·¸ąş»Ľ˝ľż"
     u"ŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖ×ŘŮÚŰÜÝŢßŕáâăäĺćçčéęëěíîďđńňóôőö÷řůúűüýţ˙";
 static_assert(std::size(kUpperHalf) == 128 + 1);
-
-QString withoutEntities(QString text) {
-  static const QRegularExpression numeric(QStringLiteral("&#(\\d{1,6});"));
-  for (auto match = numeric.match(text); match.hasMatch(); match = numeric.match(text)) {
-    const char32_t letter = match.captured(1).toUInt();
-    text.replace(match.capturedStart(), match.capturedLength(), QString::fromUcs4(&letter, 1));
-  }
-  return text.replace(QLatin1String("&lt;"), QLatin1String("<"))
-      .replace(QLatin1String("&gt;"), QLatin1String(">"))
-      .replace(QLatin1String("&quot;"), QLatin1String("\""))
-      .replace(QLatin1String("&amp;"), QLatin1String("&"));
-}
 
 QString attribute(const QString& tag, const char* name) {
   const QRegularExpression pattern(QLatin1String(name) + QLatin1String("\\s*=\\s*\"([^\"]*)\""),

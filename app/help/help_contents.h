@@ -1,4 +1,4 @@
-// The table of contents of a compiled help file.
+// The table of contents and the index of a compiled help file.
 #pragma once
 
 #include <QByteArray>
@@ -15,8 +15,9 @@ struct HelpContentsEntry {
   bool operator==(const HelpContentsEntry&) const = default;
 };
 
-// Reads a contents file (.hhc): lists of objects with a name and a page, in Windows-1250. What it
-// does not understand is passed over; levels deeper than eight and very long lists are cut off.
+// Reads a contents file (.hhc) or an index (.hhk): lists of objects with a name and a page, in
+// Windows-1250. What it does not understand is passed over; levels deeper than eight and very long
+// lists are cut off.
 [[nodiscard]] std::vector<HelpContentsEntry> readHelpContents(const QByteArray& file);
 
 // Text in Windows-1250, the encoding of Polish help files: "\xB9" -> "ą".

@@ -3,8 +3,31 @@
 
 #include <QHBoxLayout>
 #include <QShortcut>
+#include <algorithm>
+#include <optional>
+
+#include "app/help/folded_text.h"
 
 namespace odmiennik::app {
+namespace {
+
+// The next hit in the direction, seen from the selection; the search begins anew at the end.
+std::optional<TextHit> nextHit(const std::vector<TextHit>& hits, const QTextCursor& from,
+                               bool isBackward) {
+  if (hits.empty()) return std::nullopt;
+  const auto behind = [&](const TextHit& hit) { return hit.place >= from.selectionEnd(); };
+  const auto before = [&](const TextHit& hit) {
+    return hit.place + hit.length <= from.selectionStart();
+  };
+  if (isBackward) {
+    const auto found = std::find_if(hits.rbegin(), hits.rend(), before);
+    return found == hits.rend() ? hits.back() : *found;
+  }
+  const auto found = std::find_if(hits.begin(), hits.end(), behind);
+  return found == hits.end() ? hits.front() : *found;
+}
+
+}  // namespace
 
 HelpSearch::HelpSearch(QTextBrowser& page, QWidget* parent)
     : QWidget(parent),
@@ -23,20 +46,21 @@ HelpSearch::HelpSearch(QTextBrowser& page, QWidget* parent)
   connectControls();
 }
 
+// The answer takes what room there is: it never moves its neighbours or widens the window.
 void HelpSearch::arrange() {
   auto* caption = new QLabel(QStringLiteral("&Szukaj na stronie:"));
   caption->setBuddy(field_);
   field_->setMaximumWidth(220);
+  answer_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(caption);
-  row->addWidget(field_, 1);
+  row->addWidget(field_, 2);
   for (QPushButton* button : {next_, previous_}) {
     button->setAutoDefault(false);
     row->addWidget(button);
   }
-  row->addWidget(answer_);
-  row->addStretch(1);
+  row->addWidget(answer_, 1);
 }
 
 void HelpSearch::connectControls() {
@@ -46,6 +70,7 @@ void HelpSearch::connectControls() {
   connect(previous_, &QPushButton::clicked, this, backward);
   connect(field_, &QLineEdit::returnPressed, this, forward);
   connect(field_, &QLineEdit::textEdited, this, &HelpSearch::typed);
+  connect(&page_, &QTextBrowser::sourceChanged, this, [this] { answer({}); });
   connect(new QShortcut(QKeySequence(Qt::Key_F3), window()), &QShortcut::activated, this, forward);
   connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F3), window()), &QShortcut::activated,
           this, backward);
@@ -65,14 +90,23 @@ void HelpSearch::typed() {
 }
 
 void HelpSearch::search(QTextDocument::FindFlags direction) {
-  answer_->clear();
-  if (field_->text().isEmpty() || page_.find(field_->text(), direction)) return;
-  const QTextCursor before = page_.textCursor();
-  page_.moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End
-                                                                   : QTextCursor::Start);
-  if (page_.find(field_->text(), direction)) return;
-  page_.setTextCursor(before);
-  answer_->setText(QStringLiteral("Nie znaleziono."));
+  answer({});
+  const QString phrase = searchedPhrase(field_->text());
+  if (phrase.isEmpty()) return;
+  const FoldedText text = folded(page_.document()->toRawText());
+  const auto hit = nextHit(hitsOf(text, {phrase}), page_.textCursor(),
+                           direction.testFlag(QTextDocument::FindBackward));
+  if (!hit) return answer(QStringLiteral("Nie znaleziono."));
+  QTextCursor caret = page_.textCursor();
+  caret.setPosition(hit->place);
+  caret.setPosition(hit->place + hit->length, QTextCursor::KeepAnchor);
+  page_.setTextCursor(caret);
+}
+
+// Said by a screen reader as what is known of the field.
+void HelpSearch::answer(const QString& text) {
+  answer_->setText(text);
+  field_->setAccessibleDescription(text);
 }
 
 }  // namespace odmiennik::app

@@ -9,8 +9,8 @@
 
 namespace odmiennik::app {
 
-// A row with a field, its two buttons and the word that tells when nothing is found. The search
-// begins anew where the page ends.
+// A row with a field, its two buttons and the word that tells when nothing is found. Accents, case
+// and the kind of apostrophe do not matter. The search begins anew where the page ends.
 class HelpSearch final : public QWidget {
   Q_OBJECT
 
@@ -25,6 +25,7 @@ class HelpSearch final : public QWidget {
   void connectControls();
   void search(QTextDocument::FindFlags direction);
   void typed();
+  void answer(const QString& text);
 
   QTextBrowser& page_;
   QLineEdit* field_;

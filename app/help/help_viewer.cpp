@@ -6,7 +6,8 @@
 
 namespace odmiennik::app {
 
-HelpViewer::HelpViewer(QWidget& parent) : QObject(&parent), parent_(parent) {
+HelpViewer::HelpViewer(QWidget& parent, UserStore& store)
+    : QObject(&parent), parent_(parent), store_(store) {
   setObjectName(QStringLiteral("Hhopen1"));
 }
 
@@ -14,7 +15,7 @@ HelpViewer::HelpViewer(QWidget& parent) : QObject(&parent), parent_(parent) {
 HelpViewer::~HelpViewer() { delete window_; }
 
 void HelpViewer::open(std::string_view page) {
-  if (window_ == nullptr) window_ = new HelpWindow(book_, &parent_);
+  if (window_ == nullptr) window_ = new HelpWindow(book_, store_, &parent_);
   window_->showPage(fromUtf8(page));
 }
 

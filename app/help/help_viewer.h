@@ -14,8 +14,9 @@ class HelpViewer final : public QObject, public HelpOpener {
   Q_OBJECT
 
  public:
-  // The viewer's window belongs to `parent`; no help file is known yet.
-  explicit HelpViewer(QWidget& parent);
+  // The viewer's window belongs to `parent`; no help file is known yet. `store` keeps the size of
+  // the pages.
+  HelpViewer(QWidget& parent, UserStore& store);
   ~HelpViewer() override;
 
   // Where the help file is looked for, the first place first.
@@ -26,6 +27,7 @@ class HelpViewer final : public QObject, public HelpOpener {
 
  private:
   QWidget& parent_;
+  UserStore& store_;
   HelpBook book_;
   QPointer<HelpWindow> window_;
 };

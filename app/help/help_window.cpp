@@ -7,12 +7,13 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
-#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
-#include <algorithm>
+#include <array>
 #include <memory>
 
 #include "app/common/text.h"
+#include "app/common/user_store.h"
+#include "app/help/help_printing.h"
 #include "app/logic/tense_topics.h"
 
 namespace odmiennik::app {
@@ -20,11 +21,9 @@ namespace {
 
 constexpr QSize kDesignedSize(940, 660);
 constexpr int kContentsWidth = 260;
-constexpr int kEntryHeight = 18;
-constexpr int kPageRole = Qt::UserRole;
 
-QPushButton* button(const char* name, const char* caption) {
-  auto* made = new QPushButton(QString::fromUtf8(caption));
+QPushButton* button(QWidget* parent, const char* name, const char* caption) {
+  auto* made = new QPushButton(QString::fromUtf8(caption), parent);
   made->setObjectName(QString::fromUtf8(name));
   made->setAutoDefault(false);
   return made;
@@ -32,43 +31,47 @@ QPushButton* button(const char* name, const char* caption) {
 
 }  // namespace
 
-HelpWindow::HelpWindow(HelpBook& book, QWidget* parent)
+HelpWindow::HelpWindow(HelpBook& book, UserStore& store, QWidget* parent)
     : SteadyWindow(parent, Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint),
-      book_(book) {
+      book_(book),
+      store_(store) {
   setObjectName(QStringLiteral("frmPomoc"));
   setWindowTitle(QStringLiteral("Odmiennik – pomoc"));
   create();
   arrange();
   connectControls();
   connectKeys();
+  connectZoom();
   resize(kDesignedSize.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
+// In the order of the Tab key.
 void HelpWindow::create() {
-  pages_ = new HelpBrowser(book_, this);
-  search_ = new HelpSearch(*pages_, this);
-  contents_ = new QTreeWidget;
-  contents_->setObjectName(QStringLiteral("treSpis"));
-  contents_->setAccessibleName(QStringLiteral("Spis treści"));
-  contents_->setHeaderHidden(true);
-  contents_->setUniformRowHeights(true);
-  back_ = button("cmdWstecz", "&Wstecz");
-  forward_ = button("cmdDalej", "&Dalej");
-  home_ = button("cmdPoczątek", "&Początek");
-  print_ = button("cmdDrukuj", "D&rukuj…");
+  back_ = button(this, "cmdWstecz", "&Wstecz");
+  forward_ = button(this, "cmdDalej", "&Dalej");
+  home_ = button(this, "cmdPoczątek", "&Początek");
+  print_ = button(this, "cmdDrukuj", "D&rukuj…");
   back_->setEnabled(false);
   forward_->setEnabled(false);
+  panels_ = new SidePanels(book_, this);
+  pages_ = new HelpBrowser(book_, this);
+  pages_->setZoom(allowedZoom(store_.helpZoom()));
+  search_ = new HelpSearch(*pages_, this);
 }
 
 void HelpWindow::arrange() {
   auto* row = new QHBoxLayout;
   for (QPushButton* each : {back_, forward_, home_, print_}) row->addWidget(each);
-  row->addSpacing(12);
-  row->addWidget(search_, 1);
-  auto* halves = new QSplitter;
+  row->addStretch(1);
+  auto* right = new QWidget(this);
+  auto* column = new QVBoxLayout(right);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(pages_, 1);
+  column->addWidget(search_);
+  auto* halves = new QSplitter(this);
   halves->setChildrenCollapsible(false);
-  halves->addWidget(contents_);
-  halves->addWidget(pages_);
+  halves->addWidget(panels_);
+  halves->addWidget(right);
   halves->setStretchFactor(1, 1);
   halves->setSizes({kContentsWidth, kDesignedSize.width() - kContentsWidth});
   auto* all = new QVBoxLayout(this);
@@ -85,13 +88,10 @@ void HelpWindow::connectControls() {
   connect(pages_, &QTextBrowser::forwardAvailable, forward_, &QWidget::setEnabled);
   connect(home_, &QPushButton::clicked, this, [this] { showPage(fromUtf8(kWelcomePage)); });
   connect(print_, &QPushButton::clicked, this, &HelpWindow::choosePrinter, Qt::QueuedConnection);
-  connect(pages_, &QTextBrowser::sourceChanged, this, &HelpWindow::followPage);
-  const auto openEntry = [this](const QTreeWidgetItem* entry) {
-    const QString page = entry->data(0, kPageRole).toString();
-    if (!page.isEmpty()) pages_->setSource(helpAddress(page));
-  };
-  connect(contents_, &QTreeWidget::itemClicked, this, openEntry);
-  connect(contents_, &QTreeWidget::itemActivated, this, openEntry);
+  connect(pages_, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& address) { panels_->follow(address.path(QUrl::FullyDecoded)); });
+  connect(panels_, &SidePanels::chosen, this, &HelpWindow::choose);
+  connect(panels_, &SidePanels::entered, pages_, [this] { pages_->setFocus(); });
 }
 
 void HelpWindow::connectKeys() {
@@ -101,49 +101,80 @@ void HelpWindow::connectKeys() {
   key(QKeySequence::Back, pages_, &QTextBrowser::backward);
   key(QKeySequence::Forward, pages_, &QTextBrowser::forward);
   key(QKeySequence::Find, search_, &HelpSearch::begin);
+  key(Qt::CTRL | Qt::Key_T, panels_, &SidePanels::beginContents);
+  key(Qt::CTRL | Qt::Key_I, panels_, &SidePanels::beginIndex);
+  key(Qt::CTRL | Qt::SHIFT | Qt::Key_F, panels_, &SidePanels::beginFind);
+  key(Qt::Key_F6, this, [this] { moveOn(1); });
+  key(Qt::SHIFT | Qt::Key_F6, this, [this] { moveOn(-1); });
   key(QKeySequence::Print, print_, &QPushButton::click);
 }
 
-// Modal only where a modal window is open, whose Help button would else lead to a window that
-// cannot be used.
+void HelpWindow::connectZoom() {
+  const auto key = [this](QKeySequence keys, auto action) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+  };
+  for (const int plus : {Qt::Key_Plus, Qt::Key_Equal})
+    key(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(plus)), [this] { zoomBy(1); });
+  key(Qt::CTRL | Qt::Key_Minus, [this] { zoomBy(-1); });
+  key(Qt::CTRL | Qt::Key_0, [this] { zoomTo(kNormalZoom); });
+  connect(pages_, &HelpBrowser::zoomTurned, this, &HelpWindow::zoomBy);
+}
+
+void HelpWindow::zoomBy(int direction) { zoomTo(nextZoom(pages_->zoom(), direction)); }
+
+void HelpWindow::zoomTo(int percent) {
+  pages_->setZoom(percent);
+  store_.setHelpZoom(percent);
+}
+
+// From part to part: what stands at the left, the page, the search in it.
+void HelpWindow::moveOn(int direction) {
+  const std::array<QWidget*, 3> parts{panels_, pages_, search_};
+  std::size_t part = 0;
+  while (part + 1 < parts.size() && !parts[part]->isAncestorOf(focusWidget()) &&
+         parts[part] != focusWidget())
+    ++part;
+  const std::size_t next = (part + parts.size() + static_cast<std::size_t>(direction)) % 3;
+  if (parts[next] == panels_) return panels_->beginCurrent();
+  if (parts[next] == search_) return search_->begin();
+  pages_->setFocus();
+}
+
+void HelpWindow::choose(const QString& page, const QString& words) {
+  pages_->setSource(helpAddress(page));
+  if (!words.isEmpty()) pages_->mark(words);
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) pages_->followTheme();
+}
+
 void HelpWindow::showPage(const QString& page) {
-  if (book_.open()) fillContents();
+  if (book_.open()) panels_->fill();
+  pages_->followTheme();
   const QUrl address = helpAddress(page);
   if (pages_->source() == address)
     pages_->reload();
   else
     pages_->setSource(address);
-  if (!isVisible())
-    setWindowModality(QApplication::activeModalWidget() ? Qt::ApplicationModal : Qt::NonModal);
+  standInFront();
+}
+
+// Modal only where a modal window is open: beside it, the help could not be used.
+void HelpWindow::standInFront() {
+  const QWidget* modal = QApplication::activeModalWidget();
+  const Qt::WindowModality modality = modal == nullptr ? Qt::NonModal : Qt::ApplicationModal;
+  if (modal != this && modality != windowModality()) {
+    hide();
+    setWindowModality(modality);
+  }
   show();
   raise();
   activateWindow();
 }
 
-void HelpWindow::fillContents() {
-  contents_->clear();
-  std::vector<QTreeWidgetItem*> path{contents_->invisibleRootItem()};
-  for (const HelpContentsEntry& entry : book_.contents()) {
-    path.resize(std::min<std::size_t>(path.size(), static_cast<std::size_t>(entry.level)));
-    auto* item = new QTreeWidgetItem(path.back(), QStringList(entry.title));
-    item->setData(0, kPageRole, entry.page);
-    item->setSizeHint(0, QSize(0, kEntryHeight));
-    path.push_back(item);
-  }
-  contents_->expandAll();
-}
-
-// The entry that was chosen stays chosen where several lead to the page; else it is a page's own
-// entry, not that of its chapter.
-void HelpWindow::followPage(const QUrl& address) {
-  const auto leadsThere = [&](const QTreeWidgetItem& entry) {
-    return helpAddress(entry.data(0, kPageRole).toString()).path() == address.path();
-  };
-  if (contents_->currentItem() != nullptr && leadsThere(*contents_->currentItem())) return;
-  QTreeWidgetItemIterator entry(contents_, QTreeWidgetItemIterator::NoChildren);
-  while (*entry != nullptr && !leadsThere(**entry)) ++entry;
-  contents_->setCurrentItem(*entry);
-}
+void HelpWindow::printTo(QPrinter& printer) { printHelpPage(book_, pages_->source(), printer); }
 
 void HelpWindow::choosePrinter() {
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);

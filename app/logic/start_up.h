@@ -44,10 +44,11 @@ inline constexpr std::string_view kHelpFile = "Werbolin.chm";
 inline constexpr std::string_view kFirstStartMarker = "tmp.dat";
 inline constexpr std::string_view kCharacterMap = "CHARMAP.EXE";
 
-// Of the per-user store; both are 1 when they were never written.
+// Of the per-user store; the first two are 1 when they were never written.
 inline constexpr std::string_view kStoreSection = "Ustawienia";
 inline constexpr std::string_view kTipAtStartKey = "Pokazuj poradę dnia";
 inline constexpr std::string_view kCompletionKey = "Autouzupełnianie";
+inline constexpr std::string_view kHelpZoomKey = "Powiększenie pomocy";
 
 struct Version {
   int major = 0;

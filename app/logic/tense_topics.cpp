@@ -8,6 +8,20 @@ namespace {
 
 constexpr std::string_view kPageFolder = "strony\\";
 
+struct WindowTopic {
+  std::string_view window;
+  std::string_view page;
+};
+
+constexpr WindowTopic kWindowTopics[] = {
+    {"frmLista", "strony\\Lista.htm"},
+    {"frmKolory", "strony\\Litery.htm"},
+    {"dlgCommonDialog", "strony\\Drukowanie.htm"},
+    {"frmPomoc", "strony\\OknoPomocy.htm"},
+    {"frmTip", kWelcomePage},
+    {"frmAbout", kWelcomePage},
+};
+
 // The first slot of the tense that a slot belongs to.
 constexpr int tenseOfSlot(int slot) {
   if (slot < engine::slot::kImperative) return slot - slot % engine::kPersonCount;
@@ -55,7 +69,8 @@ std::optional<std::string> topicOfSlot(int slot) {
 }
 
 std::optional<std::string_view> topicOfWindow(std::string_view window) {
-  if (window == "frmLista") return "strony\\Lista.htm";
+  for (const WindowTopic& topic : kWindowTopics)
+    if (topic.window == window) return topic.page;
   return std::nullopt;
 }
 

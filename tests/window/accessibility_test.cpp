@@ -122,7 +122,7 @@ std::unique_ptr<QDialog> AccessibilitySuite::made(const QString& window) {
   }
   if (window == "frmAbout")
     return std::make_unique<app::AboutWindow>(&parent, app::Usage{}, program_->messages);
-  auto help = std::make_unique<app::HelpWindow>(book_, &parent);
+  auto help = std::make_unique<app::HelpWindow>(book_, program_->store, &parent);
   help->showPage(app::fromUtf8(app::kWelcomePage));
   return help;
 }

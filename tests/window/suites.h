@@ -26,6 +26,9 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> formLettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpFaultsSuite();
+[[nodiscard]] std::unique_ptr<QObject> helpPrintingSuite();
+[[nodiscard]] std::unique_ptr<QObject> helpReadingSuite();
+[[nodiscard]] std::unique_ptr<QObject> helpSearchSuite();
 [[nodiscard]] std::unique_ptr<QObject> hostileHelpSuite();
 [[nodiscard]] std::unique_ptr<QObject> lettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> listSuite();
