@@ -3,6 +3,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <memory>
 #include <string_view>
 
 namespace odmiennik::app {
@@ -33,7 +34,7 @@ class UserStore {
   [[nodiscard]] bool isOne(std::string_view key) const;
   void write(std::string_view key, int value);
 
-  QSettings settings_;
+  std::unique_ptr<QSettings> settings_;
 };
 
 }  // namespace odmiennik::app
