@@ -76,15 +76,15 @@ fs::path resourceScriptPath([[maybe_unused]] const std::string& prefix) {
 #ifdef _WIN32
   return pathOf("D:\\PROGRAMY\\PROGRAMOWANIE\\RC\\Czasowniki\\odmiana.rc");
 #else
-  return fileFor(prefix, "odmiana.rc");
+  return findFile(prefix, "odmiana.rc").path;
 #endif
 }
 
 bool buildResourceScript(const std::string& prefix, std::int32_t count, const fs::path& script,
                          FileSystem& files) {
-  const auto verbs = existingFile(prefix, "czasowniki.dat");
+  const auto verbs = existingFile(prefix, "czasowniki.dat", files);
   if (!verbs) return false;
-  FileReplacement entries(files, script);
+  FileReplacement entries(files, fileToReplace(files, {files.presence(script), script}));
   writeEntry(entries, std::to_string(text_id::kBuiltinCount), std::to_string(count));
   return writeEach(files.open(*verbs), count, entries, writeInfinitive) &&
          writeEach(files.open(*verbs), count, entries, writeForms) && entries.finish() &&
@@ -94,10 +94,10 @@ bool buildResourceScript(const std::string& prefix, std::int32_t count, const fs
 bool joinTextFiles(const std::string& prefix, FileSystem& files) {
   constexpr int kFirstText = 196, kLastText = 252;
   const std::string texts = prefix + "teksty" + static_cast<char>(fs::path::preferred_separator);
-  FileReplacement joined(files, fileFor(texts, "Połącz.txt"));
+  FileReplacement joined(files, fileToReplace(files, findFile(texts, "Połącz.txt", files)));
   // deliberate: even numbers only
   for (int number = kFirstText; number <= kLastText; number += 2)
-    if (const auto source = existingFile(texts, std::to_string(number) + ".txt"))
+    if (const auto source = existingFile(texts, std::to_string(number) + ".txt", files))
       if (!appendLines(files, *source, joined)) return false;
   return joined.finish() && joined.swapIn();
 }

@@ -17,17 +17,15 @@ bool isSameName(std::u8string_view left, std::u8string_view right) {
 }
 
 // The first in the order of the alphabet, so that the choice does not depend on the disk.
-std::optional<fs::path> anySpellingOf(const fs::path& wanted) {
+FoundFile anySpellingOf(const fs::path& wanted, FileSystem& files) {
+  const auto names = files.names(folderOf(wanted));
+  if (!names) return {Presence::unknown, wanted};
   const std::u8string name = wanted.filename().u8string();
   std::optional<fs::path> found;
-  std::error_code fault;
-  for (fs::directory_iterator entry(folderOf(wanted), fault), end; !fault && entry != end;
-       entry.increment(fault)) {
-    const fs::path other = entry->path().filename();
-    if (isSameName(other.u8string(), name) && (!found || other < found->filename()))
-      found = wanted.parent_path() / other;
-  }
-  return found;
+  for (const fs::path& other : *names)
+    if (isSameName(other.u8string(), name) && (!found || other < *found)) found = other;
+  if (!found) return {Presence::notThere, wanted};
+  return {Presence::there, wanted.parent_path() / *found};
 }
 
 }  // namespace
@@ -36,37 +34,33 @@ fs::path pathOf(std::string_view utf8) {
   return {std::u8string(reinterpret_cast<const char8_t*>(utf8.data()), utf8.size())};
 }
 
-bool isThere(const fs::path& file) {
-  std::error_code ignored;
-  return fs::exists(fs::symlink_status(file, ignored));
-}
-
-fs::path linkedFile(const fs::path& file) {
-  std::error_code fault;
-  if (!fs::is_symlink(file, fault)) return file;
-  const fs::path real = fs::canonical(file, fault);
-  return fault ? file : real;
-}
-
 fs::path folderOf(const fs::path& file) {
   const fs::path folder = file.parent_path();
   return folder.empty() ? fs::path(".") : folder;
 }
 
-std::optional<fs::path> existingFile(const std::string& prefix, std::string_view name) {
+FoundFile findFile(const std::string& prefix, std::string_view name, FileSystem& files) {
   const fs::path spelled = pathOf(prefix + std::string(name));
-  return isThere(spelled) ? spelled : anySpellingOf(spelled);
+  const Presence presence = files.presence(spelled);
+  if (presence != Presence::notThere) return {presence, spelled};
+  return anySpellingOf(spelled, files);
 }
 
-fs::path fileFor(const std::string& prefix, std::string_view name) {
-  return existingFile(prefix, name).value_or(pathOf(prefix + std::string(name)));
+std::optional<fs::path> existingFile(const std::string& prefix, std::string_view name,
+                                     FileSystem& files) {
+  const FoundFile found = findFile(prefix, name, files);
+  return found.presence == Presence::there ? std::optional(found.path) : std::nullopt;
 }
 
-fs::path freeName(const std::string& prefix, std::string_view name) {
+std::optional<fs::path> freeName(const std::string& prefix, std::string_view name,
+                                 FileSystem& files) {
   std::string candidate(name);
-  for (int number = 2; existingFile(prefix, candidate); ++number)
+  for (int number = 2;; ++number) {
+    const FoundFile found = findFile(prefix, candidate, files);
+    if (found.presence == Presence::unknown) return std::nullopt;
+    if (found.presence == Presence::notThere) return pathOf(prefix + candidate);
     candidate = std::string(name) + std::to_string(number);
-  return pathOf(prefix + candidate);
+  }
 }
 
 }  // namespace odmiennik::dictionary

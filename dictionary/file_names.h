@@ -6,29 +6,36 @@
 #include <string>
 #include <string_view>
 
+#include "dictionary/file_system.h"
+
 namespace odmiennik::dictionary {
 
 // The path of a name in UTF-8, whatever the system's own encoding: pathOf("Połącz.txt").
 [[nodiscard]] std::filesystem::path pathOf(std::string_view utf8);
 
-// Whether anything stands under that name, a link to nothing included.
-[[nodiscard]] bool isThere(const std::filesystem::path& file);
-
-// The file that a link stands for; any other file, and a link to nothing, as it is.
-[[nodiscard]] std::filesystem::path linkedFile(const std::filesystem::path& file);
+// A name that has been looked for.
+struct FoundFile {
+  Presence presence = Presence::unknown;
+  std::filesystem::path path;  // where it stands; of a file that is missing, where a new one would
+};
 
 // What stands under `prefix` + `name`, read without regard to the case of the letters a to z:
-// existingFile("/home/ala/", "Czasowniki.dat") -> "/home/ala/CZASOWNIKI.DAT". The exact spelling
-// goes first. Nothing when there is no such file or no such folder.
-[[nodiscard]] std::optional<std::filesystem::path> existingFile(const std::string& prefix,
-                                                                std::string_view name);
+// findFile("/home/ala/", "Czasowniki.dat").path -> "/home/ala/CZASOWNIKI.DAT". The exact spelling
+// goes first. Unknown when the disk does not answer: then nothing may be made of it.
+[[nodiscard]] FoundFile findFile(const std::string& prefix, std::string_view name,
+                                 FileSystem& files = systemFiles());
 
-// The file that exists, else the path of a new one in the spelling given.
-[[nodiscard]] std::filesystem::path fileFor(const std::string& prefix, std::string_view name);
+// The path of a file that is there. Only for readers that do without: whoever writes asks findFile,
+// which tells a missing file from a disk that does not answer.
+[[nodiscard]] std::optional<std::filesystem::path> existingFile(const std::string& prefix,
+                                                                std::string_view name,
+                                                                FileSystem& files = systemFiles());
 
 // The first name that is free of `name`, `name`2, `name`3 …: freeName("", "Czasowniki.bak") ->
-// "Czasowniki.bak2" beside an older copy.
-[[nodiscard]] std::filesystem::path freeName(const std::string& prefix, std::string_view name);
+// "Czasowniki.bak2" beside an older copy. Nothing when that cannot be told.
+[[nodiscard]] std::optional<std::filesystem::path> freeName(const std::string& prefix,
+                                                            std::string_view name,
+                                                            FileSystem& files = systemFiles());
 
 // The folder of a file, "." for a bare name.
 [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& file);

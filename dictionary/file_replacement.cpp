@@ -17,17 +17,28 @@ fs::path nameBeside(const fs::path& file, int number) {
   return beside;
 }
 
-fs::path freeNameBeside(const fs::path& file) {
+// Creating refuses a name that is taken after all.
+fs::path freeNameBeside(const fs::path& file, FileSystem& files) {
   int number = 1;
-  while (isThere(nameBeside(file, number))) ++number;
+  while (files.presence(nameBeside(file, number)) == Presence::there) ++number;
   return nameBeside(file, number);
 }
 
 }  // namespace
 
-FileReplacement::FileReplacement(FileSystem& files, const fs::path& target)
-    : files_(files), target_(linkedFile(target)), fresh_(freeNameBeside(target_)) {
-  output_ = files_.create(fresh_, target_);
+std::optional<ReplacedFile> fileToReplace(FileSystem& files, const FoundFile& found) {
+  if (found.presence == Presence::unknown) return std::nullopt;
+  const auto real = files.realFile(found.path);
+  const FileLook look = real ? files.look(*real) : FileLook{};
+  if (look.presence == Presence::unknown) return std::nullopt;
+  return ReplacedFile{*real, look, found.presence == Presence::notThere};
+}
+
+FileReplacement::FileReplacement(FileSystem& files, std::optional<ReplacedFile> target)
+    : files_(files), target_(std::move(target)) {
+  if (!target_) return;
+  fresh_ = freeNameBeside(target_->path, files_);
+  output_ = files_.create(fresh_, target_->path);
   isGood_ = isLeftBehind_ = output_ != nullptr;
 }
 
@@ -55,23 +66,35 @@ bool FileReplacement::finish() {
   return isGood_;
 }
 
+bool FileReplacement::isTargetAsItWas() const {
+  return target_ && files_.look(target_->path) == target_->look;
+}
+
 bool FileReplacement::swapIn() {
-  if (!isGood_ || output_ || !files_.moveOver(fresh_, target_)) return false;
+  if (!isGood_ || output_) return false;
+  const fs::path& target = target_->path;
+  const bool isMoved =
+      target_->isNew ? files_.moveToNew(fresh_, target) : files_.moveOver(fresh_, target);
+  if (!isMoved) return false;
   isLeftBehind_ = false;
-  files_.syncFolder(folderOf(target_));
+  files_.syncFolder(folderOf(target));
   return true;
 }
 
-bool replaceFile(FileSystem& files, const fs::path& target, std::string_view content) {
-  FileReplacement replacement(files, target);
+bool replaceFile(FileSystem& files, const FoundFile& target, std::string_view content) {
+  FileReplacement replacement(files, fileToReplace(files, target));
   replacement.write(content);
   return replacement.finish() && replacement.swapIn();
 }
 
-void removeUnfinished(FileSystem& files, const fs::path& target) {
-  const fs::path real = linkedFile(target);
-  for (int number = 1; isThere(nameBeside(real, number)); ++number)
-    if (!files.remove(nameBeside(real, number))) return;
+void removeUnfinished(FileSystem& files, const FoundFile& target) {
+  const auto real =
+      target.presence == Presence::unknown ? std::nullopt : files.realFile(target.path);
+  if (!real) return;
+  const auto lock = files.lock(folderOf(*real));
+  if (!lock) return;
+  for (int number = 1; files.presence(nameBeside(*real, number)) == Presence::there; ++number)
+    if (!files.remove(nameBeside(*real, number))) return;
 }
 
 }  // namespace odmiennik::dictionary

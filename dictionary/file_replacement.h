@@ -3,19 +3,33 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "dictionary/file_names.h"
 #include "dictionary/file_system.h"
 
 namespace odmiennik::dictionary {
+
+// The file that is to be replaced, as it stood when its content was read.
+struct ReplacedFile {
+  std::filesystem::path path;
+  FileLook look;
+  bool isNew = false;  // nothing stood under the name, not even a link to nothing
+};
+
+// What a look-up by name has found, links followed to the file they stand for; nothing when it
+// cannot be told what there is to replace.
+[[nodiscard]] std::optional<ReplacedFile> fileToReplace(FileSystem& files, const FoundFile& found);
 
 // New content for a file: written beside it, flushed and synced, then swapped in. Whatever fails is
 // remembered: the last call tells, and the file is as it was.
 class FileReplacement {
  public:
-  // `target` is the file to replace or to create; a link is followed to the file it stands for.
-  FileReplacement(FileSystem& files, const std::filesystem::path& target);
+  // Without a target, nothing can be written. The folder is to be locked by whoever goes by what
+  // stood in the old file.
+  FileReplacement(FileSystem& files, std::optional<ReplacedFile> target);
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
   // Removes what was written unless it has been swapped in.
@@ -26,14 +40,18 @@ class FileReplacement {
   // Has the new content complete on the disk, still beside the old.
   [[nodiscard]] bool finish();
 
-  // Puts the finished content in the place of the old; true for good.
+  // Whether the target is still what it was, or still missing.
+  [[nodiscard]] bool isTargetAsItWas() const;
+
+  // Puts the finished content in the place of the old; true for good. A file that was missing must
+  // be so still: one that has come meanwhile is never replaced.
   [[nodiscard]] bool swapIn();
 
  private:
   void flush();
 
   FileSystem& files_;
-  std::filesystem::path target_;
+  std::optional<ReplacedFile> target_;
   std::filesystem::path fresh_;
   std::unique_ptr<OutputFile> output_;
   std::string pending_;
@@ -41,11 +59,12 @@ class FileReplacement {
   bool isLeftBehind_ = false;
 };
 
-// The same in one call: replaceFile(systemFiles(), fileFor(prefix, "Werbolin.cfg"), text).
-[[nodiscard]] bool replaceFile(FileSystem& files, const std::filesystem::path& target,
+// The same in one call: replaceFile(files, findFile(prefix, "Werbolin.cfg", files), text).
+[[nodiscard]] bool replaceFile(FileSystem& files, const FoundFile& target,
                                std::string_view content);
 
-// Removes what replacements of `target` left beside it when the power failed.
-void removeUnfinished(FileSystem& files, const std::filesystem::path& target);
+// Removes what replacements of `target` left beside it when the power failed; not while another
+// program may be writing it.
+void removeUnfinished(FileSystem& files, const FoundFile& target);
 
 }  // namespace odmiennik::dictionary

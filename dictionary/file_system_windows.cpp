@@ -4,6 +4,9 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <functional>
+#include <string>
+#include <system_error>
 #include <utility>
 
 #include "dictionary/file_system.h"
@@ -83,8 +86,93 @@ bool isProtected(const fs::path& file) {
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
 }
 
+Presence presenceAfter(bool isFound) {
+  if (isFound) return Presence::there;
+  const DWORD fault = GetLastError();
+  const bool isMissing = fault == ERROR_FILE_NOT_FOUND || fault == ERROR_PATH_NOT_FOUND;
+  return isMissing ? Presence::notThere : Presence::unknown;
+}
+
+std::uint64_t joined(DWORD high, DWORD low) {
+  return (static_cast<std::uint64_t>(high) << 32) | low;
+}
+
+// A mutex that every program of this session finds by its name, which is made of the folder's.
+class WindowsLock final : public FolderLock {
+ public:
+  explicit WindowsLock(HANDLE mutex) : mutex_(mutex) {}
+  WindowsLock(const WindowsLock&) = delete;
+  WindowsLock& operator=(const WindowsLock&) = delete;
+  ~WindowsLock() override {
+    if (mutex_ == nullptr) return;
+    ReleaseMutex(mutex_);
+    CloseHandle(mutex_);
+  }
+
+ private:
+  HANDLE mutex_;
+};
+
+std::wstring mutexName(const fs::path& folder) {
+  std::error_code ignored;
+  std::wstring name = fs::weakly_canonical(folder, ignored).wstring();
+  CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
+  return L"Local\\Odmiennik-" + std::to_wstring(std::hash<std::wstring>{}(name));
+}
+
 class WindowsFiles final : public FileSystem {
  public:
+  Presence presence(const fs::path& name) override {
+    return presenceAfter(GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES);
+  }
+
+  FileLook look(const fs::path& file) override {
+    constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const Handle handle(CreateFileW(file.c_str(), FILE_READ_ATTRIBUTES, kShared, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!handle.isOpen()) return {presenceAfter(false), {}};
+    BY_HANDLE_FILE_INFORMATION found{};
+    if (GetFileInformationByHandle(handle.get(), &found) == 0) return {};
+    const FILETIME& changed = found.ftLastWriteTime;
+    return {Presence::there,
+            {found.dwVolumeSerialNumber, joined(found.nFileIndexHigh, found.nFileIndexLow),
+             joined(found.nFileSizeHigh, found.nFileSizeLow),
+             static_cast<std::int64_t>(joined(changed.dwHighDateTime, changed.dwLowDateTime))}};
+  }
+
+  std::optional<fs::path> realFile(const fs::path& file) override {
+    std::error_code fault;
+    if (!fs::is_symlink(file, fault)) {
+      const bool isTold = !fault || presence(file) == Presence::notThere;
+      return isTold ? std::optional(file) : std::nullopt;
+    }
+    const fs::path real = fs::canonical(file, fault);
+    if (!fault) return real;
+    return look(file).presence == Presence::notThere ? std::optional(file) : std::nullopt;
+  }
+
+  std::optional<std::vector<fs::path>> names(const fs::path& folder) override {
+    std::vector<fs::path> found;
+    std::error_code fault;
+    fs::directory_iterator entry(folder, fault);
+    for (const fs::directory_iterator end; !fault && entry != end; entry.increment(fault))
+      found.push_back(entry->path().filename());
+    if (!fault || presence(folder) == Presence::notThere) return found;
+    return std::nullopt;
+  }
+
+  std::unique_ptr<FolderLock> lock(const fs::path& folder) override {
+    constexpr DWORD kPatience = 5000;
+    const HANDLE mutex = CreateMutexW(nullptr, FALSE, mutexName(folder).c_str());
+    if (mutex == nullptr) return std::make_unique<WindowsLock>(nullptr);
+    const DWORD answer = WaitForSingleObject(mutex, kPatience);
+    // A program that ended while it held the lock has left whole files: old or new.
+    if (answer == WAIT_OBJECT_0 || answer == WAIT_ABANDONED)
+      return std::make_unique<WindowsLock>(mutex);
+    CloseHandle(mutex);
+    return nullptr;
+  }
+
   std::unique_ptr<InputFile> open(const fs::path& file) override {
     constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     Handle handle(CreateFileW(file.c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING,
@@ -94,7 +182,7 @@ class WindowsFiles final : public FileSystem {
   }
 
   std::unique_ptr<OutputFile> create(const fs::path& file, const fs::path& replaced) override {
-    if (isProtected(replaced)) return nullptr;
+    if (presence(replaced) == Presence::unknown || isProtected(replaced)) return nullptr;
     // Permissions are taken over by ReplaceFileW.
     Handle handle(CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                               FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -114,6 +202,10 @@ class WindowsFiles final : public FileSystem {
     // There is nothing to replace yet, or the disk's format does not know the call.
     return MoveFileExW(file.c_str(), target.c_str(),
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+  }
+
+  bool moveToNew(const fs::path& file, const fs::path& target) override {
+    return MoveFileExW(file.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
   }
 
   bool remove(const fs::path& file) override { return DeleteFileW(file.c_str()) != 0; }

@@ -30,15 +30,20 @@ struct Settings {
 // encodeRunCount(12) -> "1112".
 [[nodiscard]] std::string encodeRunCount(std::int32_t runCount);
 
-// Whether a settings file could be read: `missing` is no fault.
+// Whether a settings file could be read: `missing` is no fault, but only a file that is known not
+// to be there is missing.
 enum class SettingsRead : std::uint8_t { read, missing, damaged };
 
 // Reads `prefix` + "Werbolin.cfg"; a damaged or unreadable file fills what it can.
 [[nodiscard]] SettingsRead readSettingsFile(const std::string& prefix, Settings& settings,
                                             FileSystem& files = systemFiles());
 
-// Replaces `prefix` + "Werbolin.cfg"; false leaves the file as it was.
+// Replaces `prefix` + "Werbolin.cfg"; false leaves the file as it was. Where there was none, one
+// that has come meanwhile stays.
 [[nodiscard]] bool writeSettingsFile(const std::string& prefix, const Settings& settings,
                                      FileSystem& files = systemFiles());
+
+// Removes what a write that was ended half-way left beside the file; for the program's start.
+void removeUnfinishedSettings(const std::string& prefix, FileSystem& files = systemFiles());
 
 }  // namespace odmiennik::dictionary

@@ -30,18 +30,22 @@ std::optional<std::string> readText(InputFile& file) {
 }  // namespace
 
 SettingsRead readSettingsFile(const std::string& prefix, Settings& settings, FileSystem& files) {
-  const auto name = existingFile(prefix, kSettingsFile);
-  if (!name) return SettingsRead::missing;
-  const auto file = files.open(*name);
+  const FoundFile found = findFile(prefix, kSettingsFile, files);
+  if (found.presence == Presence::notThere) return SettingsRead::missing;
+  const auto file = found.presence == Presence::there ? files.open(found.path) : nullptr;
   const auto text = file ? readText(*file) : std::nullopt;
   const bool isRead = text && parseSettings(*text, settings);
   return isRead ? SettingsRead::read : SettingsRead::damaged;
 }
 
 bool writeSettingsFile(const std::string& prefix, const Settings& settings, FileSystem& files) {
-  const std::filesystem::path file = fileFor(prefix, kSettingsFile);
+  const FoundFile file = findFile(prefix, kSettingsFile, files);
   removeUnfinished(files, file);
   return replaceFile(files, file, settingsText(settings));
+}
+
+void removeUnfinishedSettings(const std::string& prefix, FileSystem& files) {
+  removeUnfinished(files, findFile(prefix, kSettingsFile, files));
 }
 
 }  // namespace odmiennik::dictionary

@@ -29,14 +29,15 @@ LineRead UserRecordReader::readPiece() {
   return status;
 }
 
-bool UserRecordReader::copyDamaged(FileReplacement& target) {
-  target.write(line_.text);
-  target.write(line_.end);
+bool UserRecordReader::copyDamaged(FileReplacement& target, std::uint64_t longest) {
+  std::uint64_t length = 0;
   LineRead status = LineRead::line;
-  while (line_.isCut && (status = readPiece()) == LineRead::line) {
+  do {
+    length += line_.text.size();
+    if (length > longest) return false;
     target.write(line_.text);
     target.write(line_.end);
-  }
+  } while (line_.isCut && (status = readPiece()) == LineRead::line);
   return status != LineRead::failed;
 }
 

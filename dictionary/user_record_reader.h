@@ -29,8 +29,9 @@ class UserRecordReader {
   // Whether a line end stands behind what has been read of the record; the file's last may lack it.
   [[nodiscard]] bool isLineEnded() const { return !line_.end.empty(); }
 
-  // Appends a damaged record byte for byte, its line end included; false when reading it failed.
-  [[nodiscard]] bool copyDamaged(FileReplacement& target);
+  // Appends a damaged record byte for byte, its line end included; false when reading it failed or
+  // it is longer than `longest`.
+  [[nodiscard]] bool copyDamaged(FileReplacement& target, std::uint64_t longest);
 
   // Whether the file holds anything behind the record read last.
   [[nodiscard]] bool hasMore();

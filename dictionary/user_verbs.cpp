@@ -41,16 +41,21 @@ UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxe
                              FileSystem& files)
     : prefix_(std::move(prefix)), count_(count), messages_(messages), files_(files) {}
 
-fs::path UserVerbsFile::file() const { return linkedFile(fileFor(prefix_, kVerbs)); }
+FoundFile UserVerbsFile::find() const { return findFile(prefix_, kVerbs, files_); }
+
+fs::path UserVerbsFile::newFile() const { return pathOf(prefix_ + std::string(kVerbs)); }
 
 // The first record that differs by its prefix only is taken on the way, lest the file be read
 // twice.
 bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
                          std::uint8_t& storedAux) {
+  if (count_ <= 0 && files_.presence(newFile()) == Presence::notThere) return false;
+  const FoundFile found = find();
+  takeNoticeOf(found.path);
   const std::string_view key = engine::withoutReflexivePrefix(infinitive);
   std::string stored;
   bool isFound = false;
-  visitRecords(count_, [&](const UserRecordReader& records) {
+  visitRecords(found, count_, [&](const UserRecordReader& records) {
     engine::normalize(records.outline().infinitive, stored);
     const bool isSame = stored == infinitive;
     if (!isSame && (isFound || engine::withoutReflexivePrefix(stored) != key)) return false;
@@ -64,18 +69,20 @@ bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
 
 std::vector<std::string> UserVerbsFile::infinitives() {
   std::vector<std::string> listed;
-  visitRecords(kAllRecords, [&](const UserRecordReader& records) {
+  lookAgain();
+  visitRecords(find(), kAllRecords, [&](const UserRecordReader& records) {
     listed.push_back(engine::keptInfinitive(records.outline().infinitive));
     return false;
   });
   return listed;
 }
 
-// Shows every readable record to `isEnough` until it has enough; false when reading failed. Without
-// a record to read, the disk is not even asked.
-bool UserVerbsFile::visitRecords(std::int64_t limit, const Visit& isEnough) {
-  if (limit <= 0 || !existingFile(prefix_, kVerbs)) return true;
-  UserRecordReader records(files_.open(file()));
+// Shows every readable record to `isEnough` until it has enough; false when reading failed.
+bool UserVerbsFile::visitRecords(const FoundFile& found, std::int64_t limit,
+                                 const Visit& isEnough) {
+  if (limit <= 0 || found.presence == Presence::notThere) return true;
+  const bool isThere = found.presence == Presence::there;
+  UserRecordReader records(isThere ? files_.open(found.path) : nullptr);
   while (records.number() < limit) {
     const RecordRead read = records.next();
     if (read == RecordRead::endOfFile) break;
@@ -91,12 +98,38 @@ bool UserVerbsFile::visitRecords(std::int64_t limit, const Visit& isEnough) {
   return true;
 }
 
+void UserVerbsFile::lookAgain() { takeNoticeOf(find().path); }
+
+// A file that has gone leaves the count as it is: it may come back. The first look changes nothing
+// either, since the stored count and the file are expected to disagree after a crash.
+void UserVerbsFile::takeNoticeOf(const fs::path& file) {
+  const FileLook look = files_.look(file);
+  if (look.presence == Presence::unknown || seen_ == look) return;
+  if (seen_ && look.presence == Presence::there) {
+    const auto records = recordsIn(file);
+    if (!records) return;  // tried again at the next look
+    count_ = static_cast<std::int32_t>(*records);
+  }
+  seen_ = look;
+}
+
+// Every line is a record, however damaged; nothing when not all could be read.
+std::optional<std::int64_t> UserVerbsFile::recordsIn(const fs::path& file) {
+  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+  UserRecordReader records(files_.open(file));
+  RecordRead read = RecordRead::record;
+  while (read != RecordRead::endOfFile && records.number() < kMost)
+    if ((read = records.next()) == RecordRead::failed) return std::nullopt;
+  return records.number();
+}
+
 SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
   if (const auto slot = quotedForm(record)) {
     messages_.show(MessageId::formCannotBeSaved, engine::toUtf8(record.forms[*slot]));
     return SaveResult::failed;
   }
-  const CopyResult copied = rewriteWith(record);
+  const CopyResult copied =
+      rewriteInTurn([&](const ReplacedFile& target) { return rewriteWith(record, target); });
   if (!copied.isComplete) {
     messages_.show(MessageId::userVerbsNotSaved);
     return SaveResult::failed;
@@ -110,76 +143,115 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
   return isAppended ? SaveResult::appended : SaveResult::replaced;
 }
 
-// Complete only when the new file stands in the place of the old.
-CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record) {
+// Two programs in one folder take turns. One that knows no turns is noticed by a last look before
+// the swap, and what it has written is read anew. Complete only when the new file stands in the
+// place of the old.
+CopyResult UserVerbsFile::rewriteInTurn(const Rewrite& rewrite) {
+  constexpr int kTries = 5;
+  const auto lock = files_.lock(folderOf(newFile()));
+  for (int tries = 0; lock && tries < kTries; ++tries) {
+    const auto target = fileToReplace(files_, find());
+    if (!target) break;
+    takeNoticeOf(target->path);
+    const CopyResult copied = rewrite(*target);
+    if (copied.isOvertaken) continue;
+    if (copied.isComplete) seen_ = files_.look(target->path);
+    return copied;
+  }
+  return {};
+}
+
+CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record, const ReplacedFile& target) {
   const std::string line = recordLine(record);
-  UserVerbsRewrite rewrite(files_, file());
+  UserVerbsRewrite rewrite(files_, target);
   CopyResult copied{.isComplete = true};
-  fs::path backup;
-  if (existingFile(prefix_, kVerbs)) {
-    UserRecordReader records(files_.open(file()));
+  std::optional<fs::path> backup = fs::path();
+  if (target.look.presence == Presence::there) {
+    UserRecordReader records(files_.open(target.path));
     copied =
         rewrite.copy(records, count_, {isOfVerb(record.forms[engine::slot::kInfinitive]), line});
-    if (copied.isComplete && records.hasMore()) backup = freeName(prefix_, kBackup);
+    if (copied.isComplete && records.hasMore()) backup = freeName(prefix_, kBackup, files_);
   }
   if (copied.changed == 0) rewrite.append(line);
-  copied.isComplete =
-      copied.isComplete && rewrite.content().finish() && keepAndSwap(rewrite.content(), backup);
+  copied.isComplete = copied.isComplete && backup && rewrite.content().finish();
+  if (copied.isComplete) keepAndSwap(rewrite.content(), target, *backup, copied);
   return copied;
 }
 
+// Looked for first, since what finds nothing must not touch the disk.
 DeleteResult UserVerbsFile::remove(std::string_view infinitive) {
   const auto isMeant = isKeptAs(infinitive);
   bool isFound = false;
-  const bool isRead = visitRecords(kAllRecords, [&](const UserRecordReader& records) {
+  const bool isRead = visitRecords(find(), kAllRecords, [&](const UserRecordReader& records) {
     return isFound = isMeant(records.outline().infinitive);
   });
   if (isRead && !isFound) return DeleteResult::notFound;
-  if (!isRead || !rewriteWithout(infinitive)) {
+  const CopyResult copied = isRead ? rewriteInTurn([&](const ReplacedFile& target) {
+    return rewriteWithout(infinitive, target);
+  })
+                                   : CopyResult{};
+  if (!copied.isComplete) {
     messages_.show(MessageId::userVerbsNotSaved);
     return DeleteResult::failed;
   }
+  if (copied.changed == 0) return DeleteResult::notFound;  // another program was faster
   if (count_ > 0) --count_;
   changed_();
   return DeleteResult::deleted;
 }
 
-bool UserVerbsFile::rewriteWithout(std::string_view infinitive) {
-  UserVerbsRewrite rewrite(files_, file());
+CopyResult UserVerbsFile::rewriteWithout(std::string_view infinitive, const ReplacedFile& target) {
+  UserVerbsRewrite rewrite(files_, target);
+  CopyResult copied;
   {
-    UserRecordReader records(files_.open(file()));
-    const CopyResult copied = rewrite.copy(records, kAllRecords, {isKeptAs(infinitive), {}});
-    if (!copied.isComplete) return false;
+    UserRecordReader records(files_.open(target.path));
+    copied = rewrite.copy(records, kAllRecords, {isKeptAs(infinitive), {}});
   }
-  if (!rewrite.content().finish()) return false;
+  if (!copied.isComplete || copied.changed == 0) return copied;
+  copied.isComplete = rewrite.content().finish();
+  if (!copied.isComplete) return copied;
   removePrevious();
-  return keepAndSwap(rewrite.content(), pathOf(prefix_ + std::string(kPreviousVerbs)));
+  keepAndSwap(rewrite.content(), target, pathOf(prefix_ + std::string(kPreviousVerbs)), copied);
+  return copied;
 }
 
 // The old content gets its second name first, so that it never is without one.
-bool UserVerbsFile::keepAndSwap(FileReplacement& content, const fs::path& keptAs) {
-  if (!keptAs.empty()) {
-    if (!files_.keepAs(file(), keptAs)) return false;
-    files_.syncFolder(folderOf(keptAs));
+void UserVerbsFile::keepAndSwap(FileReplacement& content, const ReplacedFile& target,
+                                const fs::path& keptAs, CopyResult& copied) {
+  copied.isOvertaken = !content.isTargetAsItWas();
+  copied.isComplete = !copied.isOvertaken;
+  if (copied.isComplete && !keptAs.empty()) {
+    copied.isComplete = files_.keepAs(target.path, keptAs);
+    if (copied.isComplete) files_.syncFolder(folderOf(keptAs));
   }
-  return content.swapIn();
+  copied.isComplete = copied.isComplete && content.swapIn();
 }
 
 void UserVerbsFile::removePrevious() {
-  if (const auto previous = existingFile(prefix_, kPreviousVerbs)) files_.remove(*previous);
+  if (const auto previous = existingFile(prefix_, kPreviousVerbs, files_)) files_.remove(*previous);
 }
 
 void UserVerbsFile::recoverAfterCrash() {
-  removeUnfinished(files_, file());
-  if (count_ == 0 || existingFile(prefix_, kVerbs)) return;
-  const auto previous = existingFile(prefix_, kPreviousVerbs);
-  std::error_code ignored;
-  if (!previous || !fs::is_regular_file(*previous, ignored)) return;
-  if (!files_.moveOver(*previous, file())) {
+  const FoundFile found = find();
+  removeUnfinished(files_, found);
+  if (count_ != 0 && found.presence == Presence::unknown) showUnreadable();
+  if (count_ != 0 && found.presence == Presence::notThere) putBackPrevious();
+  lookAgain();
+}
+
+// A folder under that name is nothing to put back. deliberate: whatever has come to stand under the
+// file's name meanwhile stays.
+void UserVerbsFile::putBackPrevious() {
+  const FoundFile previous = findFile(prefix_, kPreviousVerbs, files_);
+  if (previous.presence == Presence::notThere) return;
+  std::error_code fault;
+  const bool isOrdinary = fs::is_regular_file(previous.path, fault);
+  if (!isOrdinary && !fault) return;
+  if (!isOrdinary || !files_.moveToNew(previous.path, newFile())) {
     messages_.show(MessageId::userVerbsNotRestored);
     return;
   }
-  files_.syncFolder(folderOf(file()));
+  files_.syncFolder(folderOf(newFile()));
 }
 
 void UserVerbsFile::showDamage(std::int64_t record) {

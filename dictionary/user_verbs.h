@@ -18,15 +18,18 @@ namespace odmiennik::dictionary {
 
 class UserRecordReader;
 class FileReplacement;
+struct ReplacedFile;
+struct FoundFile;
 struct CopyResult;
 
 enum class SaveResult : std::uint8_t { replaced, appended, failed };
 enum class DeleteResult : std::uint8_t { deleted, notFound, failed };
 
 // `count` is the stored number of verbs, kept by the settings file: look-up and save go by it, list
-// and delete by the file's end. Damage, a file that cannot be read and failed writes are shown
-// through `messages`; the first two once per object. The class keeps no contents in memory: every
-// call reads the file.
+// and delete by the file's end. When another program has changed the file since it was last looked
+// at, the count is the number of its records. Damage, a file that cannot be read and failed writes
+// are shown through `messages`; the first two once per object. The class keeps no contents in
+// memory: every call reads the file.
 class UserVerbsFile final : public engine::UserVerbs {
  public:
   // `prefix` is put before every bare file name (see AppFolder).
@@ -58,16 +61,26 @@ class UserVerbsFile final : public engine::UserVerbs {
   // Calls `changed` after every save and every deletion that succeeded.
   void tellOfChanges(std::function<void()> changed) { changed_ = std::move(changed); }
 
+  // Looks whether another program has changed the file; count() then tells how many verbs it has.
+  void lookAgain();
+
   [[nodiscard]] std::int32_t count() const { return count_; }
 
  private:
   using Visit = std::function<bool(const UserRecordReader&)>;
+  using Rewrite = std::function<CopyResult(const ReplacedFile& target)>;
 
-  bool visitRecords(std::int64_t limit, const Visit& isEnough);
-  [[nodiscard]] CopyResult rewriteWith(const UserVerbRecord& record);
-  [[nodiscard]] bool rewriteWithout(std::string_view infinitive);
-  [[nodiscard]] bool keepAndSwap(FileReplacement& content, const std::filesystem::path& keptAs);
-  [[nodiscard]] std::filesystem::path file() const;
+  [[nodiscard]] FoundFile find() const;
+  [[nodiscard]] std::filesystem::path newFile() const;
+  bool visitRecords(const FoundFile& found, std::int64_t limit, const Visit& isEnough);
+  void takeNoticeOf(const std::filesystem::path& file);
+  [[nodiscard]] std::optional<std::int64_t> recordsIn(const std::filesystem::path& file);
+  [[nodiscard]] CopyResult rewriteInTurn(const Rewrite& rewrite);
+  [[nodiscard]] CopyResult rewriteWith(const UserVerbRecord& record, const ReplacedFile& target);
+  [[nodiscard]] CopyResult rewriteWithout(std::string_view infinitive, const ReplacedFile& target);
+  void keepAndSwap(FileReplacement& content, const ReplacedFile& target,
+                   const std::filesystem::path& keptAs, CopyResult& copied);
+  void putBackPrevious();
   void removePrevious();
   void showDamage(std::int64_t record);
   void showUnreadable();
@@ -77,6 +90,7 @@ class UserVerbsFile final : public engine::UserVerbs {
   MessageBoxes& messages_;
   FileSystem& files_;
   std::function<void()> changed_ = [] {};
+  std::optional<FileLook> seen_;  // the file when this program looked at it last
   bool isDamageShown_ = false;
   bool isUnreadableShown_ = false;
 };

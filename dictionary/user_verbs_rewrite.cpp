@@ -25,7 +25,7 @@ CopyResult UserVerbsRewrite::copy(UserRecordReader& records, std::int64_t limit,
 
 bool UserVerbsRewrite::copyDamaged(UserRecordReader& records, CopyResult& result) {
   if (result.firstDamaged == 0) result.firstDamaged = records.number();
-  const bool isCopied = records.copyDamaged(content_);
+  const bool isCopied = records.copyDamaged(content_, kLongestCopiedLine);
   lacksLineEnd_ = !records.isLineEnded();
   return isCopied;
 }

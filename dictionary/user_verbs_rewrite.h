@@ -20,19 +20,23 @@ struct RecordChange {
 struct CopyResult {
   bool isComplete = false;  // everything could be read
   std::int64_t changed = 0;
+  bool isOvertaken = false;       // the file has changed since it was read
   std::int64_t firstDamaged = 0;  // the number of the first damaged record, 0 for none
 };
 
 inline constexpr std::int64_t kAllRecords = std::numeric_limits<std::int64_t>::max();
 
+// A damaged line that is longer is no text that went wrong: it is not copied for hours, to fill the
+// disk; the file stays as it is.
+inline constexpr std::uint64_t kLongestCopiedLine = std::uint64_t{64} << 20;
+
 // New content for the user-verbs file, record after record.
 class UserVerbsRewrite {
  public:
-  UserVerbsRewrite(FileSystem& files, const std::filesystem::path& target)
-      : content_(files, target) {}
+  UserVerbsRewrite(FileSystem& files, const ReplacedFile& target) : content_(files, target) {}
 
   // Copies at most `limit` records in the writer's format, the changed ones changed, and damaged
-  // lines byte for byte.
+  // lines byte for byte; incomplete where one is longer than kLongestCopiedLine.
   [[nodiscard]] CopyResult copy(UserRecordReader& records, std::int64_t limit,
                                 const RecordChange& change);
 

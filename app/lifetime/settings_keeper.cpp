@@ -9,6 +9,7 @@ using dictionary::MessageId;
 using dictionary::SettingsRead;
 
 void SettingsKeeper::ReadSettings() {
+  dictionary::removeUnfinishedSettings(needs_.prefix, needs_.files);
   const auto read = [this] {
     return dictionary::readSettingsFile(needs_.prefix, settings_, needs_.files);
   };
@@ -29,14 +30,21 @@ void SettingsKeeper::WriteDefaultSettings() {
 }
 
 // The colours come from the headings and not from what was read: whatever was applied since is
-// saved.
-void SettingsKeeper::SaveSettings() {
+// saved. Another program may have saved verbs that are to be counted.
+dictionary::Settings SettingsKeeper::current() {
+  needs_.userVerbs.lookAgain();
   const auto [mood, tense] = needs_.colours.live();
-  write({.userVerbCount = needs_.userVerbs.count(),
-         .moodColour = mood,
-         .tenseColour = tense,
-         .conjugationCount = settings_.conjugationCount,
-         .runCount = settings_.runCount});
+  return {.userVerbCount = needs_.userVerbs.count(),
+          .moodColour = mood,
+          .tenseColour = tense,
+          .conjugationCount = settings_.conjugationCount,
+          .runCount = settings_.runCount};
+}
+
+void SettingsKeeper::SaveSettings() { write(current()); }
+
+bool SettingsKeeper::saveSilently() {
+  return dictionary::writeSettingsFile(needs_.prefix, current(), needs_.files);
 }
 
 void SettingsKeeper::ResetSettings() {

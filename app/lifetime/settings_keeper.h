@@ -26,7 +26,7 @@ class SettingsKeeper {
   // `end` ends the program at once, without asking and without saving.
   struct Needs {
     std::string prefix;  // of every file name
-    const dictionary::UserVerbsFile& userVerbs;
+    dictionary::UserVerbsFile& userVerbs;
     HeadingColourPort colours;
     dictionary::MessageBoxes& messages;
     std::function<void()> end;
@@ -44,6 +44,9 @@ class SettingsKeeper {
   // Writes the counters and the colours that the headings show.
   void SaveSettings();
 
+  // The same where nobody can be asked or told any more; false when they could not be written.
+  [[nodiscard]] bool saveSilently();
+
   // The hidden command "resetuj": asks, and unless cancelled leaves the default settings behind and
   // ends the program. The per-user store is not touched.
   void ResetSettings();
@@ -57,6 +60,7 @@ class SettingsKeeper {
   [[nodiscard]] std::int32_t runCount() const { return settings_.runCount; }
 
  private:
+  [[nodiscard]] dictionary::Settings current();
   void write(const dictionary::Settings& settings);
 
   Needs needs_;

@@ -11,7 +11,9 @@ namespace odmiennik::app {
 
 dictionary::UserVerbsFound findUserVerbs(const std::string& prefix,
                                          dictionary::UserVerbsFile& userVerbs) {
-  const bool isPresent = dictionary::existingFile(prefix, "Czasowniki.dat").has_value();
+  // A file that cannot be looked for is read all the same: the reader says what is wrong.
+  const bool isPresent =
+      dictionary::findFile(prefix, "Czasowniki.dat").presence != dictionary::Presence::notThere;
   return {isPresent, userVerbs.infinitives(), userVerbs.count()};
 }
 

@@ -2,6 +2,7 @@
 #include "tests/unit/dictionary/faulty_files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace odmiennik::testing {
 namespace {
@@ -51,8 +52,43 @@ bool FaultyFiles::takeStep(const char* name) {
   return true;
 }
 
+bool FaultyFiles::isAnswered(const char* question) {
+  const auto found = unanswered_.find(question);
+  if (found == unanswered_.end() || found->second == 0) return true;
+  --found->second;
+  return false;
+}
+
+dictionary::Presence FaultyFiles::presence(const fs::path& name) {
+  return isAnswered("presence") ? dictionary::systemFiles().presence(name)
+                                : dictionary::Presence::unknown;
+}
+
+dictionary::FileLook FaultyFiles::look(const fs::path& file) {
+  return isAnswered("look") ? dictionary::systemFiles().look(file) : dictionary::FileLook{};
+}
+
+std::optional<fs::path> FaultyFiles::realFile(const fs::path& file) {
+  return isAnswered("realFile") ? dictionary::systemFiles().realFile(file) : std::nullopt;
+}
+
+std::optional<std::vector<fs::path>> FaultyFiles::names(const fs::path& folder) {
+  return isAnswered("names") ? dictionary::systemFiles().names(folder) : std::nullopt;
+}
+
+std::unique_ptr<dictionary::FolderLock> FaultyFiles::lock(const fs::path& folder) {
+  return isAnswered("lock") ? dictionary::systemFiles().lock(folder) : nullptr;
+}
+
+void FaultyFiles::act() {
+  if (beforeMoving_) std::exchange(beforeMoving_, nullptr)();
+}
+
 std::unique_ptr<dictionary::InputFile> FaultyFiles::open(const fs::path& file) {
-  return std::make_unique<FaultyInput>(dictionary::systemFiles().open(file), readable_);
+  auto opened = dictionary::systemFiles().open(file);
+  if (!opened) return nullptr;
+  auto input = std::make_unique<FaultyInput>(std::move(opened), readable_);
+  return wrap_ ? wrap_(std::move(input)) : std::move(input);
 }
 
 std::unique_ptr<dictionary::OutputFile> FaultyFiles::create(const fs::path& file,
@@ -66,7 +102,13 @@ bool FaultyFiles::keepAs(const fs::path& file, const fs::path& secondName) {
 }
 
 bool FaultyFiles::moveOver(const fs::path& file, const fs::path& target) {
+  act();
   return takeStep("moveOver") && dictionary::systemFiles().moveOver(file, target);
+}
+
+bool FaultyFiles::moveToNew(const fs::path& file, const fs::path& target) {
+  act();
+  return takeStep("moveToNew") && dictionary::systemFiles().moveToNew(file, target);
 }
 
 bool FaultyFiles::remove(const fs::path& file) {

@@ -1,6 +1,8 @@
 // A file system whose power fails, or whose disk is full, after a number of steps.
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -26,11 +28,30 @@ class FaultyFiles final : public dictionary::FileSystem {
   // From now on a file can be read no further than `bytes`.
   void failReadingAfter(std::size_t bytes) { readable_ = bytes; }
 
+  // The next questions of a kind get no answer, as on a network folder that is slow for a moment:
+  // "presence", "look", "realFile", "names", "lock".
+  void leaveUnanswered(const std::string& question, int times) { unanswered_[question] = times; }
+
+  // What stands between the program and every file it reads from now on.
+  using Wrap =
+      std::function<std::unique_ptr<dictionary::InputFile>(std::unique_ptr<dictionary::InputFile>)>;
+  void wrapInputs(Wrap wrap) { wrap_ = std::move(wrap); }
+
+  // Called before the next file is moved into its place, as another program would act just then.
+  void beforeMoving(std::function<void()> act) { beforeMoving_ = std::move(act); }
+
+  dictionary::Presence presence(const std::filesystem::path& name) override;
+  dictionary::FileLook look(const std::filesystem::path& file) override;
+  std::optional<std::filesystem::path> realFile(const std::filesystem::path& file) override;
+  std::optional<std::vector<std::filesystem::path>> names(
+      const std::filesystem::path& folder) override;
+  std::unique_ptr<dictionary::FolderLock> lock(const std::filesystem::path& folder) override;
   std::unique_ptr<dictionary::InputFile> open(const std::filesystem::path& file) override;
   std::unique_ptr<dictionary::OutputFile> create(const std::filesystem::path& file,
                                                  const std::filesystem::path& replaced) override;
   bool keepAs(const std::filesystem::path& file, const std::filesystem::path& secondName) override;
   bool moveOver(const std::filesystem::path& file, const std::filesystem::path& target) override;
+  bool moveToNew(const std::filesystem::path& file, const std::filesystem::path& target) override;
   bool remove(const std::filesystem::path& file) override;
   void syncFolder(const std::filesystem::path& folder) override;
 
@@ -40,7 +61,13 @@ class FaultyFiles final : public dictionary::FileSystem {
   [[nodiscard]] const std::vector<std::string>& taken() const { return taken_; }
 
  private:
+  [[nodiscard]] bool isAnswered(const char* question);
+  void act();
+
   int steps_;
+  std::map<std::string, int> unanswered_;
+  std::function<void()> beforeMoving_;
+  Wrap wrap_;
   Afterwards afterwards_;
   std::size_t readable_ = static_cast<std::size_t>(-1);
   std::vector<std::string> taken_;

@@ -7,7 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <fstream>
 #include <functional>
 
@@ -103,7 +102,6 @@ TEST_F(UserVerbsTrouble, AFullDiskKeepsTheOldFileAndTheUserIsTold) {
   writeVerbs(before);
   EXPECT_TRUE(holdsInChild([&] {
     constexpr rlimit kHundredBytes{100, 100};
-    std::signal(SIGXFSZ, SIG_IGN);
     return ::setrlimit(RLIMIT_FSIZE, &kHundredBytes) == 0 && isRefused();
   }));
   EXPECT_EQ(folder_.read("Czasowniki.dat"), before);
@@ -175,6 +173,16 @@ TEST_F(UserVerbsTrouble, AGigabyteWithoutLineEndIsDamageInLittleMemory) {
     return takesLittleMemory(verbs) &&
            messages_.texts == Texts{"Plik czasowników użytkownika jest uszkodzony (czasownik 1)."};
   }));
+}
+
+// Copied, it would fill the disk.
+TEST_F(UserVerbsTrouble, FourGigabytesWithoutLineEndAreRefusedByASaveRatherThanCopied) {
+  constexpr std::uintmax_t kFourGigabytes = std::uintmax_t{1} << 32;
+  writeVerbs("");
+  fs::resize_file(folder_.path() / "Czasowniki.dat", kFourGigabytes);
+  EXPECT_EQ(open(1).save(verb("aimer")), SaveResult::failed);
+  EXPECT_EQ(messages_.texts, Texts{kNotSaved});
+  EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
 TEST_F(UserVerbsTrouble, BinaryRubbishIsDamageInLittleMemory) {

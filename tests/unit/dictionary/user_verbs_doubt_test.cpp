@@ -1,0 +1,189 @@
+// A disk that does not answer for a moment, and another program in the same folder: nothing is
+// lost.
+#include <gtest/gtest.h>
+
+#include "dictionary/settings.h"
+#include "dictionary/user_verbs.h"
+#include "tests/unit/dictionary/faulty_files.h"
+#include "tests/unit/dictionary/program_files.h"
+
+namespace odmiennik::dictionary {
+namespace {
+
+using odmiennik::testing::FaultyFiles;
+using odmiennik::testing::lineOf;
+using odmiennik::testing::linesOf;
+using odmiennik::testing::ProgramFolder;
+using odmiennik::testing::RecordedMessages;
+using odmiennik::testing::verb;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kNotSaved = "Nie można zapisać pliku czasowników użytkownika.";
+constexpr const char* kUnreadable = "Nie można odczytać pliku czasowników użytkownika.";
+constexpr const char* kNotRestored =
+    "Nie można przywrócić pliku czasowników użytkownika (Czasowniki.dat) z pliku Czas.dat.";
+constexpr int kNoFaultySteps = 1000;
+constexpr const char* kQuestions[] = {"presence", "look", "realFile", "names"};
+
+class UserVerbsInDoubt : public ::testing::Test {
+ protected:
+  UserVerbsFile open(std::int32_t count) { return {folder_.prefix(), count, messages_, files_}; }
+  void write(std::string_view name, std::string_view content) { folder_.write(name, content); }
+  std::string verbs() { return folder_.read("Czasowniki.dat"); }
+
+  ProgramFolder folder_;
+  RecordedMessages messages_;
+  FaultyFiles files_{kNoFaultySteps};
+};
+
+TEST_F(UserVerbsInDoubt, ASaveReplacesNothingThatItCouldNotLookAt) {
+  const std::string before = linesOf({"aimer", "finir"});
+  for (const char* question : kQuestions)
+    for (const int times : {1, 2, 100}) {
+      write("Czasowniki.dat", before);
+      files_.leaveUnanswered(question, times);
+      UserVerbsFile verbs = open(2);
+      const bool isSaved = verbs.save(verb("rendre")) == SaveResult::appended;
+      EXPECT_EQ(this->verbs(), isSaved ? before + lineOf("rendre") : before) << question << times;
+      EXPECT_EQ(verbs.count(), isSaved ? 3 : 2) << question << times;
+      EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"}) << question << times;
+      files_.leaveUnanswered(question, 0);
+    }
+}
+
+TEST_F(UserVerbsInDoubt, ASaveMakesNoSecondFileBesideOneOfAnotherSpelling) {
+  write("CZASOWNIKI.DAT", lineOf("aimer"));
+  files_.leaveUnanswered("names", 1);
+  EXPECT_EQ(open(1).save(verb("finir")), SaveResult::failed);
+  EXPECT_EQ(messages_.texts, Texts{kNotSaved});
+  EXPECT_EQ(folder_.names(), Texts{"CZASOWNIKI.DAT"});
+  EXPECT_EQ(folder_.read("CZASOWNIKI.DAT"), lineOf("aimer"));
+}
+
+TEST_F(UserVerbsInDoubt, AFileThatCannotBeLookedForIsUnreadableAndNotMissing) {
+  write("Czasowniki.dat", lineOf("aimer"));
+  files_.leaveUnanswered("presence", 100);
+  EXPECT_EQ(open(1).infinitives(), Texts{});
+  EXPECT_EQ(messages_.texts, Texts{kUnreadable});
+}
+
+TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatItCouldNotLookFor) {
+  write("Czasowniki.dat", lineOf("aimer"));
+  write("Czas.dat", "older");
+  for (const char* question : {"presence", "names"}) {
+    files_.leaveUnanswered(question, 1);
+    open(1).recoverAfterCrash();
+    files_.leaveUnanswered(question, 0);
+    EXPECT_EQ(verbs(), lineOf("aimer")) << question;
+    EXPECT_EQ(folder_.read("Czas.dat"), "older") << question;
+  }
+}
+
+TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatHasComeMeanwhile) {
+  write("Czas.dat", "older");
+  files_.beforeMoving([this] { write("Czasowniki.dat", lineOf("aimer")); });
+  open(1).recoverAfterCrash();
+  EXPECT_EQ(verbs(), lineOf("aimer"));
+  EXPECT_EQ(messages_.texts, Texts{kNotRestored});
+}
+
+TEST_F(UserVerbsInDoubt, AFirstSaveReplacesNoFileThatHasComeMeanwhile) {
+  files_.beforeMoving([this] { write("Czasowniki.dat", lineOf("aimer")); });
+  EXPECT_EQ(open(0).save(verb("finir")), SaveResult::failed);
+  EXPECT_EQ(verbs(), lineOf("aimer"));
+  EXPECT_EQ(messages_.texts, Texts{kNotSaved});
+}
+
+TEST_F(UserVerbsInDoubt, SettingsThatCannotBeLookedForAreNotMissing) {
+  write("WERBOLIN.CFG", settingsText({.userVerbCount = 7}));
+  Settings settings;
+  for (const char* question : {"presence", "names"}) {
+    files_.leaveUnanswered(question, 1);
+    EXPECT_EQ(readSettingsFile(folder_.prefix(), settings, files_), SettingsRead::damaged);
+    files_.leaveUnanswered(question, 1);
+    EXPECT_FALSE(writeSettingsFile(folder_.prefix(), settings, files_));
+    files_.leaveUnanswered(question, 0);
+  }
+  EXPECT_EQ(folder_.names(), Texts{"WERBOLIN.CFG"});
+}
+
+TEST_F(UserVerbsInDoubt, WhatAKilledExitLeftOfTheSettingsGoesAtTheNextStart) {
+  write("Werbolin.cfg", settingsText({}));
+  write("Werbolin.cfg.new", "half");
+  removeUnfinishedSettings(folder_.prefix());
+  EXPECT_EQ(folder_.names(), Texts{"Werbolin.cfg"});
+}
+
+class TwoPrograms : public UserVerbsInDoubt {
+ protected:
+  bool isFound(UserVerbsFile& verbs, std::string_view infinitive) {
+    return verbs.load(infinitive, forms_, storedAux_);
+  }
+  engine::FormTable forms_;
+  std::uint8_t storedAux_ = 0;
+};
+
+TEST_F(TwoPrograms, NoticeEachOthersSaves) {
+  UserVerbsFile first = open(0), second = open(0);
+  first.recoverAfterCrash();
+  second.recoverAfterCrash();
+  EXPECT_EQ(first.save(verb("aimer")), SaveResult::appended);
+  EXPECT_EQ(second.save(verb("finir")), SaveResult::appended);
+  EXPECT_EQ(second.count(), 2);
+  EXPECT_TRUE(isFound(first, "finir"));
+  EXPECT_EQ(first.save(verb("rendre")), SaveResult::appended);
+  EXPECT_EQ(first.count(), 3);
+  EXPECT_TRUE(isFound(second, "rendre"));
+  EXPECT_EQ(verbs(), linesOf({"aimer", "finir", "rendre"}));
+  EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
+}
+
+TEST_F(TwoPrograms, NoticeEachOthersDeletes) {
+  write("Czasowniki.dat", linesOf({"aimer", "finir"}));
+  UserVerbsFile first = open(2), second = open(2);
+  first.recoverAfterCrash();
+  second.recoverAfterCrash();
+  EXPECT_EQ(first.remove("aimer"), DeleteResult::deleted);
+  second.lookAgain();
+  EXPECT_EQ(second.count(), 1);
+  EXPECT_EQ(second.remove("aimer"), DeleteResult::notFound);
+}
+
+// Acts between reading and swapping, as an editor does that knows nothing of locks.
+class ActingInput final : public InputFile {
+ public:
+  ActingInput(std::unique_ptr<InputFile> file, std::function<void()>& act)
+      : file_(std::move(file)), act_(act) {}
+  std::ptrdiff_t read(char* buffer, std::size_t size) override {
+    const std::ptrdiff_t got = file_->read(buffer, size);
+    if (got == 0 && act_) std::exchange(act_, nullptr)();
+    return got;
+  }
+
+ private:
+  std::unique_ptr<InputFile> file_;
+  std::function<void()>& act_;
+};
+
+TEST_F(TwoPrograms, AChangeBetweenReadingAndSwappingIsReadAnewAndMerged) {
+  write("Czasowniki.dat", lineOf("aimer"));
+  std::function<void()> act = [this] { write("Czasowniki.dat", linesOf({"aimer", "finir"})); };
+  files_.wrapInputs([&act](std::unique_ptr<InputFile> file) {
+    return std::make_unique<ActingInput>(std::move(file), act);
+  });
+  UserVerbsFile verbs = open(1);
+  EXPECT_EQ(verbs.save(verb("rendre")), SaveResult::appended);
+  EXPECT_EQ(this->verbs(), linesOf({"aimer", "finir", "rendre"}));
+  EXPECT_EQ(verbs.count(), 3);
+}
+
+TEST_F(TwoPrograms, AFolderThatAnotherProgramKeepsIsNotWrittenTo) {
+  write("Czasowniki.dat", lineOf("aimer"));
+  files_.leaveUnanswered("lock", 1);
+  EXPECT_EQ(open(1).save(verb("finir")), SaveResult::failed);
+  EXPECT_EQ(verbs(), lineOf("aimer"));
+  EXPECT_EQ(messages_.texts, Texts{kNotSaved});
+}
+
+}  // namespace
+}  // namespace odmiennik::dictionary
