@@ -7,6 +7,7 @@
 #include <QSessionManager>
 #include <QWidget>
 #include <algorithm>
+#include <cstdio>
 
 #include "app/lifetime/settings_keeper.h"
 
@@ -31,7 +32,9 @@ void Closing::closeWithoutQuestion() {
 void Closing::endNow() {
   if (hasEnded_) return;
   hasEnded_ = true;
-  settings_.SaveSettings();
+  if (!settings_.saveSilently())
+    std::fprintf(stderr, "odmiennik: %s\n",
+                 dictionary::messageText(MessageId::settingsNotWritten).c_str());
   end_();
 }
 

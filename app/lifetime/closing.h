@@ -36,7 +36,8 @@ class Closing final : public QObject {
   // verb only where the system lets programs ask. False asks the system not to go on.
   [[nodiscard]] bool prepareForSessionEnd(bool mayAsk);
 
-  // Ends the program at once, with its settings saved: the system waits for no answer.
+  // Ends the program at once, with its settings saved: the system waits for no answer. That they
+  // could not be saved is a line on standard error.
   void endNow();
 
   // Whether the window has been closed for good.

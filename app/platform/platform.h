@@ -28,8 +28,9 @@ void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen);
 // by; false where a program may not do that.
 bool movePointer(int x, int y);
 
-// Has `end` called, from the event loop, when the system asks the program to end without telling its
-// windows; called once, after the application has been made. Windows tells the windows.
+// Has `end` called, from the event loop, when the system asks the program to end without telling
+// its windows; called once, after the application has been made. Asked a second time, the program
+// ends without more ado. Windows tells the windows.
 void onTermination(std::function<void()> end);
 
 // The Windows virtual-key code that a key has by its place, whatever letter it types: of every key

@@ -41,7 +41,11 @@ QWindow* windowOf(std::uintptr_t handle) {
 // handler.
 int termination[2];
 
+constexpr int kTerminating[] = {SIGTERM, SIGHUP, SIGINT};
+
+// Whoever asks twice does not want to wait: the second signal ends the program by itself.
 void passOn(int /*signal*/) {
+  for (const int signal : kTerminating) std::signal(signal, SIG_DFL);
   const char any = 1;
   [[maybe_unused]] const ssize_t written = write(termination[1], &any, sizeof any);
 }
@@ -129,7 +133,7 @@ void onTermination(std::function<void()> end) {
   struct sigaction action {};
   action.sa_handler = passOn;
   action.sa_flags = SA_RESTART;
-  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) sigaction(signal, &action, nullptr);
+  for (const int signal : kTerminating) sigaction(signal, &action, nullptr);
 }
 
 // X11 and Wayland number the keys by their place: "1" is 10, "0" is 19.

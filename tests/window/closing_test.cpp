@@ -2,6 +2,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 
+#include "tests/unit/dictionary/faulty_files.h"
 #include "tests/window/edited_program.h"
 #include "tests/window/program_run.h"
 #include "tests/window/suites.h"
@@ -39,6 +40,7 @@ class ClosingSuite : public QObject {
   void anEndingSessionThatMayNotBeAskedSavesTheSettings();
   void aRefusedSaveStopsTheEndOfTheSession();
   void aTerminationSavesTheSettingsOnceAndEndsWithoutAQuestion();
+  void aTerminationThatCannotSaveTheSettingsTellsStandardErrorAndEnds();
   void aSessionThatGoesOnAsksAgain();
   void aSessionThatGoesOnAsksAboutTheEditedVerbAgain();
 
@@ -207,6 +209,19 @@ void ClosingSuite::aTerminationSavesTheSettingsOnceAndEndsWithoutAQuestion() {
   run_->program.closing().endNow();
   QCOMPARE(run_->ends, 1);
   QVERIFY(run_->messages.shown.empty());
+}
+
+// Nobody may be there to answer a message, and the system does not wait.
+void ClosingSuite::aTerminationThatCannotSaveTheSettingsTellsStandardErrorAndEnds() {
+  ProgramHome home;
+  home.write("Werbolin.cfg", kBefore);
+  testing::FaultyFiles readOnly(0);
+  ProgramRun run(home, readOnly);
+  run.program.start();
+  run.messages.shown.clear();
+  run.program.closing().endNow();
+  QCOMPARE(run.ends, 1);
+  QVERIFY(run.messages.shown.empty());
 }
 
 std::unique_ptr<QObject> closingSuite() { return std::make_unique<ClosingSuite>(); }
