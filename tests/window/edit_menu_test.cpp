@@ -98,7 +98,7 @@ void EditMenuSuite::allSelectedCannotBeSelectedOnceMore() {
 }
 
 void EditMenuSuite::anEmptyBoxCanOnlyBePastedInto() {
-  program_->entry().clear();
+  program_->entry().setText({});
   QCOMPARE(available(), "Wklej");
 }
 
@@ -122,7 +122,7 @@ void EditMenuSuite::filesCannotBePasted() {
 
 void EditMenuSuite::anEmptyClipboardCannotBePasted() {
   QGuiApplication::clipboard()->clear();
-  program_->entry().clear();
+  program_->entry().setText({});
   QCOMPARE(available(), "");
 }
 

@@ -158,7 +158,8 @@ void MenuSuite::f10OpensTheFirstMenu() {
   QVERIFY(menu.activeAction() != nullptr);
   QTest::keyClick(&menu, Qt::Key_Escape);
   QTRY_VERIFY(!menu.isVisible());
-  QCoreApplication::processEvents();
+  QTest::keyClick(program_->window.menuBar(), Qt::Key_Escape);
+  QVERIFY(QTest::qWaitForWindowActive(&program_->window));
   QCOMPARE(QApplication::focusWidget(), &program_->box(3));
   QVERIFY(program_->messages.shown.empty());
 }
