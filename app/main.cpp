@@ -4,21 +4,41 @@
 #include "app/common/look.h"
 #include "app/common/qt_message_boxes.h"
 #include "app/lifetime/program_arguments.h"
+#include "app/logic/program_arguments.h"
 #include "app/platform/platform.h"
 #include "app/program.h"
 
-int main(int argumentCount, char** arguments) {
-  using namespace odmiennik;
-  QApplication application(argumentCount, arguments);
-  app::prepare(application);
-  app::QtMessageBoxes messages;
-  app::UserStore store;
-  app::Program program({.folder = app::folderOfArguments(application),
-                        .messages = messages,
-                        .store = store,
-                        .end = [] { QApplication::exit(); }});
-  app::platform::onTermination([&program] { program.closing().endNow(); });
+namespace odmiennik::app {
+namespace {
+
+int runWindow(QApplication& application, const ProgramArguments& given) {
+  prepare(application);
+  QtMessageBoxes messages;
+  UserStore store;
+  Program program({.folder = programFolderOf(given.folder),
+                   .messages = messages,
+                   .store = store,
+                   .end = [] { QApplication::exit(); },
+                   .verb = given.verb});
+  platform::onTermination([&program] { program.closing().endNow(); });
   QMetaObject::invokeMethod(
       &application, [&program] { program.start(); }, Qt::QueuedConnection);
   return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace odmiennik::app
+
+// What is only told needs no screen: no application is made for it.
+int main(int argumentCount, char** arguments) {
+  using namespace odmiennik::app;
+  const ProgramArguments given =
+      programArguments(platform::arguments(argumentCount, arguments), ODMIENNIK_VERSION);
+  if (!given.told.empty()) {
+    constexpr int kWrongUsage = 2;
+    platform::tell(given.told, given.isRefused);
+    return given.isRefused ? kWrongUsage : 0;
+  }
+  QApplication application(argumentCount, arguments);
+  return runWindow(application, given);
 }

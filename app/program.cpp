@@ -20,7 +20,10 @@ Program::Program(const Surroundings& given)
       closing_(window_, settings_, given.messages, given.end),
       tips_(window_, *window_.menuBar(), given.store),
       startUp_({prefix_, window_, pointer_, settings_, userVerbs_, tips_, closing_, given.messages,
-                layout(), [this, places = given.helpPlaces] { help_.help().lookIn(places); }}),
+                layout(), [this, places = given.helpPlaces] { help_.help().lookIn(places); },
+                [this, verb = given.verb] {
+                  if (verb) editing_.conjugate(*verb);
+                }}),
       viewMenu_(window_, chooser_),
       editing_(window_, pointer_, userVerbs_, given.messages),
       typing_(window_, given.store, given.messages),

@@ -39,6 +39,7 @@ class Program {
     dictionary::FileSystem& files = dictionary::systemFiles();
     ScreenPointer pointer = systemPointer();
     QStringList helpPlaces = helpFilePlaces();
+    std::optional<std::string> verb = {};  // conjugated at the start, Windows-1252
   };
   explicit Program(const Surroundings& surroundings);
   ~Program();

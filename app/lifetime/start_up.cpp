@@ -58,6 +58,9 @@ bool StartUp::take(StartUpStep step) {
     case StartUpStep::checkFirstStart:
       checkFirstStart();
       break;
+    case StartUpStep::conjugateGivenVerb:
+      needs_.conjugateGivenVerb();
+      break;
     case StartUpStep::showTipOfTheDay:
       needs_.tips.showAtStart();
       break;

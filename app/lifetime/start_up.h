@@ -36,7 +36,8 @@ class StartUp {
     Closing& closing;
     dictionary::MessageBoxes& messages;
     LayoutPort layout = {};
-    std::function<void()> setHelpFile = [] {};  // tells the help where its file is
+    std::function<void()> setHelpFile = [] {};         // tells the help where its file is
+    std::function<void()> conjugateGivenVerb = [] {};  // the command line's, if there is one
   };
   explicit StartUp(Needs needs) : needs_(std::move(needs)) {}
 

@@ -21,20 +21,28 @@ enum class StartUpStep : std::uint8_t {
   rescaleForScreen,
   readSettings,
   checkFirstStart,
+  conjugateGivenVerb,  // before the tip, which waits to be closed
   showTipOfTheDay,
   countRun,
   showPointer,
 };
 
-inline constexpr std::array kStartUpSteps{
-    StartUpStep::showHourglass,        StartUpStep::setHelpFile,
-    StartUpStep::loadCursors,          StartUpStep::takeDesignSize,
-    StartUpStep::showEmptyPronouns,    StartUpStep::findCharacterMap,
-    StartUpStep::showVersionInCaption, StartUpStep::showWindow,
-    StartUpStep::selectEntryWord,      StartUpStep::rescaleForScreen,
-    StartUpStep::readSettings,         StartUpStep::checkFirstStart,
-    StartUpStep::showTipOfTheDay,      StartUpStep::countRun,
-    StartUpStep::showPointer};
+inline constexpr std::array kStartUpSteps{StartUpStep::showHourglass,
+                                          StartUpStep::setHelpFile,
+                                          StartUpStep::loadCursors,
+                                          StartUpStep::takeDesignSize,
+                                          StartUpStep::showEmptyPronouns,
+                                          StartUpStep::findCharacterMap,
+                                          StartUpStep::showVersionInCaption,
+                                          StartUpStep::showWindow,
+                                          StartUpStep::selectEntryWord,
+                                          StartUpStep::rescaleForScreen,
+                                          StartUpStep::readSettings,
+                                          StartUpStep::checkFirstStart,
+                                          StartUpStep::conjugateGivenVerb,
+                                          StartUpStep::showTipOfTheDay,
+                                          StartUpStep::countRun,
+                                          StartUpStep::showPointer};
 
 // The word that the entry box starts with, selected.
 inline constexpr std::string_view kEntryWord = "infinitif";

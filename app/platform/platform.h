@@ -5,10 +5,19 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "app/logic/always_on_top.h"
 
 namespace odmiennik::app::platform {
+
+// The arguments without the program's name, as the system has them: UTF-8 on Windows, elsewhere
+// whatever bytes they are.
+[[nodiscard]] std::vector<std::string> arguments(int count, char** values);
+
+// Says `text` (UTF-8) where the program was started: on standard output or standard error; on
+// Windows, where a program with windows has neither, in a message.
+void tell(const std::string& text, bool isError);
 
 // The program that shows all letters of a font, ready to be started; empty when there is none.
 [[nodiscard]] std::string characterMap();

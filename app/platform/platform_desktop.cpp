@@ -13,6 +13,7 @@
 #include <QWindow>
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <initializer_list>
 #include <utility>
 
@@ -95,6 +96,17 @@ class AwaitedFrame final : public QObject {
 };
 
 }  // namespace
+
+std::vector<std::string> arguments(int count, char** values) {
+  if (count < 2) return {};
+  return {values + 1, values + count};
+}
+
+void tell(const std::string& text, bool isError) {
+  std::FILE* stream = isError ? stderr : stdout;
+  std::fwrite(text.data(), 1, text.size(), stream);
+  std::fflush(stream);
+}
 
 std::string characterMap() { return firstFound({"gucharmap", "gnome-characters", "kcharselect"}); }
 

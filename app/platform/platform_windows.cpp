@@ -3,7 +3,10 @@
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <windows.h>
+// windows.h must come before shellapi.h.
+#include <shellapi.h>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -24,6 +27,21 @@ template <std::size_t size>
 std::string textOf(const std::array<char, size>& buffer) {
   const std::string_view all(buffer.data(), buffer.size());
   return std::string(all.substr(0, all.find('\0')));
+}
+
+std::string fromWide(const wchar_t* text) {
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(std::max(size, 1)) - 1, '\0');
+  if (size > 1) WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
+  return utf8;
+}
+
+std::wstring toWide(const std::string& utf8) {
+  const auto length = static_cast<int>(utf8.size());
+  const int size = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
+  std::wstring text(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, text.data(), size);
+  return text;
 }
 
 bool isFile(const std::string& path) {
@@ -75,6 +93,20 @@ class WindowsRegistry final : public Registry {
 };
 
 }  // namespace
+
+std::vector<std::string> arguments(int /*count*/, char** /*values*/) {
+  int count = 0;
+  wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> texts;
+  for (int i = 1; values != nullptr && i < count; ++i) texts.push_back(fromWide(values[i]));
+  LocalFree(values);
+  return texts;
+}
+
+void tell(const std::string& text, bool isError) {
+  MessageBoxW(nullptr, toWide(text).c_str(), L"Odmiennik",
+              isError ? MB_ICONEXCLAMATION : MB_ICONINFORMATION);
+}
 
 std::string characterMap() {
   std::string path = characterMapPath(windowsFolder());

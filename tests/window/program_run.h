@@ -24,12 +24,14 @@ class ProgramHome final : public testing::ProgramFolder {
 
 // One run, not yet started; Yes to every question unless told otherwise.
 struct ProgramRun {
-  explicit ProgramRun(ProgramHome& home, dictionary::FileSystem& files = dictionary::systemFiles())
+  explicit ProgramRun(ProgramHome& home, dictionary::FileSystem& files = dictionary::systemFiles(),
+                      const std::optional<std::string>& verb = {})
       : program({.folder = home.path().string(),
                  .messages = messages,
                  .store = home.store,
                  .end = [this] { ++ends; },
-                 .files = files}) {
+                 .files = files,
+                 .verb = verb}) {
     messages.answer = dictionary::Button::yes;
   }
 

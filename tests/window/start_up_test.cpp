@@ -39,6 +39,8 @@ class StartUpSuite : public QObject {
   void theLayoutIsNotRescaledOnAScreenOf800Pixels();
   void anyOtherScreenIsRescaledFor();
   void aStartEndedByTheResolutionReadsNoSettings();
+  void theVerbOfTheCommandLineIsConjugatedAtTheStart();
+  void anUnknownVerbOfTheCommandLineHasItsMessage();
   void theDevelopersButtonsAreOutOfReach();
   void theDevelopersToolsWork();
 
@@ -181,6 +183,21 @@ void StartUpSuite::aStartEndedByTheResolutionReadsNoSettings() {
   run(layout, 9600);
   QCOMPARE(layout.steps, "help file, rescaled");
   QVERIFY(!home_->has("Werbolin.cfg"));
+}
+
+void StartUpSuite::theVerbOfTheCommandLineIsConjugatedAtTheStart() {
+  ProgramRun run(*home_, dictionary::systemFiles(), "se laver");
+  run.program.start();
+  QCOMPARE(run.entry().text(), "se laver");
+  QCOMPARE(run.entry().selectedText(), "se laver");
+  QCOMPARE(run.widget<QLineEdit>("txtCzasownik_0").text(), "me lave");
+  QVERIFY(run.messages.shown.empty());
+}
+
+void StartUpSuite::anUnknownVerbOfTheCommandLineHasItsMessage() {
+  ProgramRun run(*home_, dictionary::systemFiles(), "xyz");
+  run.program.start();
+  QCOMPARE(run.messages.shown, Messages{MessageId::notConjugable});
 }
 
 void StartUpSuite::theDevelopersButtonsAreOutOfReach() {

@@ -17,9 +17,9 @@ bool precedes(StartUpStep first, StartUpStep second) {
   return place(first) < place(second) && place(second) != kStartUpSteps.end();
 }
 
-TEST(start_up, has_fifteen_steps_and_each_once) {
-  EXPECT_EQ(kStartUpSteps.size(), 15U);
-  EXPECT_EQ(std::set(kStartUpSteps.begin(), kStartUpSteps.end()).size(), 15U);
+TEST(start_up, has_sixteen_steps_and_each_once) {
+  EXPECT_EQ(kStartUpSteps.size(), 16U);
+  EXPECT_EQ(std::set(kStartUpSteps.begin(), kStartUpSteps.end()).size(), 16U);
 }
 
 TEST(start_up, works_under_the_hourglass) {
@@ -41,6 +41,11 @@ TEST(start_up, counts_the_run_behind_settings_first_start_and_tip) {
   EXPECT_TRUE(precedes(readSettings, checkFirstStart));
   EXPECT_TRUE(precedes(checkFirstStart, showTipOfTheDay));
   EXPECT_TRUE(precedes(showTipOfTheDay, countRun));
+}
+
+TEST(start_up, conjugates_the_given_verb_between_first_start_and_tip) {
+  EXPECT_TRUE(precedes(checkFirstStart, conjugateGivenVerb));
+  EXPECT_TRUE(precedes(conjugateGivenVerb, showTipOfTheDay));
 }
 
 TEST(start_up, shows_the_version_in_the_caption) {
