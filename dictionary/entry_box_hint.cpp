@@ -12,9 +12,13 @@ namespace vk = virtual_key;
 constexpr int kModifiers[] = {vk::kShift,       vk::kControl, vk::kAlt,        vk::kCapsLock,
                               vk::kLeftWindows, vk::kNumLock, vk::kScrollLock, vk::kRightWindows};
 
+// Caret and selection move in a locked box too, to read and copy a form.
+bool movesCaret(int virtualKey) { return virtualKey >= vk::kPageUp && virtualKey <= vk::kDown; }
+
 bool asksForHint(const KeyStroke& key) {
   const bool isCommand = key.isControlHeld || key.isAltHeld || key.isShortcut;
-  return !isCommand && key.virtualKey != vk::kTab && !isModifier(key.virtualKey);
+  const bool isTyped = key.virtualKey != vk::kTab && !movesCaret(key.virtualKey);
+  return !isCommand && isTyped && !isModifier(key.virtualKey);
 }
 
 }  // namespace

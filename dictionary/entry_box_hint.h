@@ -21,8 +21,9 @@ struct KeyStroke {
 // Whether the key is one that only changes others: Shift, Ctrl, Alt, the Windows keys, the locks.
 [[nodiscard]] bool isModifier(int virtualKey);
 
-// deliberate: every key asks for the hint, each time, to lead to the entry box. It has to go down
-// and up in the same box, so that neither Tab nor the key that closed the hint is answered.
+// deliberate: every key that would type asks for the hint, each time, to lead to the entry box;
+// those that move the caret or the selection do not. It has to go down and up in the same box, so
+// that neither Tab nor the key that closed the hint is answered.
 class ReadOnlyBoxHint {
  public:
   void pressed(int box, const KeyStroke& key);

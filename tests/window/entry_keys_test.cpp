@@ -43,6 +43,7 @@ class EntryKeysSuite : public QObject {
   void aKeyInALockedBoxShowsTheHintEachTime();
   void keysInAnEditedBoxShowNothing();
   void tabCopyingAndShortcutsShowNoHint();
+  void keysThatMoveTheCaretShowNoHint();
   void theKeyThatClosedTheHintShowsNoOther();
   void theHintsHelpButtonOpensContextTwo();
   void keysHaveTheirVirtualKeyCodes_data();
@@ -156,7 +157,7 @@ void EntryKeysSuite::aKeyInALockedBoxShowsTheHintEachTime() {
   program_->box(0).setFocus();
   QTest::keyClick(&program_->box(0), Qt::Key_A);
   QTRY_COMPARE(program_->messages.shown, Messages{MessageId::typeInfinitive});
-  QTest::keyClick(&program_->box(0), Qt::Key_Left);
+  QTest::keyClick(&program_->box(0), Qt::Key_B);
   QTRY_COMPARE(program_->messages.shown, Messages(2, MessageId::typeInfinitive));
 }
 
@@ -182,6 +183,22 @@ void EntryKeysSuite::tabCopyingAndShortcutsShowNoHint() {
   QTest::keyClick(&program_->box(0), Qt::Key_A, Qt::AltModifier);
   QCoreApplication::processEvents();
   QCOMPARE(QGuiApplication::clipboard()->text(), "parle");
+  QVERIFY(program_->messages.shown.empty());
+}
+
+void EntryKeysSuite::keysThatMoveTheCaretShowNoHint() {
+  program_->conjugate("parler");
+  program_->box(0).setFocus();
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Home,
+                            Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown}) {
+    QTest::keyClick(&program_->box(0), key);
+    QTest::keyClick(&program_->box(0), key, Qt::KeypadModifier);
+    QTest::keyClick(&program_->box(0), key, Qt::ShiftModifier);
+  }
+  QTest::keyClick(&program_->box(0), Qt::Key_Home);
+  QTest::keyClick(&program_->box(0), Qt::Key_End, Qt::ShiftModifier);
+  QCoreApplication::processEvents();
+  QCOMPARE(program_->box(0).selectedText(), "parle");
   QVERIFY(program_->messages.shown.empty());
 }
 

@@ -24,10 +24,16 @@ TEST(read_only_box, answers_a_key_each_time) {
   EXPECT_TRUE(pressAndRelease(hint, 0, kLetter));
 }
 
-TEST(read_only_box, answers_letters_arrows_deletion_and_enter) {
-  for (const int code : {65, 48, 37, virtual_key::kBackspace, virtual_key::kDelete,
-                         virtual_key::kEnter, virtual_key::kF1, virtual_key::kNone})
+TEST(read_only_box, answers_letters_deletion_and_enter) {
+  for (const int code : {65, 48, virtual_key::kBackspace, virtual_key::kDelete, virtual_key::kEnter,
+                         virtual_key::kF1, virtual_key::kNone})
     EXPECT_TRUE(answers({.physicalKey = 9, .virtualKey = code})) << code;
+}
+
+TEST(read_only_box, does_not_answer_keys_that_move_the_caret_or_the_selection) {
+  for (int code = virtual_key::kPageUp; code <= virtual_key::kDown; ++code)
+    EXPECT_FALSE(answers({.physicalKey = 113, .virtualKey = code})) << code;
+  EXPECT_TRUE(answers({.physicalKey = 65, .virtualKey = virtual_key::kSpace}));
 }
 
 TEST(read_only_box, does_not_answer_tab) {
