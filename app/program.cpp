@@ -30,9 +30,11 @@ Program::Program(const Surroundings& given)
       printing_(window_, given.messages),
       listMenu_(window_, prefix_, userVerbs_, editing_),
       demonstration_(window_, editing_, given.pointer),
-      help_(window_, given.store, given.messages, [this] {
-        return Usage{settings_.conjugationCount(), settings_.runCount()};
-      }) {
+      help_(window_, given.store, given.messages,
+            [this] {
+              return Usage{settings_.conjugationCount(), settings_.runCount()};
+            }),
+      tooltips_(window_) {
   giveIconLater(window_);
   connectParts(given);
   connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);

@@ -8,6 +8,7 @@
 #include "app/demonstration/demonstration.h"
 #include "app/editing/editing.h"
 #include "app/help/help_commands.h"
+#include "app/hints/tooltips.h"
 #include "app/lifetime/closing.h"
 #include "app/lifetime/settings_keeper.h"
 #include "app/lifetime/start_up.h"
@@ -82,6 +83,7 @@ class Program {
   ListMenu listMenu_;
   DemonstrationRunner demonstration_;
   HelpCommands help_;
+  Tooltips tooltips_;
 };
 
 }  // namespace odmiennik::app

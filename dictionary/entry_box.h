@@ -37,11 +37,14 @@ inline constexpr int kLastNamed = 254;
 struct ReleasedKey {
   int virtualKey = virtual_key::kNone;
   bool isLetterTyped = false;  // asked only of what came without a key
+  bool isRefused = false;      // its letter is one that the box does not take
 };
 
 // Whether the key may complete: codes 65 to 254. Backspace, Delete, arrows, Space, Enter and the
-// digit row do not, whatever letter the digit row types.
+// digit row do not, whatever letter the digit row types, nor does a letter that has not been
+// entered: the text in front of it would become another verb without a word.
 [[nodiscard]] constexpr bool completes(ReleasedKey key) {
+  if (key.isRefused) return false;
   if (key.virtualKey == virtual_key::kNone) return key.isLetterTyped;
   return key.virtualKey >= virtual_key::kFirstLetter && key.virtualKey <= virtual_key::kLastNamed;
 }

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "app/common/text.h"
 #include "app/controls/caption_label.h"
@@ -81,6 +82,11 @@ Controls::Controls(QWidget& surface) {
     widgets_.push_back(create(row, surface, *letters));
     if (widgets_.back() != nullptr) furnish(*widgets_.back(), row);
   }
+}
+
+const ControlRow* Controls::rowOf(const QWidget& widget) const {
+  const auto found = std::ranges::find(widgets_, &widget);
+  return found == widgets_.end() ? nullptr : &kMainWindow[found - widgets_.begin()];
 }
 
 }  // namespace odmiennik::app

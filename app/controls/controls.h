@@ -22,6 +22,9 @@ class Controls {
     return *static_cast<Widget*>(widgets_[position]);
   }
 
+  // The row that the widget was built from; none for any other widget.
+  [[nodiscard]] const ControlRow* rowOf(const QWidget& widget) const;
+
   // The widgets of an array, or the control of that name, in the table's order.
   template <typename Visitor>
   void forEach(std::string_view name, Visitor visit) const {

@@ -1,11 +1,11 @@
 // A box of one form.
 #include "app/controls/form_box.h"
 
-#include <QHelpEvent>
+#include <QFocusEvent>
+#include <QInputMethodEvent>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionFrame>
-#include <QToolTip>
 #include <algorithm>
 
 #include "app/common/text.h"
@@ -19,6 +19,15 @@ constexpr int kNatural = 100;
 // QLineEdit keeps two pixels at each end of its text; in larger letters that is too little.
 constexpr int kMarginOfQLineEdit = 2;
 constexpr double kMarginOfLetters = 2.0 / 11;
+
+void composeAccents(QString& text, int& caret) {
+  if (!std::ranges::any_of(text, [](QChar letter) { return letter.isMark(); })) return;
+  const auto composed = [](const QString& part) {
+    return part.normalized(QString::NormalizationForm_C);
+  };
+  caret = static_cast<int>(composed(text.left(caret)).size());
+  text = composed(text);
+}
 
 int stretchOf(const QFont& font) {
   return font.stretch() == QFont::AnyStretch ? kNatural : font.stretch();
@@ -41,12 +50,16 @@ int leastWidth(const QFont& font, double pixelRatio) {
 }  // namespace
 
 QValidator::State FrenchLetters::validate(QString& input, int& caret) const {
+  composeAccents(input, caret);
+  QString others;
   for (int position = static_cast<int>(input.size()) - 1; position >= 0; --position) {
     const QChar letter = input.at(position);
     if (isFrenchLetter(letter) && letter >= QLatin1Char(' ')) continue;
+    if (letter.isPrint() || letter.isSurrogate()) others.prepend(letter);
     input.remove(position, 1);
     if (position < caret) --caret;
   }
+  if (!others.isEmpty()) emit refused(others);
   return Acceptable;
 }
 
@@ -121,6 +134,7 @@ void FormBox::changeEvent(QEvent* event) {
 // The menu bar takes the focus for as long as it is worked with; the box counts as the place where
 // the user is.
 void FormBox::focusOutEvent(QFocusEvent* event) {
+  emit left();
   if (event->reason() != Qt::MenuBarFocusReason) return QLineEdit::focusOutEvent(event);
   QFocusEvent forMenu(QEvent::FocusOut, Qt::PopupFocusReason);
   QLineEdit::focusOutEvent(&forMenu);
@@ -130,15 +144,6 @@ void FormBox::inputMethodEvent(QInputMethodEvent* event) {
   const QString text = event->commitString();
   QLineEdit::inputMethodEvent(event);
   if (!text.isEmpty()) emit committed(text);
-}
-
-bool FormBox::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QLineEdit::event(event);
-  if (isClipped() || font() != formFont_)
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
-  else
-    QToolTip::hideText();
-  return true;
 }
 
 }  // namespace odmiennik::app

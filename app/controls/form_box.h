@@ -7,17 +7,23 @@
 namespace odmiennik::app {
 
 // Lets through the letters of Windows-1252 only: "łabcé" becomes "abcé", typed or pasted. Nothing
-// that could not be saved is ever entered, and no line break or tab either.
+// that could not be saved is ever entered, and no line break or tab either. A letter and the
+// combining accent behind it are one letter, as texts from other systems have them.
 class FrenchLetters final : public QValidator {
+  Q_OBJECT
+
  public:
   using QValidator::QValidator;
   [[nodiscard]] State validate(QString& input, int& caret) const override;
+
+ signals:
+  // These letters and signs have not been let through; control characters go without a word.
+  void refused(const QString& letters) const;
 };
 
-// A line edit that shows the beginning of its form, and the whole of it as a tooltip when it does
-// not fit in letters of their natural width. While it is read-only its text is what showForm() gave
-// it: a program that writes into it nevertheless, as tools for the disabled can, finds it restored.
-// What is selected stays selected while a menu is open.
+// A line edit that shows the beginning of its form. While it is read-only its text is what
+// showForm() gave it: a program that writes into it nevertheless, as tools for the disabled can,
+// finds it restored. What is selected stays selected while a menu is open.
 class FormBox final : public QLineEdit {
   Q_OBJECT
 
@@ -43,13 +49,14 @@ class FormBox final : public QLineEdit {
  signals:
   // A dead key or an input method has put `text` into the box.
   void committed(const QString& text);
+  // The focus has gone to another control.
+  void left();
   // The box has been made read-only, or can be typed into again.
   void lockChanged();
   // The form may need letters of another width.
   void fitChanged();
 
  protected:
-  bool event(QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -1,9 +1,11 @@
 // The subject pronouns in front of the boxes, painted on the window itself.
 #pragma once
 
+#include <QFont>
 #include <QRect>
 #include <QString>
 #include <array>
+#include <optional>
 
 #include "engine/pronouns.h"
 
@@ -23,6 +25,10 @@ class PronounPainter {
   [[nodiscard]] const QString& pronoun(int slot) const {
     return pronouns_[static_cast<std::size_t>(slot)];
   }
+
+  // The box whose pronoun stands at `place`; nothing where none does. `font` is that of the
+  // painter.
+  [[nodiscard]] std::optional<int> slotAt(const QPoint& place, const QFont& font) const;
 
   // Paints those that touch `region`, in the painter's pen and font.
   void paint(QPainter& painter, const QRect& region) const;

@@ -22,6 +22,11 @@ class FormBoxes {
   // The box of the infinitive, where the user types.
   [[nodiscard]] FormBox& entry() const { return (*this)[engine::slot::kInfinitive]; }
 
+  // What all boxes let through.
+  [[nodiscard]] const FrenchLetters* letters() const {
+    return static_cast<const FrenchLetters*>(entry().validator());
+  }
+
   // The slot whose box `box` is; the infinitive's for anything that is no box.
   [[nodiscard]] int slotOf(const QObject& box) const;
 

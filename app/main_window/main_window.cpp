@@ -168,6 +168,7 @@ void MainWindow::showConjugation() {
   const FormColumns::Pause pause(columns_);
   const ChangesUnheard unheard;
   surface_.setUpdatesEnabled(false);
+  controls_.get<QLabel>(positionOf("lblPodpowiedź")).hide();  // the first verb has come
   surface_.pronouns().show(conjugation_.shown.pronouns);
   boxes_.show(conjugation_.shown);
   information_.show(conjugation_.information.labels);

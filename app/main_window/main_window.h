@@ -43,13 +43,21 @@ class MainWindow final : public QMainWindow {
     return conjugation_.storedInfinitive;
   }
 
+  // What is shown of the verb, and whether it is being edited.
+  [[nodiscard]] const engine::Conjugation& conjugation() const { return conjugation_; }
+  [[nodiscard]] bool isEditing() const { return isEditing_; }
+
+  // The ground of the controls, with the pronouns on it.
+  [[nodiscard]] FormSurface& surface() const { return surface_; }
+
   // The auxiliary that the user has set: 1 avoir, 0 être.
   [[nodiscard]] std::uint8_t auxiliary() const { return conjugation_.flags.auxiliary; }
 
   // Unlocks the boxes for editing, or locks them again.
   void setEditing(bool isEditing);
 
-  // The window before the first verb: no forms, the pronouns of an empty table, nothing known.
+  // The window before the first verb: no forms, the pronouns of an empty table, nothing known, and
+  // a word on how to begin.
   void showEmptyTable();
 
   // Puts the word that the window starts with into the entry box, selected.

@@ -18,9 +18,9 @@ constexpr QKeySequence::StandardKey kKeysOfEveryBox[] = {
     QKeySequence::Copy,      QKeySequence::Cut,  QKeySequence::Paste,
     QKeySequence::SelectAll, QKeySequence::Undo, QKeySequence::Redo};
 
-ReleasedKey releasedKey(const QKeyEvent& event) {
-  const QString text = event.text();
-  return {virtualKeyOf(event), !text.isEmpty() && text.back().isLetter()};
+// A combining accent makes another letter of the one in front of it.
+bool endsWithLetter(const QString& text) {
+  return !text.isEmpty() && (text.back().isLetter() || text.back().isMark());
 }
 
 }  // namespace
@@ -30,6 +30,7 @@ BoxKeys::BoxKeys(const FormBoxes& boxes, const QObject& shortcuts, Autocompletio
     : boxes_(boxes), shortcuts_(shortcuts), completion_(completion), messages_(messages) {
   for (int slot = 0; slot < engine::kSlotCount; ++slot) boxes_[slot].installEventFilter(this);
   connect(&boxes_.entry(), &FormBox::committed, this, &BoxKeys::committed);
+  connect(boxes_.letters(), &FrenchLetters::refused, this, [this] { refused_.refuse(); });
 }
 
 // Sees a key before its box does; a key that goes up has had its effect when it went down.
@@ -40,17 +41,23 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     dictionary::KeyStroke stroke = strokeOf(key);
     stroke.isShortcut = isShortcut(key);
     hint_.pressed(boxes_.slotOf(*watched), stroke);
+    refused_.pressed(stroke.physicalKey);
   }
+  if (event->type() == QEvent::InputMethod) refused_.pressed(dictionary::kNoPhysicalKey);
   if (event->type() == QEvent::KeyRelease)
     released(boxes_.slotOf(*watched), static_cast<const QKeyEvent&>(*event));
   return false;
 }
 
 void BoxKeys::released(int slot, const QKeyEvent& event) {
-  const bool isHintKey = hint_.released(slot, strokeOf(event));
+  const dictionary::KeyStroke stroke = strokeOf(event);
+  const bool isHintKey = hint_.released(slot, stroke);
   if (event.isAutoRepeat()) return;
+  const ReleasedKey key{.virtualKey = stroke.virtualKey,
+                        .isLetterTyped = endsWithLetter(event.text()),
+                        .isRefused = refused_.isRefused(stroke.physicalKey)};
   switch (dictionary::reactionToKey(slot == engine::slot::kInfinitive, boxes_[slot].isReadOnly(),
-                                    completion_.isOn(), releasedKey(event), isHintKey)) {
+                                    completion_.isOn(), key, isHintKey)) {
     case KeyReaction::complete:
       return completion_.complete();
     case KeyReaction::hint:
@@ -62,7 +69,8 @@ void BoxKeys::released(int slot, const QKeyEvent& event) {
 
 // What a dead key or an input method has put into the entry box, which may have come without a key.
 void BoxKeys::committed(const QString& text) {
-  const ReleasedKey key{.isLetterTyped = !text.isEmpty() && text.back().isLetter()};
+  const ReleasedKey key{.isLetterTyped = endsWithLetter(text),
+                        .isRefused = refused_.isRefused(dictionary::kNoPhysicalKey)};
   if (completion_.isOn() && dictionary::completes(key)) completion_.complete();
 }
 

@@ -9,6 +9,7 @@
 #include "app/typing/autocompletion.h"
 #include "dictionary/entry_box_hint.h"
 #include "dictionary/messages.h"
+#include "dictionary/refused_keys.h"
 
 namespace odmiennik::app {
 
@@ -38,6 +39,7 @@ class BoxKeys final : public QObject {
   dictionary::MessageBoxes& messages_;
   HelpOpener* help_ = nullptr;
   dictionary::ReadOnlyBoxHint hint_;
+  dictionary::RefusedKeys refused_;
   bool isHintOpen_ = false;
 };
 

@@ -11,6 +11,7 @@ Typing::Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& m
       completion_(window.boxes().entry(),
                   menuItem(*window.menuBar(), "mnuCzasownikAutouzupełnianie"), store),
       keys_(window.boxes(), *window.menuBar(), completion_, messages),
+      refused_(window.boxes()),
       letters_(window.controls(), current_),
       auxiliary_(window.controls().get<QCheckBox>(positionOf("chkZAvoir")), window.boxes(),
                  current_),

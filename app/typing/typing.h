@@ -8,6 +8,7 @@
 #include "app/typing/edit_menu.h"
 #include "app/typing/enter_key.h"
 #include "app/typing/letter_buttons.h"
+#include "app/typing/refused_letters.h"
 
 namespace odmiennik::app {
 
@@ -30,6 +31,7 @@ class Typing {
   CurrentBox current_;
   Autocompletion completion_;
   BoxKeys keys_;
+  RefusedLetters refused_;
   LetterButtons letters_;
   AuxiliaryFocus auxiliary_;
   EnterKey enter_;

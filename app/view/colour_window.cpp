@@ -7,6 +7,8 @@
 #include <QPushButton>
 
 #include "app/common/colours.h"
+#include "app/common/text.h"
+#include "app/logic/hints.h"
 
 namespace odmiennik::app {
 namespace {
@@ -14,9 +16,10 @@ namespace {
 struct SampleRow {
   const char* label;
   const char* caption;
+  HintId hint;
 };
-constexpr SampleRow kSampleRows[] = {{"lblKolorTrybu", "Kolor pierwszy"},
-                                     {"lblKolorCzasu", "Kolor drugi"}};
+constexpr SampleRow kSampleRows[] = {{"lblKolorTrybu", "Kolor pierwszy", HintId::moodColour},
+                                     {"lblKolorCzasu", "Kolor drugi", HintId::tenseColour}};
 constexpr QSize kSampleSize(72, 24);
 constexpr int kMargin = 16;
 
@@ -55,16 +58,19 @@ ColourWindow::ColourWindow(LiveColours& live, ColourChooser& chooser, QWidget* p
 }
 
 void ColourWindow::addSample(std::size_t index) {
-  const auto [name, caption] = kSampleRows[index];
+  const auto [name, caption, tip] = kSampleRows[index];
   const auto row = static_cast<int>(index);
   auto* label = new QLabel(QString::fromUtf8(caption), this);
   label->setObjectName(QLatin1String(name));
   auto* sample = samples_[index] = new ColourSample(this);
   sample->setObjectName(QStringLiteral("shpKolor_%1").arg(row));
   sample->setAccessibleName(label->text());
+  for (QWidget* explained : {static_cast<QWidget*>(label), static_cast<QWidget*>(sample)})
+    explained->setToolTip(fromUtf8(hint(tip)));
   auto& button = addButton("cmdZmień", QStringLiteral("Zmień"));
   button.setObjectName(QStringLiteral("cmdZmień_%1").arg(row));
   button.setAccessibleDescription(label->text());
+  button.setToolTip(fromUtf8(hint(HintId::changeColour)));
   label->setBuddy(&button);
   connect(&button, &QPushButton::clicked, this, [this, index] { change(index); });
   auto& grid = static_cast<QGridLayout&>(*layout());

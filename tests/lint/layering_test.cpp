@@ -29,7 +29,7 @@ const std::vector<Folders> kFloorsOfTheWindow{
     {"layout"},
     {"main_window"},
     {"about", "editing", "list", "printing", "tips", "view"},
-    {"demonstration", "help", "lifetime"},
+    {"demonstration", "help", "hints", "lifetime"},
     {"typing"},
 };
 

@@ -1,6 +1,5 @@
 // What may be typed, and how boxes show long forms.
 #include <QClipboard>
-#include <QHelpEvent>
 #include <QToolTip>
 
 #include "tests/window/program_under_test.h"
@@ -21,8 +20,11 @@ class EntryBoxSuite : public QObject {
   void frenchLettersAndTheTypographicApostropheAreEntered();
   void aLockedBoxTakesNoLetters();
   void aLongFormShowsItsBeginning();
-  void aLongFormHasATooltipAndAShortOneHasNone();
   void aLineBreakIsNotPasted();
+  void decomposedAccentsArePastedAsLetters();
+  void aDecomposedPolishLetterIsNotEnteredInPart();
+  void theBoxSaysWhyALetterHasNotCome();
+  void theSentenceGoesWithTheNextLetter();
 
  private:
   std::unique_ptr<ProgramUnderTest> program_;
@@ -75,24 +77,43 @@ void EntryBoxSuite::aLongFormShowsItsBeginning() {
   QCOMPARE(program_->box(69).cursorPosition(), 0);
 }
 
-void EntryBoxSuite::aLongFormHasATooltipAndAShortOneHasNone() {
-  program_->conjugate("se promener");
-  const auto pointAt = [this](int slot) {
-    app::FormBox& box = program_->box(slot);
-    QHelpEvent event(QEvent::ToolTip, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
-    QCoreApplication::sendEvent(&box, &event);
-  };
-  pointAt(69);
-  QTRY_COMPARE(QToolTip::text(), program_->form(69));
-  pointAt(0);
-  QTRY_VERIFY(!QToolTip::isVisible());
-}
-
 void EntryBoxSuite::aLineBreakIsNotPasted() {
   QGuiApplication::clipboard()->setText("aller\r\n");
   program_->entry().selectAll();
   program_->entry().paste();
   QCOMPARE(program_->entry().text(), "aller");
+}
+
+void EntryBoxSuite::decomposedAccentsArePastedAsLetters() {
+  QGuiApplication::clipboard()->setText(QString("e\u0302tre re\u0301pe\u0301ter"));
+  program_->entry().setText("()");
+  program_->entry().setCursorPosition(1);
+  program_->entry().paste();
+  QCOMPARE(program_->entry().text(), "(être répéter)");
+  QCOMPARE(program_->entry().cursorPosition(), 13);
+}
+
+void EntryBoxSuite::aDecomposedPolishLetterIsNotEnteredInPart() {
+  QGuiApplication::clipboard()->setText(QString("is\u0301c\u0301"));
+  program_->entry().selectAll();
+  program_->entry().paste();
+  QCOMPARE(program_->entry().text(), "i");
+}
+
+void EntryBoxSuite::theBoxSaysWhyALetterHasNotCome() {
+  program_->entry().clear();
+  program_->type("ś");
+  QTRY_COMPARE(QToolTip::text(), "Litery „ś” francuski nie zna.");
+  QCOMPARE(program_->entry().accessibleDescription(), QToolTip::text());
+}
+
+void EntryBoxSuite::theSentenceGoesWithTheNextLetter() {
+  program_->entry().clear();
+  program_->type("ś");
+  QTRY_VERIFY(QToolTip::isVisible());
+  program_->type("i");
+  QTRY_VERIFY(!QToolTip::isVisible());
+  QVERIFY(program_->entry().accessibleDescription().isEmpty());
 }
 
 std::unique_ptr<QObject> entryBoxSuite() { return std::make_unique<EntryBoxSuite>(); }

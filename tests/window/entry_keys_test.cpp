@@ -37,6 +37,9 @@ class EntryKeysSuite : public QObject {
   void aTextWithoutAVerbStaysUntouched();
   void withTheCaretElsewhereNothingIsCompleted();
   void theDigitRowNeverCompletes();
+  void aRefusedLetterCompletesNothing();
+  void aRefusedLetterOfAnInputMethodCompletesNothing();
+  void aLetterMadeOfTwoCompletes();
   void lettersWithoutAKeyComplete();
   void switchedOffNothingIsCompletedAndNoHintShown();
   void theSwitchIsKeptInTheStore();
@@ -120,6 +123,44 @@ void EntryKeysSuite::theDigitRowNeverCompletes() {
   send(QEvent::KeyPress, 0);
   send(QEvent::KeyRelease, 0);
   QVERIFY(program_->entry().text().size() > 1);
+}
+
+// Polish layouts have ś on the key of the s and ć on that of the c, which complete otherwise.
+void EntryKeysSuite::aRefusedLetterCompletesNothing() {
+  program_->entry().clear();
+  QTest::keyClicks(&program_->entry(), "i");
+  QVERIFY(program_->entry().hasSelectedText());
+  const auto click = [this](const QString& letter, int key, quint32 place) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier, place, 0, 0, letter);
+      QCoreApplication::sendEvent(&program_->entry(), &event);
+    }
+  };
+  click("ś", Qt::Key_S, 39);
+  click("ć", Qt::Key_C, 54);
+  QCOMPARE(program_->entry().text(), "i");
+  click("m", Qt::Key_M, 58);
+  QVERIFY(program_->entry().text().startsWith("im"));
+  QVERIFY(program_->entry().hasSelectedText());
+}
+
+void EntryKeysSuite::aRefusedLetterOfAnInputMethodCompletesNothing() {
+  program_->entry().setText("fin");
+  QInputMethodEvent letter;
+  letter.setCommitString("ś");
+  QCoreApplication::sendEvent(&program_->entry(), &letter);
+  QCOMPARE(program_->entry().text(), "fin");
+}
+
+void EntryKeysSuite::aLetterMadeOfTwoCompletes() {
+  program_->entry().clear();
+  QTest::keyClicks(&program_->entry(), "e");
+  QInputMethodEvent accent;
+  accent.setCommitString(QChar(0x301));
+  QCoreApplication::sendEvent(&program_->entry(), &accent);
+  QVERIFY(program_->entry().text().startsWith("é"));
+  QCOMPARE(program_->entry().cursorPosition(), 1);
+  QVERIFY(program_->entry().hasSelectedText());
 }
 
 void EntryKeysSuite::lettersWithoutAKeyComplete() {

@@ -56,7 +56,8 @@ int main(int argumentCount, char** arguments) {
       {"steady_windows", steadyWindowsSuite},
       {"stopped_demonstration", stoppedDemonstrationSuite},
       {"tense_headings", tenseHeadingsSuite},
-      {"tip", tipSuite}};
+      {"tip", tipSuite},
+      {"tooltips", tooltipsSuite}};
   if (argumentCount < 2 || !suites.contains(arguments[1])) {
     std::fputs("usage: window_test SUITE [options]\n", stderr);
     return 2;

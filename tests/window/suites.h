@@ -52,5 +52,6 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> stoppedDemonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> tenseHeadingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> tipSuite();
+[[nodiscard]] std::unique_ptr<QObject> tooltipsSuite();
 
 }  // namespace odmiennik::window_test

@@ -22,6 +22,9 @@ void generateRules(const std::string& group, const Paths& sources, std::ostream&
 // messages.txt -> a header: an enumeration of the messages and their table.
 void generateMessages(const Paths& sources, std::ostream& out);
 
+// hints.txt -> a header: an enumeration of the window's quiet texts and their table.
+void generateHints(const Paths& sources, std::ostream& out);
+
 // window/main_window.txt -> a header: the table of the main window's controls.
 void generateWindow(const Paths& sources, std::ostream& out);
 

@@ -28,6 +28,16 @@ std::string_view LineReader::takeWord(std::string_view expected) {
   return word;
 }
 
+std::string LineReader::takeIdentifier() {
+  std::string name(takeWord("a name is expected"));
+  const bool isPlain = name.find_first_not_of(
+                           "abcdefghijklmnopqrstuvwxyz"
+                           "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789") == std::string::npos;
+  if (!isPlain || (name[0] >= '0' && name[0] <= '9'))
+    fail("\"" + name + "\" is no name for the code");
+  return name;
+}
+
 int LineReader::takeNumber(int least, int most) {
   const std::string_view word = takeWord("a number is expected");
   int value = 0;

@@ -38,6 +38,9 @@ class LineReader {
   // The next word; `expected` is the fault told where there is none.
   std::string_view takeWord(std::string_view expected);
 
+  // The next word as a name for the code: letters and digits, a letter first.
+  std::string takeIdentifier();
+
   // The next word as a whole number from `least` to `most`.
   int takeNumber(int least, int most);
 

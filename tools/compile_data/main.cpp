@@ -25,6 +25,7 @@ const std::map<std::string, Generator> kGenerators{
     {"first-group", rulesOf("FirstGroup")},
     {"other-groups", rulesOf("OtherGroups")},
     {"messages", odmiennik::tools::generateMessages},
+    {"hints", odmiennik::tools::generateHints},
     {"window", odmiennik::tools::generateWindow},
 };
 

@@ -34,17 +34,6 @@ struct SourceMessage {
   Once once;
 };
 
-std::string takeIdentifier(LineReader& line) {
-  const std::string name(line.takeWord("a name is expected"));
-  const bool isPlain = name.find_first_not_of(
-                           "abcdefghijklmnopqrstuvwxyz"
-                           "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789") == std::string::npos;
-  if (!isPlain || (name[0] >= '0' && name[0] <= '9'))
-    line.fail("\"" + name + "\" is no name for the code");
-  line.finish();
-  return name;
-}
-
 // "yes no*" -> "Button::yes | Button::no", with the marked or the first one as default.
 void readButtons(LineReader& line, SourceMessage& message) {
   Once once;
@@ -90,7 +79,8 @@ std::vector<SourceMessage> readMessages(const SourceFile& file) {
       continue;
     }
     if (!messages.empty()) checkComplete(messages.back());
-    const std::string name = takeIdentifier(line);
+    const std::string name = line.takeIdentifier();
+    line.finish();
     names.note(line, name);
     messages.push_back({.head = head, .name = name});
   }

@@ -27,6 +27,7 @@ const std::map<std::string, std::string> kCommands{
     {"tips", "strings /dev/null data/strings.txt @ data/builtin_verbs.txt"},
     {"builtin", "strings /dev/null data/strings.txt data/tips.txt @"},
     {"index", "verb-index /dev/null @"},
+    {"hints", "hints /dev/null @"},
     {"messages", "messages /dev/null @"},
     {"window", "window /dev/null @"},
 };

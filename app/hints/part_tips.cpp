@@ -1,0 +1,78 @@
+// The texts of the main window's parts.
+#include "app/hints/part_tips.h"
+
+#include <QAbstractButton>
+
+#include "app/common/text.h"
+#include "app/controls/form_surface.h"
+#include "app/logic/form_phrase.h"
+#include "app/logic/hints.h"
+#include "app/logic/tense_topics.h"
+#include "app/main_window/main_window.h"
+
+namespace odmiennik::app {
+namespace {
+
+constexpr const char* kUnknownValue = "b.d.";
+
+struct NamedTip {
+  std::string_view name;
+  HintId hint;
+};
+constexpr NamedTip kPronouns[] = {{"ns", HintId::abbreviations},
+                                  {"vs", HintId::abbreviations},
+                                  {"il", HintId::pronounIl},
+                                  {"ils", HintId::pronounIls}};
+
+std::string letterTip(const QWidget& control) {
+  const QString letter = static_cast<const QAbstractButton&>(control).text();
+  return hint(HintId::letter, letter.toStdString());
+}
+
+std::string labelTip(const QWidget& control) {
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  const bool isUnknown = label != nullptr && label->text() == QLatin1String(kUnknownValue);
+  return isUnknown ? std::string(hint(HintId::unknown)) : std::string();
+}
+
+}  // namespace
+
+QString PartTips::tipOf(const QWidget& control) const {
+  const ControlRow* row = window_.controls().rowOf(control);
+  return row == nullptr ? QString() : fromUtf8(textOf(*row, control));
+}
+
+QString PartTips::tipAt(const QPoint& place) const {
+  FormSurface& surface = window_.surface();
+  const auto slot = surface.pronouns().slotAt(place, surface.font());
+  const std::string pronoun =
+      slot ? surface.pronouns().pronoun(*slot).toStdString() : std::string();
+  for (const NamedTip& tip : kPronouns)
+    if (tip.name == pronoun) return fromUtf8(hint(tip.hint));
+  return {};
+}
+
+std::string PartTips::textOf(const ControlRow& row, const QWidget& control) const {
+  if (row.name == "txtCzasownik") return formTipOf(row.index);
+  if (row.name == "cmdFrancuskaLitera" || row.name == "chkFrancuskaLitera")
+    return letterTip(control);
+  if (row.name == "lblCzas")
+    return std::string(row.index < kTopicHeadings ? hint(HintId::heading) : std::string_view());
+  if (row.name == "chkZAvoir")
+    return std::string(hint(control.isEnabled() ? HintId::auxiliary : HintId::auxiliaryFixed));
+  if (row.name == "cmdOdmień") return std::string(hint(HintId::conjugateButton));
+  return labelTip(control);
+}
+
+std::string PartTips::formTipOf(int slot) const {
+  const engine::Conjugation& conjugation = window_.conjugation();
+  const std::string text = toFrench(window_.boxes()[slot].text());
+  const bool isShown = text == conjugation.shown.boxes[static_cast<std::size_t>(slot)];
+  return formTip({.slot = slot,
+                  .text = text,
+                  .flags = conjugation.flags,
+                  .isOwn = isShown && conjugation.source == engine::Source::user,
+                  .isEditing = window_.isEditing()});
+}
+
+}  // namespace odmiennik::app

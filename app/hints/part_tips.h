@@ -1,0 +1,32 @@
+// What each part of the main window says of itself.
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QWidget>
+
+#include "app/controls/control_row.h"
+
+namespace odmiennik::app {
+
+class MainWindow;
+
+// Texts are made when they are asked for: nothing is kept, so nothing can be out of date.
+class PartTips {
+ public:
+  explicit PartTips(const MainWindow& window) : window_(window) {}
+
+  // The text of a control; empty for one that explains itself.
+  [[nodiscard]] QString tipOf(const QWidget& control) const;
+
+  // The text of the pronoun at a place of the window's ground; empty where there is none.
+  [[nodiscard]] QString tipAt(const QPoint& place) const;
+
+ private:
+  [[nodiscard]] std::string textOf(const ControlRow& row, const QWidget& control) const;
+  [[nodiscard]] std::string formTipOf(int slot) const;
+
+  const MainWindow& window_;
+};
+
+}  // namespace odmiennik::app

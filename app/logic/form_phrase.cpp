@@ -1,0 +1,190 @@
+// Forms with their pronouns, read out.
+#include "app/logic/form_phrase.h"
+
+#include <vector>
+
+#include "app/logic/hints.h"
+#include "app/logic/tense_topics.h"
+#include "engine/form_table.h"
+#include "engine/french.h"
+#include "engine/normalization.h"
+#include "engine/pronouns.h"
+
+namespace odmiennik::app {
+namespace {
+
+using namespace engine::literals;
+using Texts = std::vector<std::string>;
+
+constexpr std::string_view kAgreement = "(e)";
+
+bool isSubjunctive(int slot) {
+  return slot >= engine::slot::kPresentSubjunctive && slot < engine::slot::kPresentConditional;
+}
+bool isImperative(int slot) {
+  return slot >= engine::slot::kImperative && slot < engine::slot::kInfinitive;
+}
+// il and ils: the persons whose feminine has another pronoun.
+bool isThirdPerson(int slot) {
+  return slot < engine::kPersonalSlotCount && slot % engine::kPersonCount % 3 == 2;
+}
+
+// "paye/paie" -> "paye", "paie"; " -- /voulons" has one form only.
+Texts split(std::string_view text) {
+  Texts parts;
+  while (!text.empty()) {
+    const auto end = text.find_first_of("/;,");
+    const std::string_view part = engine::trimmed(text.substr(0, end));
+    const bool isMissing = part.empty() || part == engine::trimmed(engine::kShownMissing);
+    if (!isMissing) parts.emplace_back(part);
+    text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+  }
+  return parts;
+}
+
+// The reflexive pronoun of the first variant, before another one: "m'assois/asseye" has it once.
+std::string reflexiveBefore(std::string_view pronoun, std::string_view form, bool hAspirate) {
+  const bool mayElide = pronoun.ends_with('\'') || pronoun.ends_with("e ");
+  if (!mayElide) return std::string(pronoun);
+  return std::string(pronoun.substr(0, 1)) + (engine::elides(form, hAspirate) ? "'" : "e ");
+}
+
+// What the imperative's last variant ends in, "-toi", belongs to the others too.
+void shareEnclitic(int slot, Texts& variants) {
+  const std::string last = variants.back();
+  const std::string_view enclitic =
+      std::string_view(last).substr(engine::withoutOwnReflexive(slot, last).size());
+  for (std::size_t i = 0; i + 1 < variants.size(); ++i)
+    if (!variants[i].ends_with(enclitic)) variants[i] += enclitic;
+}
+
+void sharePronoun(int slot, Texts& variants, bool hAspirate) {
+  const std::string first = variants.front();
+  const auto bareSize = engine::withoutOwnReflexive(slot, first).size();
+  const std::string_view pronoun = std::string_view(first).substr(0, first.size() - bareSize);
+  if (pronoun.empty()) return;
+  for (std::size_t i = 1; i < variants.size(); ++i)
+    if (engine::withoutOwnReflexive(slot, variants[i]).size() == variants[i].size())
+      variants[i].insert(0, reflexiveBefore(pronoun, variants[i], hAspirate));
+}
+
+Texts variantsOf(int slot, std::string_view text, bool hAspirate) {
+  Texts variants = split(text);
+  if (variants.size() < 2) return variants;
+  if (isImperative(slot))
+    shareEnclitic(slot, variants);
+  else
+    sharePronoun(slot, variants, hAspirate);
+  return variants;
+}
+
+// A participle whose marker "(e)" or "(e)s" is to be read out.
+struct Agreeing {
+  std::string masculine;
+  std::string feminine;  // empty where nothing agrees
+};
+
+// "dissous" -> "dissoute", "mû" -> "mue": participles whose feminine is not their masculine and an
+// e.
+std::string feminineOf(std::string_view participle) {
+  if (participle.ends_with("sous")) return std::string(engine::less(participle, 1)) + "te";
+  if (participle.ends_with("û"_fr)) return std::string(engine::less(participle, 1)) + "ue";
+  return std::string(participle) + "e";
+}
+
+Agreeing readOut(std::string_view form) {
+  const auto marker = form.find(kAgreement);
+  if (marker == std::string_view::npos) return {std::string(form), {}};
+  const std::string_view base = form.substr(0, marker);
+  const std::string_view end = form.substr(marker + kAgreement.size());
+  const bool isPlural = end.starts_with('s');
+  const bool takesS = isPlural && !base.ends_with('s') && !base.ends_with('x');
+  const std::string rest(end.substr(isPlural ? 1 : 0));
+  return {std::string(base) + (takesS ? "s" : "") + rest,
+          feminineOf(base) + (isPlural ? "s" : "") + rest};
+}
+
+std::string subjectOf(int slot, std::string_view form, bool hAspirate, bool isFeminine) {
+  constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
+  if (slot >= engine::kPersonalSlotCount) return {};
+  const int person = slot % engine::kPersonCount;
+  if (person == 0 && engine::elides(form, hAspirate)) return "j'";
+  if (isFeminine && isThirdPerson(slot)) return person == 2 ? "elle " : "elles ";
+  return std::string(kSubjects[person]);
+}
+
+std::string conjunctionOf(int slot) {
+  if (!isSubjunctive(slot)) return {};
+  return isThirdPerson(slot) ? "qu'" : "que ";
+}
+
+std::string lastWord(std::string_view form) {
+  return std::string(form.substr(form.rfind(' ') + 1));
+}
+
+class Phrase {
+ public:
+  Phrase(int slot, const engine::EngineFlags& flags) : slot_(slot), flags_(flags) {}
+
+  void add(std::string_view variant) {
+    const Agreeing agreeing = readOut(variant);
+    append(whole(agreeing.masculine, false));
+    if (agreeing.feminine.empty() || isSubjectImpersonal()) return;
+    append(isThirdPerson(slot_) ? whole(agreeing.feminine, true) : lastWord(agreeing.feminine));
+  }
+
+  [[nodiscard]] std::string utf8() const {
+    // French typography: a blank that does not break stands before the mark.
+    return isImperative(slot_) && !phrase_.empty() ? phrase_ + "\u00A0!" : phrase_;
+  }
+
+ private:
+  // The il of an impersonal verb is nobody.
+  [[nodiscard]] bool isSubjectImpersonal() const {
+    return flags_.isImpersonal && isThirdPerson(slot_);
+  }
+
+  [[nodiscard]] std::string whole(std::string_view form, bool isFeminine) const {
+    return conjunctionOf(slot_) + subjectOf(slot_, form, flags_.hAspirate, isFeminine) +
+           std::string(form);
+  }
+
+  void append(const std::string& part) {
+    if (!phrase_.empty()) phrase_.append(" ").append(hint(HintId::alternative)).append(" ");
+    phrase_ += engine::toUtf8(part);
+  }
+
+  int slot_;
+  const engine::EngineFlags& flags_;
+  std::string phrase_;  // UTF-8
+};
+
+void addLine(std::string& text, std::string_view line) {
+  if (!text.empty() && !line.empty()) text += '\n';
+  text += line;
+}
+
+std::string phraseOrReason(const ShownForm& shown) {
+  if (shown.slot == engine::slot::kInfinitive) return std::string(hint(HintId::entry));
+  if (shown.text == engine::kShownMissing) return std::string(hint(HintId::missingForm));
+  return formPhrase(shown.slot, shown.text, shown.flags);
+}
+
+}  // namespace
+
+std::string formPhrase(int slot, std::string_view text, const engine::EngineFlags& flags) {
+  if (text == engine::kShownMissing) return {};
+  Phrase phrase(slot, flags);
+  for (const std::string& variant : variantsOf(slot, text, flags.hAspirate)) phrase.add(variant);
+  return phrase.utf8();
+}
+
+std::string formTip(const ShownForm& shown) {
+  std::string tip = phraseOrReason(shown);
+  if (tip.empty()) return tip;
+  if (shown.isOwn) addLine(tip, hint(HintId::ownVerb));
+  if (!shown.isEditing && topicOfSlot(shown.slot)) addLine(tip, hint(HintId::pageKey));
+  return tip;
+}
+
+}  // namespace odmiennik::app
