@@ -10,6 +10,7 @@
 
 #include "app/about/about_outline.h"
 #include "app/common/colours.h"
+#include "app/common/look.h"
 #include "app/common/text.h"
 #include "app/logic/statistics.h"
 #include "app/platform/platform.h"
@@ -47,6 +48,7 @@ AboutWindow::AboutWindow(QWidget* parent, const Usage& usage, dictionary::Messag
     : SteadyWindow(parent, Qt::Dialog | Qt::FramelessWindowHint), messages_(messages) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(QStringLiteral("O programie Odmiennik"));
+  setFont(programFont());  // the outline is cut for it
   setFixedSize(kAboutSize);
   setMask(aboutRegion());
   create(usage);

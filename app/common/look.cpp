@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QIcon>
 #include <QLocale>
 #include <QTimer>
@@ -16,7 +17,7 @@
 namespace odmiennik::app {
 namespace {
 
-// Menus and message boxes: 9 points at 96 dots an inch, like everything else in pixels.
+// 9 points at 96 dots an inch, like everything in the table in pixels.
 constexpr int kFontPixels = 12;
 
 void speakPolish(QApplication& application) {
@@ -24,6 +25,19 @@ void speakPolish(QApplication& application) {
   auto* translator = new QTranslator(&application);
   if (translator->load(QStringLiteral(":/odmiennik/qtbase_pl.qm")))
     QApplication::installTranslator(translator);
+}
+
+void carryFonts() {
+  for (const char* file :
+       {":/odmiennik/LiberationSans-Regular.ttf", ":/odmiennik/LiberationSans-Bold.ttf"})
+    QFontDatabase::addApplicationFont(QLatin1String(file));
+}
+
+// A system that lacks the font it names may offer a typewriter's instead.
+void replaceMissingFont() {
+  const QFont asked = QApplication::font();
+  const QFontInfo found(asked);
+  if (found.fixedPitch() && found.family() != asked.family()) QApplication::setFont(programFont());
 }
 
 QIcon programIcon() {
@@ -55,16 +69,22 @@ void prepare(QApplication& application) {
   QApplication::setApplicationVersion(QStringLiteral(ODMIENNIK_VERSION));
   QApplication::setOrganizationName(fromUtf8(dictionary::kApplicationTitle));
   QApplication::setStyle(new ProgramStyle);  // the application owns it
-  for (const char* file :
-       {":/odmiennik/LiberationSans-Regular.ttf", ":/odmiennik/LiberationSans-Bold.ttf"})
-    QFontDatabase::addApplicationFont(QLatin1String(file));
-  QApplication::setFont(programFont());
+  carryFonts();
+  replaceMissingFont();
   speakPolish(application);
 }
 
 QFont programFont() {
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(kFontPixels);
+  return font;
+}
+
+QFont enlarged(QFont font, qreal factor) {
+  if (font.pixelSize() > 0)
+    font.setPixelSize(qRound(font.pixelSize() * factor));
+  else
+    font.setPointSizeF(font.pointSizeF() * factor);
   return font;
 }
 

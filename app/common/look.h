@@ -8,8 +8,8 @@ class QWidget;
 
 namespace odmiennik::app {
 
-// Gives the application its style, the font that it carries, its title and Polish as its
-// language. Called once, before the first window.
+// Gives the application its style, its title, Polish as its language and the font that it carries
+// for the table; menus and windows keep the system's own. Called once, before the first window.
 void prepare(QApplication& application);
 
 // Gives the application its icon once the first picture of `window` is on the screen: reading it
@@ -18,5 +18,8 @@ void giveIconLater(QWidget& window);
 
 // The font that the program carries: the metric twin of Arial.
 [[nodiscard]] QFont programFont();
+
+// A font in another size, whichever way its own is given: enlarged(font(), 1.5).
+[[nodiscard]] QFont enlarged(QFont font, qreal factor);
 
 }  // namespace odmiennik::app

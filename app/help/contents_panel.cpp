@@ -8,7 +8,7 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr int kEntryHeight = 18;
+constexpr int kBetweenEntries = 4;
 constexpr int kPageRole = Qt::UserRole;
 
 }  // namespace
@@ -51,7 +51,7 @@ void ContentsPanel::fill(const std::vector<HelpContentsEntry>& entries) {
     path.resize(std::min<std::size_t>(path.size(), static_cast<std::size_t>(entry.level)));
     auto* item = new QTreeWidgetItem(path.back(), QStringList(entry.title));
     item->setData(0, kPageRole, entry.page);
-    item->setSizeHint(0, QSize(0, kEntryHeight));
+    item->setSizeHint(0, QSize(0, fontMetrics().height() + kBetweenEntries));
     path.push_back(item);
   }
   expandAll();

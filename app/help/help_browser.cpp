@@ -34,6 +34,11 @@ QString typedText(QString text) {
 
 bool isOnDark() { return isDark(QApplication::palette()); }
 
+// The pages' style sheet names the fonts of other viewers; here they have the system's own.
+QString inFontOf(const QWidget& view) {
+  return QStringLiteral("\nbody { font-family: \"%1\"; }\n").arg(view.font().family());
+}
+
 }  // namespace
 
 // Lines end between words alone: a form is never broken, a table rather wider than the window.
@@ -56,7 +61,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   if (type == QTextDocument::ImageResource) return noPicture();
   const QUrl address = name.isRelative() ? page_.resolved(name) : name;
   if (type == QTextDocument::StyleSheetResource)
-    return sheetAt(sheet(address), zoom_) + QLatin1Char('\n');
+    return sheetAt(sheet(address), zoom_) + inFontOf(*this);
   page_ = address;
   return book_.page(address);
 }

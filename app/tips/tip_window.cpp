@@ -12,6 +12,7 @@
 #include "app/common/announcement.h"
 #include "app/common/beside.h"
 #include "app/common/colours.h"
+#include "app/common/look.h"
 #include "app/common/text.h"
 #include "app/common/user_store.h"
 #include "app/logic/tips.h"
@@ -19,14 +20,14 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr int kTextWidth = 400;
-constexpr int kTextHeight = 100;  // the longest tip, so that the window keeps its size
-constexpr int kTextPixels = 14;
-constexpr int kHeadingPixels = 20;
+constexpr qreal kTextSize = 1.17;
+constexpr qreal kHeadingSize = 1.67;
+// Room for the longest tip, so that the window keeps its size: in lines, and in letters of a line.
+constexpr int kTextLines = 6;
+constexpr int kLineLetters = 62;
 
-QFont enlarged(QFont font, int pixels, bool isBold) {
-  font.setPixelSize(pixels);
-  font.setBold(isBold);
+QFont bold(QFont font) {
+  font.setBold(true);
   return font;
 }
 
@@ -63,17 +64,19 @@ bool TipWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void TipWindow::create() {
   heading_ = named<QLabel>("lblNagłówek", "Czy wiesz, że…");
-  heading_->setFont(enlarged(font(), kHeadingPixels, true));
+  heading_->setFont(bold(enlarged(font(), kHeadingSize)));
   QPalette colours;
   colours.setColor(QPalette::WindowText, designColours(palette()).mood);
   heading_->setPalette(colours);
   heading_->setForegroundRole(QPalette::WindowText);  // which paper would make the text's
   text_ = named<QLabel>("lblTipText");
-  text_->setFont(enlarged(font(), kTextPixels, false));
+  text_->setFont(enlarged(font(), kTextSize));
   text_->setTextFormat(Qt::PlainText);
   text_->setWordWrap(true);
   text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text_->setMinimumSize(kTextWidth, kTextHeight);
+  const QFontMetrics letters = text_->fontMetrics();
+  text_->setMinimumSize(kLineLetters * letters.averageCharWidth(),
+                        kTextLines * letters.lineSpacing());
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   atStart_ = named<QCheckBox>("chkLoadTipsAtStartup", "&Wyświetlaj przy uruchamianiu");
   demonstrations_ = {named<QPushButton>("cmdPokaż_0", "&Pokaż 1!"),
