@@ -3,12 +3,15 @@
 
 #include <qdrawutil.h>
 #include <QCheckBox>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyleOption>
+#include <QWidget>
 #include <algorithm>
 
 #include "app/common/colours.h"
+#include "app/common/message_icons.h"
 
 namespace odmiennik::app {
 namespace {
@@ -65,6 +68,13 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
                             QStyleHintReturn* returned) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  const QIcon own =
+      messageIcon(picture, widget != nullptr ? widget->palette() : QGuiApplication::palette());
+  return own.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : own;
 }
 
 QPixmap ProgramStyle::frameOf(const QStyleOption& option, qreal pixelRatio) const {

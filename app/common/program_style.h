@@ -26,6 +26,10 @@ class ProgramStyle final : public QProxyStyle {
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                        SubControl subControl, const QWidget* widget) const override;
 
+  // The icons of message boxes are the program's own.
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                     const QWidget* widget) const override;
+
   // Buttons are plain, in Qt's own dialogs too.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returned) const override;

@@ -1,13 +1,16 @@
 // The message boxes that the user sees.
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
 
+#include "app/common/colours.h"
 #include "app/common/qt_message_boxes.h"
 #include "tests/window/suites.h"
+#include "tests/window/themes.h"
 
 namespace odmiennik::window_test {
 namespace {
@@ -52,6 +55,31 @@ Seen showAndPress(
   return seen;
 }
 
+constexpr MessageId kMessageOfEachIcon[] = {MessageId::conjugatedRegularly,
+                                            MessageId::saveEditedVerb, MessageId::printerNotReady,
+                                            MessageId::userVerbsNotSaved};
+constexpr QStyle::StandardPixmap kPictures[] = {
+    QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxWarning,
+    QStyle::SP_MessageBoxCritical};
+constexpr QSize kIconSize(48, 48);
+constexpr int kIconDots = 48 * 48;
+
+// The icon of a message as it stands on the screen.
+QImage iconOf(MessageId id) {
+  QImage icon;
+  showAndPress(id, "a", Qt::Key_Return, [&icon](QMessageBox& box) {
+    icon = box.findChild<QLabel*>("qt_msgboxex_icon_label")->grab().toImage();
+  });
+  return icon;
+}
+
+int dots(const QImage& picture, const QColor& colour) {
+  int found = 0;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) found += picture.pixelColor(x, y) == colour ? 1 : 0;
+  return found;
+}
+
 }  // namespace
 
 class MessageBoxSuite : public QObject {
@@ -65,7 +93,13 @@ class MessageBoxSuite : public QObject {
   void enterAnswersWithTheDefaultButton();
   void cancelSpeaksPolish();
   void aVerbIsNoMarkUp();
+  void everyIconIsDrawnInTheColoursOfTheTheme_data();
+  void everyIconIsDrawnInTheColoursOfTheTheme();
+  void iconsAreDrawnAnewOnFinerScreens();
+  void iconsDifferWithoutTheirColours();
 };
+
+void MessageBoxSuite::everyIconIsDrawnInTheColoursOfTheTheme_data() { addThemes(); }
 
 void MessageBoxSuite::aNoticeHasTheProgramsTitleAndAnOkButton() {
   const Seen seen = showAndPress(MessageId::conjugatedRegularly, {}, Qt::Key_Escape);
@@ -115,6 +149,44 @@ void MessageBoxSuite::cancelSpeaksPolish() {
 void MessageBoxSuite::aVerbIsNoMarkUp() {
   const Seen seen = showAndPress(MessageId::saveEditedVerb, "<b>a</b>", Qt::Key_Return);
   QCOMPARE(seen.text, "Zapisać edytowany czasownik - '<b>a</b>'?");
+}
+
+// Every dot is of the icon's colour or of the window's ground, or lies between them; and there is
+// enough of both that the icon is seen.
+void MessageBoxSuite::everyIconIsDrawnInTheColoursOfTheTheme() {
+  QFETCH(QPalette, palette);
+  const Theme theme(palette);
+  const app::HeadingColours design = app::designColours(palette);
+  const QColor ground = palette.color(QPalette::Window);
+  for (const MessageId id : kMessageOfEachIcon) {
+    const QImage icon = iconOf(id);
+    for (const QPoint corner : {QPoint(0, 0), icon.rect().topRight()})
+      QCOMPARE(icon.pixelColor(corner), ground);
+    const int coloured = dots(icon, design.mood) + dots(icon, design.tense);
+    QVERIFY2(coloured > kIconDots / 4, qPrintable(QString::number(coloured)));
+    QVERIFY2(dots(icon, ground) > kIconDots / 20, qPrintable(QString::number(dots(icon, ground))));
+  }
+}
+
+void MessageBoxSuite::iconsAreDrawnAnewOnFinerScreens() {
+  for (const QStyle::StandardPixmap picture : kPictures) {
+    const QIcon icon = QApplication::style()->standardIcon(picture);
+    const QImage coarse = icon.pixmap(kIconSize, 1).toImage();
+    const QImage fine = icon.pixmap(kIconSize, 2).toImage();
+    QCOMPARE(fine.size(), kIconSize * 2);
+    QVERIFY(fine != coarse.scaled(fine.size()));
+  }
+}
+
+void MessageBoxSuite::iconsDifferWithoutTheirColours() {
+  QList<QImage> outlines;
+  for (const QStyle::StandardPixmap picture : kPictures) {
+    const QImage icon = QApplication::style()->standardIcon(picture).pixmap(kIconSize, 1).toImage();
+    QVERIFY(!icon.isNull());
+    const QImage outline = icon.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
+    QVERIFY(!outlines.contains(outline));
+    outlines += outline;
+  }
 }
 
 std::unique_ptr<QObject> messageBoxSuite() { return std::make_unique<MessageBoxSuite>(); }
