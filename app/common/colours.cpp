@@ -1,6 +1,9 @@
 // The colours of the window's design.
 #include "app/common/colours.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "app/logic/colour_number.h"
 
 namespace odmiennik::app {
@@ -10,6 +13,22 @@ QColor mixed(const QColor& first, const QColor& second, float share) {
   const auto part = [share](float a, float b) { return a + (b - a) * share; };
   return QColor::fromRgbF(part(first.redF(), second.redF()), part(first.greenF(), second.greenF()),
                           part(first.blueF(), second.blueF()));
+}
+
+double linear(double part) {
+  return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour) {
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+bool isVisible(const QColor& colour, const QPalette& palette) {
+  constexpr QPalette::ColorRole kGrounds[] = {QPalette::Window, QPalette::Base, QPalette::Button};
+  return std::ranges::all_of(kGrounds, [&](QPalette::ColorRole ground) {
+    return contrast(colour, palette.color(ground)) >= kVisibleContrast;
+  });
 }
 
 }  // namespace
@@ -34,10 +53,34 @@ HeadingColours designColours(const QPalette& palette) {
                          : HeadingColours{kMoodOnLight, kTenseOnLight};
 }
 
-bool losesEdges(const QPalette& palette) {
-  constexpr int kNearlyBlack = 16;
-  return palette.color(QPalette::Window).lightness() < kNearlyBlack &&
-         palette.color(QPalette::Base).lightness() < kNearlyBlack;
+double contrast(const QColor& first, const QColor& second) {
+  const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
+  constexpr double kFlare = 0.05;
+  return (lighter + kFlare) / (darker + kFlare);
+}
+
+QColor visibleColour(const QColor& colour, const QPalette& palette) {
+  constexpr float kStep = 1.0F / 32;
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  for (float share = 0; share < 1; share += kStep)
+    if (const QColor seen = mixed(colour, text, share); isVisible(seen, palette)) return seen;
+  return text;
+}
+
+QPalette withReadableDisabled(QPalette palette) {
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role,
+                     visibleColour(palette.color(QPalette::Disabled, role), palette));
+  return palette;
+}
+
+QColor edgeColour(const QPalette& palette) {
+  return visibleColour(separatorColour(palette), palette);
+}
+
+QColor lockedColour(const QPalette& palette) {
+  constexpr float kShareOfWindow = 0.7F;
+  return mixed(palette.color(QPalette::Base), palette.color(QPalette::Window), kShareOfWindow);
 }
 
 QColor panelColour(const QPalette& palette) {

@@ -31,13 +31,28 @@ inline constexpr QRgb kTenseOnDark = 0xFF9CC5FF;
 // The colours of the window's design: on light and on dark grounds at a contrast of 4.5:1 or more.
 [[nodiscard]] HeadingColours designColours(const QPalette& palette);
 
-// Whether the ground is so dark that the edges, which the style draws darker than it, are lost.
-[[nodiscard]] bool losesEdges(const QPalette& palette);
+// The contrast ratio of two colours, 1 to 21, as accessibility guidelines define it.
+[[nodiscard]] double contrast(const QColor& first, const QColor& second);
+
+// What has to be seen is seen at this contrast, though it be disabled or no more than an edge.
+inline constexpr double kVisibleContrast = 3;
+
+// The first colour on the way from `colour` to the palette's text that is seen on its grounds.
+[[nodiscard]] QColor visibleColour(const QColor& colour, const QPalette& palette);
+
+// The palette with texts of the disabled that can be read on its grounds.
+[[nodiscard]] QPalette withReadableDisabled(QPalette palette);
+
+// The edge of what can be typed into or ticked, visible on every ground.
+[[nodiscard]] QColor edgeColour(const QPalette& palette);
+
+// The ground of a box that cannot be typed into: between that of one that can and the window's.
+[[nodiscard]] QColor lockedColour(const QPalette& palette);
 
 // The ground behind the entry box, which marks the place to start.
 [[nodiscard]] QColor panelColour(const QPalette& palette);
 
-// Thin lines between the blocks.
+// Thin lines between the blocks, and the edges of what cannot be typed into.
 [[nodiscard]] QColor separatorColour(const QPalette& palette);
 
 }  // namespace odmiennik::app

@@ -9,6 +9,7 @@
 #include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
+#include <optional>
 
 #include "app/common/colours.h"
 #include "app/common/message_icons.h"
@@ -24,9 +25,25 @@ bool isPlain(const QStyleOption& option) {
   return option.rect.width() > kSide && option.rect.height() > kSide;
 }
 
-// On black ground; the box that is typed into is lit already.
-bool needsEdge(const QStyleOption& option) {
-  return losesEdges(option.palette) && !option.state.testFlag(QStyle::State_HasFocus);
+// In the place of the style's own, which is lost on black ground. The box that has the focus is
+// lit, unless the theme's highlight is as dark as its ground.
+std::optional<QColor> edgeOf(const QStyleOption& option) {
+  if (option.state.testFlag(QStyle::State_HasFocus)) {
+    const QColor highlight = option.palette.color(QPalette::Highlight);
+    const QColor lit = visibleColour(highlight, option.palette);
+    return lit == highlight ? std::nullopt : std::optional(lit);
+  }
+  return option.state.testFlag(QStyle::State_ReadOnly) ? separatorColour(option.palette)
+                                                       : edgeColour(option.palette);
+}
+
+// As the style draws edges: on the middle of the dots.
+void drawEdge(QPainter& painter, const QRect& place, const QColor& colour) {
+  constexpr qreal kRadius = 2;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(colour);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
 QMargins corners(int size) { return {size, size, size, size}; }
@@ -37,6 +54,12 @@ ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
+  if (const auto* box = qstyleoption_cast<const QStyleOptionFrame*>(option);
+      element == PE_PanelLineEdit && box != nullptr)
+    return drawBox(*box, *painter, widget);
+  if (const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+      element == PE_IndicatorCheckBox && box != nullptr)
+    return drawTickBox(*box, *painter, widget);
   if (element != PE_FrameLineEdit || !isPlain(*option))
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
   const qreal pixelRatio = painter->device()->devicePixelRatio();
@@ -62,6 +85,47 @@ QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionCom
   const int square = QProxyStyle::pixelMetric(PM_IndicatorHeight, option, widget);
   place.setTop(place.top() - std::max(0, square - option->fontMetrics.height()));
   return place;
+}
+
+void ProgramStyle::drawBox(const QStyleOptionFrame& option, QPainter& painter,
+                           const QWidget* widget) const {
+  const int edge = option.lineWidth;
+  const bool isLocked = option.state.testFlag(State_ReadOnly);
+  painter.fillRect(option.rect.adjusted(edge, edge, -edge, -edge),
+                   isLocked ? lockedColour(option.palette) : option.palette.brush(QPalette::Base));
+  if (edge > 0) drawPrimitive(PE_FrameLineEdit, &option, &painter, widget);
+}
+
+// The square can be seen before it is ticked, and the tick though it cannot be changed.
+void ProgramStyle::drawTickBox(const QStyleOptionButton& option, QPainter& painter,
+                               const QWidget* widget) const {
+  QStyleOptionButton readable(option);
+  readable.palette = withReadableDisabled(option.palette);
+  QProxyStyle::drawPrimitive(PE_IndicatorCheckBox, &readable, &painter, widget);
+  painter.save();
+  painter.setPen(edgeColour(option.palette));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+  painter.restore();
+}
+
+// The style draws the texts of a menu itself.
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element != CE_MenuItem || item == nullptr || item->state.testFlag(State_Enabled))
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  QStyleOptionMenuItem readable(*item);
+  readable.palette = withReadableDisabled(item->palette);
+  QProxyStyle::drawControl(element, &readable, painter, widget);
+}
+
+void ProgramStyle::drawItemText(QPainter* painter, const QRect& place, int flags,
+                                const QPalette& palette, bool isEnabled, const QString& text,
+                                QPalette::ColorRole textRole) const {
+  QProxyStyle::drawItemText(painter, place, flags,
+                            isEnabled ? palette : withReadableDisabled(palette), isEnabled, text,
+                            textRole);
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -97,10 +161,7 @@ QPixmap ProgramStyle::paintedFrame(const QStyleOption& option, qreal pixelRatio)
   QStyleOption small(option);
   small.rect = QRect(0, 0, kSide, kSide);
   QProxyStyle::drawPrimitive(PE_FrameLineEdit, &small, &painter, nullptr);
-  if (needsEdge(option)) {
-    painter.setPen(separatorColour(option.palette));
-    painter.drawRect(small.rect.adjusted(0, 0, -1, -1));
-  }
+  if (const auto edge = edgeOf(option)) drawEdge(painter, small.rect, *edge);
   painter.end();
   frame.setDevicePixelRatio(1);  // its corners are cut out in the pixels of the screen
   return frame;

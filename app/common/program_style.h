@@ -1,14 +1,19 @@
-// The style of the windows: Fusion, with frames of boxes that are painted once.
+// The style of the windows: Fusion, with frames of boxes that are painted once and contrasts that
+// hold in every theme.
 #pragma once
 
 #include <QProxyStyle>
+
+class QStyleOptionButton;
+class QStyleOptionFrame;
 
 namespace odmiennik::app {
 
 // The same calm look on every system; native styles differ in the room that a box needs. A window
 // of 101 boxes spends a third of its painting on the rounded edges of their frames. Here the frame
-// is painted once for each look it can have, and copied; and on black ground, where the style's
-// edge would be lost, boxes have one that can be seen.
+// is painted once for each look it can have, and copied. Boxes show whether they can be typed into:
+// those that can by a clear edge, those that cannot by a faint one and a ground of their own. What
+// is disabled can be read: a caption informs though it cannot be clicked.
 class ProgramStyle final : public QProxyStyle {
   Q_OBJECT
 
@@ -26,6 +31,13 @@ class ProgramStyle final : public QProxyStyle {
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                        SubControl subControl, const QWidget* widget) const override;
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+
+  void drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
+                    bool isEnabled, const QString& text,
+                    QPalette::ColorRole textRole) const override;
+
   // The icons of message boxes are the program's own.
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                      const QWidget* widget) const override;
@@ -35,6 +47,9 @@ class ProgramStyle final : public QProxyStyle {
                 QStyleHintReturn* returned) const override;
 
  private:
+  void drawBox(const QStyleOptionFrame& option, QPainter& painter, const QWidget* widget) const;
+  void drawTickBox(const QStyleOptionButton& option, QPainter& painter,
+                   const QWidget* widget) const;
   [[nodiscard]] QPixmap frameOf(const QStyleOption& option, qreal pixelRatio) const;
   [[nodiscard]] QPixmap paintedFrame(const QStyleOption& option, qreal pixelRatio) const;
 };

@@ -6,38 +6,18 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
-#include <cmath>
 
 #include "app/common/colours.h"
 #include "app/common/look.h"
 #include "app/common/program_style.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
+#include "tests/window/themes.h"
 
 namespace odmiennik::window_test {
 namespace {
 
 constexpr double kReadableContrast = 4.5;
-
-double linear(double part) {
-  return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-// Relative luminance and contrast ratio as accessibility guidelines define them.
-double luminance(const QColor& colour) {
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-double contrast(const QColor& first, const QColor& second) {
-  const double a = luminance(first), b = luminance(second);
-  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
-QPalette darkPalette() {
-  QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2D, 0x2D, 0x2D));
-  palette.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
-  return palette;
-}
 
 }  // namespace
 
@@ -79,13 +59,7 @@ void LookSuite::theProgramSpeaksPolish() {
   QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Anuluj");
 }
 
-void LookSuite::headingsAreReadableOnLightAndDark_data() {
-  QTest::addColumn<QPalette>("palette");
-  QTest::newRow("light") << QPalette(QColor(0xEF, 0xEF, 0xEF), QColor(0xEF, 0xEF, 0xEF));
-  QTest::newRow("white") << QPalette(Qt::white, Qt::white);
-  QTest::newRow("dark") << darkPalette();
-  QTest::newRow("black") << QPalette(Qt::black, Qt::black);
-}
+void LookSuite::headingsAreReadableOnLightAndDark_data() { addThemes(); }
 
 void LookSuite::headingsAreReadableOnLightAndDark() {
   QFETCH(QPalette, palette);
@@ -120,7 +94,8 @@ void LookSuite::boxesHaveAnEdgeOnBlackGroundToo() {
   QVERIFY(contrast(box.pixelColor(0, box.height() / 2), Qt::black) >= kVisibleContrast);
 }
 
-// They are copied from one picture, whose corners must come out in their own size.
+// That of the box with the focus is the style's own. They are copied from one picture, whose
+// corners must come out in their own size.
 void LookSuite::framesLookAsTheStylePaintsThemAtEveryScale() {
   const auto paintedBy = [](const QStyle& style, qreal scale) {
     QImage picture(QSize(102, 20) * scale, QImage::Format_RGB32);
@@ -129,7 +104,7 @@ void LookSuite::framesLookAsTheStylePaintsThemAtEveryScale() {
     QStyleOptionFrame frame;
     frame.rect = QRect(0, 0, 102, 20);
     frame.palette = QPalette(QColor(0xEF, 0xEF, 0xEF));
-    frame.state = QStyle::State_Enabled;
+    frame.state = QStyle::State_Enabled | QStyle::State_HasFocus;
     frame.lineWidth = 1;
     QPainter painter(&picture);
     style.drawPrimitive(QStyle::PE_FrameLineEdit, &frame, &painter);

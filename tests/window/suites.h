@@ -14,6 +14,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> closingSuite();
 [[nodiscard]] std::unique_ptr<QObject> coloursSuite();
 [[nodiscard]] std::unique_ptr<QObject> conjugatingSuite();
+[[nodiscard]] std::unique_ptr<QObject> contrastSuite();
 [[nodiscard]] std::unique_ptr<QObject> damagedSettingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> demonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
@@ -34,6 +35,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> listSuite();
 [[nodiscard]] std::unique_ptr<QObject> listCommandsSuite();
 [[nodiscard]] std::unique_ptr<QObject> lookSuite();
+[[nodiscard]] std::unique_ptr<QObject> lockedBoxesSuite();
 [[nodiscard]] std::unique_ptr<QObject> menuSuite();
 [[nodiscard]] std::unique_ptr<QObject> messageBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> ownVerbsSuite();
