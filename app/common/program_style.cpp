@@ -46,6 +46,26 @@ void drawEdge(QPainter& painter, const QRect& place, const QColor& colour) {
   painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
+bool isFrame(QStyle::PrimitiveElement element) {
+  return element == QStyle::PE_PanelLineEdit || element == QStyle::PE_FrameLineEdit ||
+         element == QStyle::PE_PanelButtonCommand || element == QStyle::PE_FrameGroupBox ||
+         element == QStyle::PE_FrameFocusRect;
+}
+
+// The style begins the frame of a group this far below the top of the group.
+int titleHeight(const QStyleOption& option) {
+  constexpr int kSquare = 13, kBelowTitle = 3;
+  return std::max(kSquare, option.fontMetrics.height()) + kBelowTitle;
+}
+
+void drawOnPaper(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+  if (element == QStyle::PE_FrameFocusRect) return;
+  painter.save();
+  const int title = element == QStyle::PE_FrameGroupBox ? titleHeight(option) : 0;
+  drawEdge(painter, option.rect.adjusted(0, title, 0, 0), edgeColour(option.palette));
+  painter.restore();
+}
+
 QMargins corners(int size) { return {size, size, size, size}; }
 
 }  // namespace
@@ -54,6 +74,7 @@ ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
+  if (isForPaper_ && isFrame(element)) return drawOnPaper(element, *option, *painter);
   if (const auto* box = qstyleoption_cast<const QStyleOptionFrame*>(option);
       element == PE_PanelLineEdit && box != nullptr)
     return drawBox(*box, *painter, widget);
@@ -130,6 +151,7 @@ void ProgramStyle::drawItemText(QPainter* painter, const QRect& place, int flags
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
+  if (hint == kIsForPaper) return isForPaper_ ? 1 : 0;
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }

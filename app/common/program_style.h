@@ -20,6 +20,13 @@ class ProgramStyle final : public QProxyStyle {
  public:
   ProgramStyle();
 
+  // From now on everything is drawn for paper, or for the screen again: on paper every frame is one
+  // thin line, drawn at the printer's resolution, and nothing shows the focus.
+  void paintForPaper(bool isForPaper) { isForPaper_ = isForPaper; }
+
+  // The hint that tells widgets of it: 1 for paper.
+  static constexpr StyleHint kIsForPaper = SH_CustomBase;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
 
@@ -52,6 +59,8 @@ class ProgramStyle final : public QProxyStyle {
                    const QWidget* widget) const;
   [[nodiscard]] QPixmap frameOf(const QStyleOption& option, qreal pixelRatio) const;
   [[nodiscard]] QPixmap paintedFrame(const QStyleOption& option, qreal pixelRatio) const;
+
+  bool isForPaper_ = false;
 };
 
 }  // namespace odmiennik::app

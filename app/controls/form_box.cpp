@@ -6,8 +6,10 @@
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <algorithm>
 
+#include "app/common/program_style.h"
 #include "app/common/text.h"
 
 namespace odmiennik::app {
@@ -144,6 +146,26 @@ void FormBox::inputMethodEvent(QInputMethodEvent* event) {
   const QString text = event->commitString();
   QLineEdit::inputMethodEvent(event);
   if (!text.isEmpty()) emit committed(text);
+}
+
+void FormBox::paintEvent(QPaintEvent* event) {
+  if (style()->styleHint(ProgramStyle::kIsForPaper, nullptr, this) == 0)
+    QLineEdit::paintEvent(event);
+  else
+    paintForPaper();
+}
+
+// The form alone: on paper there is neither a selection nor a caret.
+void FormBox::paintForPaper() {
+  QStylePainter painter(this);
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  painter.drawPrimitive(QStyle::PE_PanelLineEdit, option);
+  QRect place = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  place = place.marginsRemoved(textMargins());
+  painter.setClipRect(place);
+  painter.drawText(place.adjusted(kMarginOfQLineEdit, 0, -kMarginOfQLineEdit, 0),
+                   Qt::AlignVCenter | Qt::TextSingleLine, text());
 }
 
 }  // namespace odmiennik::app

@@ -61,8 +61,10 @@ class FormBox final : public QLineEdit {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paintForPaper();
   [[nodiscard]] int room() const;
   void keepText(const QString& text);
 

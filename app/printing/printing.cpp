@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "app/controls/main_menu.h"
+#include "app/main_window/main_window.h"
+#include "app/printing/paper_look.h"
 #include "app/printing/printed_picture.h"
 #include "app/printing/printer_setup.h"
 
@@ -59,19 +61,20 @@ bool isReady(const QPrinterInfo& printer) {
          printer.state() != QPrinter::Aborted;
 }
 
-bool printWidget(QWidget& widget, const QString& title, const PrintChoices& choices) {
+bool printOnPaper(MainWindow& window, const PrintChoices& choices) {
   const Hourglass hourglass;
   const QPrinterInfo current = QPrinterInfo::defaultPrinter();
   if (!isReady(current)) return false;
   QPrinter printer(current, QPrinter::HighResolution);
-  printer.setDocName(title);
+  printer.setDocName(window.windowTitle());
   apply(choices, current, printer);
-  return printPicture(widget, printer);
+  const PaperLook look(window);
+  return printPicture(*window.centralWidget(), printer);
 }
 
 }  // namespace
 
-Printing::Printing(QMainWindow& main, dictionary::MessageBoxes& messages)
+Printing::Printing(MainWindow& main, dictionary::MessageBoxes& messages)
     : main_(main), messages_(messages) {
   QObject::connect(
       &menuItem(*main.menuBar(), "mnuPlikDrukuj"), &QAction::triggered, &main, [this] { print(); },
@@ -83,7 +86,7 @@ Printing::Printing(QMainWindow& main, dictionary::MessageBoxes& messages)
 
 bool Printing::print() {
   const HiddenForPrinting hidden(*main_.centralWidget());
-  const bool isPrinted = printWidget(*main_.centralWidget(), main_.windowTitle(), choices_);
+  const bool isPrinted = printOnPaper(main_, choices_);
   if (!isPrinted) messages_.show(dictionary::MessageId::printerNotReady);
   return isPrinted;
 }

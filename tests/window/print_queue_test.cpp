@@ -12,6 +12,7 @@
 #include "tests/window/program_run.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
+#include "tests/window/themes.h"
 
 namespace odmiennik::window_test {
 namespace {
@@ -35,6 +36,24 @@ bool isEmpty(const QImage& picture, const QRect& part) {
   return true;
 }
 
+// Whether a part of the picture is made of squares of equal dots: enlarged, not drawn.
+bool isMadeOfSquares(const QImage& picture, const QRect& part, int side) {
+  const QRect place(part.topLeft() / side * side, part.size());
+  for (int y = place.top(); y + side <= place.bottom(); y += side)
+    for (int x = place.left(); x + side <= place.right(); x += side)
+      if (!isEmpty(picture, QRect(x, y, side, side))) return false;
+  return true;
+}
+
+// Whether a part shows a colour that is no grey.
+bool isColoured(const QImage& picture, const QRect& part) {
+  constexpr int kGrey = 8;  // no more saturated than this
+  for (int y = part.top(); y <= part.bottom(); ++y)
+    for (int x = part.left(); x <= part.right(); ++x)
+      if (picture.pixelColor(x, y).saturation() > kGrey) return true;
+  return false;
+}
+
 }  // namespace
 
 class PrintQueueSuite : public QObject {
@@ -49,6 +68,7 @@ class PrintQueueSuite : public QObject {
   void theWindowIsOnePageLyingDown();
   void thePictureIsFineAndWithoutLoss();
   void thePictureLacksWhatMeansNothingOnPaper();
+  void thePageIsForPaperThoughTheThemeIsDark();
   void afterPrintingTheHiddenControlsAreBack();
   void theListPrintsTheVerbSelectedThere();
   void aRejectingQueueIsNotReady();
@@ -129,8 +149,8 @@ void PrintQueueSuite::thePictureIsFineAndWithoutLoss() {
 // The picture alone, out of the printed document.
 QImage PrintQueueSuite::printedPicture() const {
   const QString root = server_->document(kQueue) + "-picture";
-  outputOf("pdfimages", {"-png", server_->document(kQueue), root});
-  return QImage(root + "-000.png");
+  outputOf("pdfimages", {server_->document(kQueue), root});
+  return QImage(root + "-000.ppm");
 }
 
 // Where a control of the window stands in its picture, its edges left out.
@@ -154,6 +174,28 @@ void PrintQueueSuite::thePictureLacksWhatMeansNothingOnPaper() {
                                      picture)));
   QVERIFY(!isEmpty(picture, placeOf(program_->widget<QPushButton>("cmdOdmień"), picture)));
   QVERIFY(!isEmpty(picture, placeOf(program_->box(0), picture)));
+}
+
+// White ground, nothing coloured about the entry box, which has selection and focus, and frames
+// whose corners are not made of the screen's dots.
+void PrintQueueSuite::thePageIsForPaperThoughTheThemeIsDark() {
+  const Theme theme(darkPalette());
+  program_->conjugate("finir");
+  QVERIFY(program_->entry().hasFocus() && program_->entry().hasSelectedText());
+  print();
+  QTRY_VERIFY_WITH_TIMEOUT(server_->hasPrinted(kQueue), 20'000);
+  const QImage picture = printedPicture();
+  QVERIFY(!picture.isNull());
+  const QRect entry = placeOf(program_->entry(), picture);
+  constexpr int kEdge = 40;
+  QVERIFY(!isColoured(picture, entry.adjusted(-kEdge, -kEdge, kEdge, kEdge)));
+  for (const QWidget* box : {&program_->box(0), &program_->entry()}) {
+    const QRect place = placeOf(*box, picture);
+    QCOMPARE(picture.pixelColor(place.right(), place.center().y()), Qt::white);
+    QVERIFY(!isEmpty(picture, place));
+    const int dots = picture.width() / program_->window.centralWidget()->width();
+    QVERIFY(!isMadeOfSquares(picture, QRect(place.bottomRight(), QSize(4, 4) * dots), 2));
+  }
 }
 
 void PrintQueueSuite::afterPrintingTheHiddenControlsAreBack() {
