@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/common/announcement.h"
 #include "app/help/list_keys.h"
 
 namespace odmiennik::app {
@@ -62,6 +63,7 @@ void FindPanel::search() {
   list(found);
   answer_->setText(answerTo(field_->text(), found.size()));
   field_->setAccessibleDescription(answer_->text());
+  if (!answer_->text().isEmpty()) announce(answer_->text());
 }
 
 void FindPanel::list(const std::vector<FoundPage>& pages) {

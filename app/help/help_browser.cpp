@@ -10,6 +10,7 @@
 #include <QTextDocumentFragment>
 #include <QWheelEvent>
 
+#include "app/common/announcement.h"
 #include "app/common/colours.h"
 #include "app/help/folded_text.h"
 #include "app/help/help_sheet.h"
@@ -53,6 +54,7 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
   setMinimumSize(320, 240);
   document()->setDocumentMargin(kMargin);
   connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::sayPage);
+  connect(this, &QTextBrowser::highlighted, this, &HelpBrowser::sayLink);
 }
 
 // Every answer holds something, if only an empty text: without one the text view looks for a local
@@ -130,10 +132,16 @@ void HelpBrowser::markAll(const QString& typed) {
 
 QString HelpBrowser::heading() const { return document()->begin().text(); }
 
-// The name of what has the focus is said when it changes.
 void HelpBrowser::sayPage() {
   markAll({});
-  setAccessibleName(QStringLiteral("Strona pomocy: %1").arg(heading()));
+  setAccessibleDescription(heading());
+  announce(heading());
+}
+
+// A link that Tab comes to is selected; one that the pointer comes to is not, and is not said.
+void HelpBrowser::sayLink(const QUrl& address) {
+  if (!address.isEmpty() && textCursor().hasSelection())
+    announce(QStringLiteral("Odsyłacz: %1").arg(textCursor().selectedText()));
 }
 
 // The caret stands in a link as well when it was not Tab that led there.

@@ -49,6 +49,7 @@ class HelpBrowser final : public QTextBrowser {
   void readAnew();
   void markAll(const QString& typed);
   void sayPage();
+  void sayLink(const QUrl& address);
 
   const HelpBook& book_;
   QUrl page_;  // to which the addresses inside a page are relative

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "app/common/announcement.h"
 #include "app/help/folded_text.h"
 
 namespace odmiennik::app {
@@ -103,10 +104,10 @@ void HelpSearch::search(QTextDocument::FindFlags direction) {
   page_.setTextCursor(caret);
 }
 
-// Said by a screen reader as what is known of the field.
 void HelpSearch::answer(const QString& text) {
   answer_->setText(text);
   field_->setAccessibleDescription(text);
+  if (!text.isEmpty()) announce(text);
 }
 
 }  // namespace odmiennik::app
