@@ -15,7 +15,8 @@ constexpr int kPageRole = Qt::UserRole;
 
 ContentsPanel::ContentsPanel(QWidget* parent) : QTreeWidget(parent) {
   setObjectName(QStringLiteral("treSpis"));
-  setAccessibleName(QStringLiteral("Spis treści"));
+  // The tab above it is called "Spis treści" already.
+  setAccessibleName(QStringLiteral("Rozdziały i strony"));
   setHeaderHidden(true);
   setUniformRowHeights(true);
   connect(this, &QTreeWidget::currentItemChanged, this, &ContentsPanel::choose);

@@ -11,7 +11,8 @@
 namespace odmiennik::app {
 namespace {
 
-// The key of a menu item that does more than the item when it is chosen.
+// The key of a menu item that does more than the item when it is chosen. In an open menu it does
+// nothing: keys belong to the menu there.
 class ItemKey final : public QObject {
  public:
   ItemKey(QAction& item, std::function<void()> pressed)
@@ -21,7 +22,7 @@ class ItemKey final : public QObject {
 
   bool eventFilter(QObject* /*item*/, QEvent* event) override {
     if (event->type() != QEvent::Shortcut) return false;
-    pressed_();
+    if (QApplication::activePopupWidget() == nullptr) pressed_();
     return true;
   }
 
