@@ -2,9 +2,11 @@
 #include "app/help/help_browser.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
@@ -35,9 +37,12 @@ QString typedText(QString text) {
 
 bool isOnDark() { return isDark(QApplication::palette()); }
 
-// The pages' style sheet names the fonts of other viewers; here they have the system's own.
-QString inFontOf(const QWidget& view) {
-  return QStringLiteral("\nbody { font-family: \"%1\"; }\n").arg(view.font().family());
+// The sheet with the system's own font, the one that is really used: a style sheet knows no
+// stand-ins such as "Sans Serif". The fonts that it names are for other viewers.
+QString inFontOf(const QWidget& view, QString sheet) {
+  static const QRegularExpression families(QStringLiteral("font-family:[^;}]*"));
+  const QString own = QStringLiteral("font-family: '%1'").arg(QFontInfo(view.font()).family());
+  return sheet.replace(families, own);
 }
 
 }  // namespace
@@ -63,7 +68,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   if (type == QTextDocument::ImageResource) return noPicture();
   const QUrl address = name.isRelative() ? page_.resolved(name) : name;
   if (type == QTextDocument::StyleSheetResource)
-    return sheetAt(sheet(address), zoom_) + inFontOf(*this);
+    return inFontOf(*this, sheetAt(sheet(address), zoom_));
   page_ = address;
   return book_.page(address);
 }

@@ -1,5 +1,6 @@
 // Reading a page of the help: with the keyboard, larger, in the dark.
 #include <QClipboard>
+#include <QFontInfo>
 #include <QScrollBar>
 #include <QTextTable>
 
@@ -26,6 +27,7 @@ class HelpReadingSuite : public QObject {
   void enterOpensTheLinkUnderTheCaret();
   void aPageBeginsAtItsTop();
   void thePageSaysItsTitle();
+  void thePageHasTheFontOfTheWindow();
   void sizesGoUpAndDownAndStayInTheirLimits();
   void keysMakeThePageLargerAndSmaller();
   void theWheelMakesThePageLargerOnlyWithCtrl();
@@ -87,6 +89,12 @@ void HelpReadingSuite::pageDownStillTurnsThePage() {
   QVERIFY(pages().verticalScrollBar()->value() < scrolled);
   QTest::keyClick(&pages(), Qt::Key_End, Qt::ControlModifier);
   QVERIFY(pages().verticalScrollBar()->maximum() - pages().verticalScrollBar()->value() < 20);
+}
+
+void HelpReadingSuite::thePageHasTheFontOfTheWindow() {
+  QTextCursor place = pages().document()->find("podstawowy");
+  QVERIFY(!place.isNull());
+  QCOMPARE(QFontInfo(place.charFormat().font()).family(), QFontInfo(pages().font()).family());
 }
 
 void HelpReadingSuite::tabLeadsFromLinkToLink() {
