@@ -18,8 +18,8 @@ namespace odmiennik::app {
 // Whether Windows-1252 has the letter: 'é' and '’' yes, 'ł' no.
 [[nodiscard]] bool isFrenchLetter(QChar letter);
 
-// A text as the caption of a window, which shows it as it is: "[*]", the place that Qt keeps for the
-// mark of what is not saved, is written twice.
+// A text as the caption of a window, which shows it as it is: "[*]", the place that Qt keeps for
+// the mark of what is not saved, is written twice.
 [[nodiscard]] QString captionOf(std::string_view utf8);
 
 // QString -> Windows-1252. Letters that it does not have are left out; the boxes never hold any.

@@ -63,7 +63,8 @@ void HelpSearchSuite::init() {
 void HelpSearchSuite::accentsCaseAndApostrophesFold() {
   QCOMPARE(app::folded("Où L’ÊTRE").text, "ou l'etre");
   QCOMPARE(app::folded("cœur, Łódź, żółw").text, "coeur, lodz, zolw");
-  QCOMPARE(app::folded(QString("a%1b%2c").arg(QChar(0x2011)).arg(QChar(QChar::Nbsp))).text, "a-b c");
+  QCOMPARE(app::folded(QString("a%1b%2c").arg(QChar(0x2011)).arg(QChar(QChar::Nbsp))).text,
+           "a-b c");
   QCOMPARE(app::folded(QString("e%1t").arg(QChar(0x301))).text, "et");
 }
 

@@ -118,8 +118,7 @@ void MenuSuite::whatCannotBeDoneAtTheStartIsDisabled() {
   disabled.removeAll("mnuEdycjaTablica");  // as the system has one
   disabled.removeAll("mnuEdycjaWklej");    // as the clipboard allows
   const QStringList expected{"mnuPlikZapiszCzasownik", "mnuEdycjaCofnij",
-                             "mnuEdycjaZaznaczWszystko",
-                             "mnuCzasownikPrzywróć"};
+                             "mnuEdycjaZaznaczWszystko", "mnuCzasownikPrzywróć"};
   QCOMPARE(disabled, expected);
 }
 
