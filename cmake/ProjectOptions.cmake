@@ -14,6 +14,6 @@ if(ODMIENNIK_SANITIZE)
   # What the sanitizers add to std::regex and its like, GCC 12 takes for reads of empty memory.
   target_compile_options(project_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE}
-                         -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(project_options INTERFACE -fsanitize=${ODMIENNIK_SANITIZE})
 endif()
