@@ -20,7 +20,8 @@ def _open(program):
 
 
 def _sample(colours, caption):
-    return next(part for part in colours.parts() if part.name == caption and part.description)
+    return next(part for part in colours.parts()
+                if part.name == caption and part.description.startswith("#"))
 
 
 def _chooser(program, colours, caption):
