@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <algorithm>
 
 #include "app/common/text.h"
 #include "app/controls/control_table.h"
@@ -76,11 +77,15 @@ Target DemonstrationPlaces::verbMenu() const {
   return DemonstrationTarget{bar, bar->actionGeometry(menu->menuAction()).center()};
 }
 
+// Below the menu's heading: the way to the middle of a wide menu leads over the next heading, and
+// that opens its own menu.
 Target DemonstrationPlaces::listItem() const {
-  auto* menu = window_.menuBar()->findChild<QMenu*>(QStringLiteral("mnuCzasownik"));
+  QMenuBar& bar = *window_.menuBar();
+  auto* menu = bar.findChild<QMenu*>(QStringLiteral("mnuCzasownik"));
   if (!isUsable(menu)) return std::nullopt;
-  QAction& item = menuItem(*window_.menuBar(), "mnuEdycjaLista");
-  return DemonstrationTarget{menu, menu->actionGeometry(&item).center()};
+  QPoint place = menu->actionGeometry(&menuItem(bar, "mnuEdycjaLista")).center();
+  place.setX(std::min(place.x(), bar.actionGeometry(menu->menuAction()).width() / 2));
+  return DemonstrationTarget{menu, place};
 }
 
 Target DemonstrationPlaces::letter() const {
