@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "app/controls/controls.h"
+#include "app/controls/form_columns.h"
 #include "app/controls/form_surface.h"
 #include "app/layout/scaled_layout.h"
 #include "bench/qt_application.h"
@@ -9,9 +10,9 @@
 namespace odmiennik::app {
 namespace {
 
-void agreeTo(Layout& layout, TwipSize window) {
-  benchmark::DoNotOptimize(RescaleLayout(layout, window, {}, [] { return true; }));
-  layout.design = window;
+void agreeTo(DraggedLayout& layout, TwipSize window) {
+  constexpr bool kIsMinimised = false;
+  benchmark::DoNotOptimize(layout.resize(window, kIsMinimised, {}, [] { return true; }));
 }
 
 // The window grows and shrinks in turn, so that every place and every font changes each time.
@@ -19,14 +20,15 @@ void BM_ApplyLayout(benchmark::State& state) {
   needApplication();
   FormSurface surface(nullptr);
   const Controls controls(surface);
-  ScaledLayout scaled(controls, surface);
+  FormColumns columns(controls);
+  ScaledLayout scaled(controls, surface, columns);
   const TwipSize designed = scaled.layout().design;
   const TwipSize maximised{designed.width * 3 / 2, designed.height * 3 / 2};
   surface.show();
   bool isLarge = false;
   for (auto _ : state) {
     isLarge = !isLarge;
-    agreeTo(scaled.layout(), isLarge ? maximised : designed);
+    agreeTo(scaled.dragged(), isLarge ? maximised : designed);
     scaled.apply();
   }
 }
