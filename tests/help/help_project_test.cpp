@@ -1,5 +1,6 @@
 // The build of the help: encodings and the project's files.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tools/build_help/ascii_page.h"
 #include "tools/build_help/contents.h"
@@ -15,7 +16,8 @@ namespace {
 class HelpFolder {
  public:
   explicit HelpFolder(std::string_view contents)
-      : path_(std::filesystem::path(::testing::TempDir()) / "odmiennik_help_folder") {
+      : path_(std::filesystem::path(::testing::TempDir()) /
+              ("odmiennik_help_folder_" + std::to_string(getpid()))) {
     writeFile(path_ / "strony/default.htm", "<p>");
     writeFile(path_ / "strony" / std::u8string(u8"Passé.htm"), "<p>");
     writeFile(path_ / "spis.txt", contents);
