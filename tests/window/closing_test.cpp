@@ -1,6 +1,10 @@
 // What closing the program asks, saves and ends.
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QTemporaryFile>
+#include <cstdio>
+
+#include <unistd.h>
 
 #include "tests/unit/dictionary/faulty_files.h"
 #include "tests/window/edited_program.h"
@@ -15,6 +19,21 @@ using dictionary::MessageId;
 using Messages = std::vector<MessageId>;
 
 constexpr char kBefore[] = "0\r\n255\r\n65280\r\n41\r\n1112\r\n";
+
+// What is written to standard error while something is done.
+QByteArray toldStandardError(const std::function<void()>& doing) {
+  QTemporaryFile file;
+  if (!file.open()) qFatal("no file to write to");
+  std::fflush(stderr);
+  const int before = ::dup(STDERR_FILENO);
+  ::dup2(file.handle(), STDERR_FILENO);
+  doing();
+  std::fflush(stderr);
+  ::dup2(before, STDERR_FILENO);
+  ::close(before);
+  file.seek(0);
+  return file.readAll();
+}
 
 }  // namespace
 
@@ -219,7 +238,9 @@ void ClosingSuite::aTerminationThatCannotSaveTheSettingsTellsStandardErrorAndEnd
   ProgramRun run(home, readOnly);
   run.program.start();
   run.messages.shown.clear();
-  run.program.closing().endNow();
+  const QByteArray told = toldStandardError([&run] { run.program.closing().endNow(); });
+  QVERIFY2(told.contains("Aktualne ustawienia mogą zostać niezapisane."), told);
+  QCOMPARE(told.count('\n'), 1);
   QCOMPARE(run.ends, 1);
   QVERIFY(run.messages.shown.empty());
 }

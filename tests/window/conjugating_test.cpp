@@ -58,6 +58,13 @@ class ConjugatingSuite : public QObject {
  private:
   std::unique_ptr<ProgramUnderTest> program_;
 
+  // Those whose forms are made of two words.
+  [[nodiscard]] QList<int> compoundSlots() const {
+    QList<int> found;
+    for (int slot = 0; slot < engine::kSlotCount; ++slot)
+      if (program_->form(slot).contains(' ')) found += slot;
+    return found;
+  }
   [[nodiscard]] app::PronounPainter& pronouns() const {
     return program_->window.findChild<app::FormSurface*>()->pronouns();
   }
@@ -68,7 +75,9 @@ void ConjugatingSuite::anEmptyTableStartsWithItsPronouns() {
   QCOMPARE(pronouns().pronoun(89), "ils");
   QCOMPARE(program_->form(0), QString());
   QCOMPARE(program_->label("lblSubjoncif_0"), "Il faut que ...");
-  QCOMPARE(program_->label("lblGrupaWartość"), "b.d.");
+  for (const char* value : {"lblGrupaWartość", "lblPrzechodniWartość", "lblNieprzechodniWartość",
+                            "lblPosiłkowyWartość", "lblRządWartość"})
+    QCOMPARE(program_->label(value), "b.d.");
   QVERIFY(program_->auxiliary().isChecked() && program_->auxiliary().isEnabled());
   QCOMPARE(program_->auxiliary().text(), "&se conjugué avec avoir");
 }
@@ -136,8 +145,12 @@ void ConjugatingSuite::aClickOnTheAuxiliaryRebuildsTheCompoundTenses() {
   QCOMPARE(program_->form(24), "ai monté");
   QVERIFY(program_->auxiliary().isEnabled());
   const QString known = program_->label("lblPosiłkowyWartość");
+  const QList<int> compounds = compoundSlots();
+  QCOMPARE(compounds.size(), 8 * 6 + 3 + 2);
   program_->auxiliary().click();
   QCOMPARE(program_->form(24), "suis monté(e)");
+  for (const int slot : compounds)
+    QVERIFY2(program_->form(slot).contains(" monté(e)"), qPrintable(program_->form(slot)));
   QCOMPARE(pronouns().pronoun(24), "je");
   QCOMPARE(program_->auxiliary().text(), "&se conjugué avec être");
   QCOMPARE(program_->label("lblPosiłkowyWartość"), known);
@@ -224,11 +237,19 @@ void ConjugatingSuite::aSecondCommandBehindAMessageDoesNothing() {
 }
 
 void ConjugatingSuite::absurdInputIsAnswered() {
-  for (const QString& input : {QString(), QString("a"), QString("se"), QString("s'"),
-                               QString(10000, 'a'), QString("parler finir"), QString("ÊTRE")}) {
+  for (const QString& input :
+       {QString(), QString("a"), QString("se"), QString("s'"), QString(10000, 'a')}) {
     program_->entry().setText(input);
+    program_->messages.shown.clear();
     program_->window.conjugate();
+    QCOMPARE(program_->messages.shown, Messages{MessageId::notConjugable});
+    QCOMPARE(program_->form(0), " -- ");
   }
+  program_->entry().setText("parler finir");
+  program_->window.conjugate();
+  QCOMPARE(program_->messages.shown.back(), MessageId::conjugatedRegularly);
+  program_->entry().setText("ÊTRE");
+  program_->window.conjugate();
   QCOMPARE(program_->form(0), "suis");
 }
 

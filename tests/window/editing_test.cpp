@@ -22,6 +22,10 @@ class EditingSuite : public QObject {
 
   void theBoxesAreLockedUntilEditModeIsEntered();
   void enteringShowsMarkerCaptionsAndTheStartingPoint();
+  void enteringCountsNoConjugation();
+  void enteringKeepsTheAuxiliaryThatIsShown();
+  void enteringWithAnotherVerbStartsWithAvoir();
+  void anUnknownVerbIsEditedWithItsNotice();
   void aMissingFormIsAnEmptyBoxWhileEditing();
   void theCaptionFollowsTheInfinitive();
   void theCaptionShowsWhatQtKeepsForItself();
@@ -63,6 +67,38 @@ void EditingSuite::enteringShowsMarkerCaptionsAndTheStartingPoint() {
   QCOMPARE(program_->form(0), "viens");
   QVERIFY(program_->auxiliary().isEnabled());
   QVERIFY(program_->messages.shown.empty());
+}
+
+void EditingSuite::enteringCountsNoConjugation() {
+  program_->conjugate("parler");
+  const int counted = program_->program.settings().conjugationCount();
+  program_->trigger("mnuEdycjaEdytujCzasownik");
+  QVERIFY(program_->isEditing());
+  QCOMPARE(program_->program.settings().conjugationCount(), counted);
+}
+
+void EditingSuite::enteringKeepsTheAuxiliaryThatIsShown() {
+  program_->conjugate("monter");
+  program_->auxiliary().click();
+  program_->trigger("mnuEdycjaEdytujCzasownik");
+  QVERIFY(!program_->auxiliary().isChecked());
+  QCOMPARE(program_->form(24), "suis monté(e)");
+}
+
+void EditingSuite::enteringWithAnotherVerbStartsWithAvoir() {
+  program_->conjugate("aller");
+  program_->entry().setText("parler");
+  program_->trigger("mnuEdycjaEdytujCzasownik");
+  QVERIFY(program_->auxiliary().isChecked());
+  QCOMPARE(program_->form(24), "ai parlé");
+}
+
+void EditingSuite::anUnknownVerbIsEditedWithItsNotice() {
+  program_->entry().setText("zyzer");
+  program_->trigger("mnuEdycjaEdytujCzasownik");
+  QCOMPARE(program_->messages.shown, Messages{MessageId::conjugatedRegularly});
+  QVERIFY(program_->isEditing());
+  QCOMPARE(program_->form(0), "zyze");
 }
 
 void EditingSuite::aMissingFormIsAnEmptyBoxWhileEditing() {

@@ -87,6 +87,7 @@ void ListSuite::withCountZeroNothingIsListed() {
   QCOMPARE(program.count(), "0/7342");
   QCOMPARE(program.entries(), QStringList());
   QCOMPARE(program.enabled(), QStringList{"cmdNowy"});
+  QVERIFY(!program.list().isEnabled());
 }
 
 void ListSuite::theListShowsEveryLineAndTheStoredCountEnables() {

@@ -22,6 +22,7 @@ class OwnVerbsSuite : public QObject {
   void withCountZeroTheOldFileIsKeptBesideTheNewOne();
   void aFileThatAnotherProgramHasWrittenMeanwhileIsCountedAndKept();
   void aVerbThatStandsTwiceIsDeletedTwiceAndCountedOnce();
+  void aDeletionLeavesTheShownFormsAndTheirAuxiliary();
   void aPlaceholderIsCompletedAndAnEmptyFormIsNot();
   void theUsersAvoirWinsOverTheBuiltInOne();
   void theListShowsAVerbThatWasSavedMeanwhile();
@@ -96,6 +97,20 @@ void OwnVerbsSuite::aVerbThatStandsTwiceIsDeletedTwiceAndCountedOnce() {
   QCOMPARE(program_->userVerbs().count('\n'), 1);
   // A file changed from outside counts as many verbs as it has records: three, less one deletion.
   QCOMPARE(program_->count(), 2);
+}
+
+void OwnVerbsSuite::aDeletionLeavesTheShownFormsAndTheirAuxiliary() {
+  program_->edit("parler");
+  program_->box(0).setText("parlix");
+  program_->auxiliary().click();
+  program_->trigger("mnuPlikZapiszCzasownik");
+  const QListWidget& list = openList();
+  QCOMPARE(list.count(), 1);
+  program_->widget<QPushButton>("cmdUsuń").click();
+  QTRY_COMPARE(list.count(), 0);
+  QCOMPARE(program_->form(0), "parlix");
+  QCOMPARE(program_->form(96), "parler");
+  QVERIFY(!program_->auxiliary().isChecked());
 }
 
 // The built-in falloir has both.

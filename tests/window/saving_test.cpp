@@ -1,4 +1,7 @@
 // Saving an edited verb.
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include "tests/window/edited_program.h"
 #include "tests/window/suites.h"
 
@@ -23,6 +26,8 @@ class SavingSuite : public QObject {
   void savingIsRefusedForOtherInfinitives_data();
   void savingIsRefusedForOtherInfinitives();
   void blanksAroundTheInfinitiveAreNotSaved();
+  void aReflexivePrefixIsOneHoweverItIsTyped();
+  void aForeignLetterIsNeverSavedAsAQuestionMark();
   void savingTwiceRewritesTheSameRecord();
   void leavingAfterSaveAsksNothing();
   void leavingAfterTypingAsksOnceAndKeepsTheAnswerNo();
@@ -79,6 +84,30 @@ void SavingSuite::blanksAroundTheInfinitiveAreNotSaved() {
   program_->trigger("mnuPlikZapiszCzasownik");
   QCOMPARE(program_->fields().value(96), "faire");
   QCOMPARE(program_->entry().text(), "faire");
+}
+
+void SavingSuite::aReflexivePrefixIsOneHoweverItIsTyped() {
+  for (const char* typed : {"Se zyzer", "se zyzer", " SE zyzer "}) {
+    program_->edit("zyzer");
+    program_->entry().setText(QString::fromUtf8(typed));
+    program_->box(0).setText("me zyzix");
+    program_->trigger("mnuPlikZapiszCzasownik");
+    QCOMPARE(program_->fields().value(96), "se zyzer");
+    QCOMPARE(program_->count(), 1);
+  }
+  QCOMPARE(program_->userVerbs().count('\n'), 1);
+  program_->conjugate("se zyzer");
+  QCOMPARE(program_->form(0), "me zyzix");
+}
+
+void SavingSuite::aForeignLetterIsNeverSavedAsAQuestionMark() {
+  program_->edit("parler");
+  QGuiApplication::clipboard()->setText("łpaśrlξe");
+  program_->box(0).selectAll();
+  program_->box(0).paste();
+  program_->trigger("mnuPlikZapiszCzasownik");
+  QCOMPARE(program_->fields().value(0), "parle");
+  QVERIFY(!program_->userVerbs().contains('?'));
 }
 
 void SavingSuite::savingTwiceRewritesTheSameRecord() {

@@ -34,6 +34,7 @@ class StartUpSuite : public QObject {
   void theMarkerIsFoundWhateverItsCase();
   void aStartThatIsAbortedShowsNoTipAndCountsNoRun();
   void verbsLostInACrashComeBack();
+  void whatAKilledExitLeftOfTheSettingsIsRemoved();
   void theTipIsShownOverTheWindowBeforeTheRunIsCounted();
   void theTipIsNotShownWhenItIsSwitchedOff();
   void theLayoutIsNotRescaledOnAScreenOf800Pixels();
@@ -136,6 +137,16 @@ void StartUpSuite::verbsLostInACrashComeBack() {
   run.program.start();
   QVERIFY(home_->read("Czasowniki.dat") == "kept");
   QVERIFY(!home_->has("Czas.dat"));
+}
+
+void StartUpSuite::whatAKilledExitLeftOfTheSettingsIsRemoved() {
+  const std::string before = "0\r\n1\r\n2\r\n7\r\n1112\r\n";
+  home_->write("Werbolin.cfg", before);
+  home_->write("Werbolin.cfg.new", "0\r\n1");
+  ProgramRun run(*home_);
+  run.program.start();
+  QVERIFY(!home_->has("Werbolin.cfg.new"));
+  QCOMPARE(home_->read("Werbolin.cfg"), before);
 }
 
 void StartUpSuite::theTipIsShownOverTheWindowBeforeTheRunIsCounted() {

@@ -137,6 +137,10 @@ void TipSuite::theDemonstrationsStandBesideTheHowToAlone() {
   QVERIFY(hasDemonstrations(*window));
   window->DisplayCurrentTip();
   QVERIFY(!hasDemonstrations(*window));
+  random_ = 4.5 / 21;
+  part<QPushButton>(*window, "cmdNextTip").click();
+  QCOMPARE(shownTip(*window), tip(5));
+  QVERIFY(hasDemonstrations(*window));
 }
 
 void TipSuite::aDemonstrationStartsOnceTheTipIsClosed() {
