@@ -22,13 +22,12 @@ namespace odmiennik::window_test {
 // user's doings do while a box is open.
 class AnsweredMessages final : public dictionary::MessageBoxes {
  public:
-  dictionary::Button show(dictionary::MessageId id, std::string_view /*argument*/) override {
-    WatchedApplication::mayOpenModal();
-    shown.push_back(id);
-    if (whileShown) whileShown();
-    const auto found = answers.find(id);
-    return found == answers.end() ? answer : found->second;
-  }
+  AnsweredMessages();
+  AnsweredMessages(const AnsweredMessages&) = delete;
+  AnsweredMessages& operator=(const AnsweredMessages&) = delete;
+  ~AnsweredMessages() override;
+
+  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override;
 
   std::vector<dictionary::MessageId> shown;
   dictionary::Button answer = dictionary::Button::ok;           // to every message
@@ -48,11 +47,10 @@ struct ProgramUnderTest {
        }}};
   app::MainWindow& window = program.window();
 
-  ProgramUnderTest() {
-    store.setTipShownAtStart(false);
-    program.start();
-    if (!QTest::qWaitForWindowActive(&window)) qFatal("the window does not become active");
-  }
+  ProgramUnderTest();
+  ProgramUnderTest(const ProgramUnderTest&) = delete;
+  ProgramUnderTest& operator=(const ProgramUnderTest&) = delete;
+  ~ProgramUnderTest();
 
   // A widget by its object name; asking for one that does not exist ends the test.
   template <typename Widget>
@@ -62,35 +60,20 @@ struct ProgramUnderTest {
     return *found;
   }
 
-  [[nodiscard]] app::FormBox& box(int slot) const {
-    return widget<app::FormBox>(QStringLiteral("txtCzasownik_%1").arg(slot));
-  }
+  [[nodiscard]] app::FormBox& box(int slot) const;
   [[nodiscard]] app::FormBox& entry() const { return box(engine::slot::kInfinitive); }
-  [[nodiscard]] QString form(int slot) const { return box(slot).text(); }
-
-  [[nodiscard]] QString label(const char* name) const {
-    return widget<QLabel>(QString::fromUtf8(name)).text();
-  }
-  [[nodiscard]] QCheckBox& auxiliary() const { return widget<QCheckBox>("chkZAvoir"); }
+  [[nodiscard]] QString form(int slot) const;
+  [[nodiscard]] QString label(const char* name) const;
+  [[nodiscard]] QCheckBox& auxiliary() const;
 
   // The item, which must be there and enabled to be chosen.
-  [[nodiscard]] QAction& item(const char* name) const {
-    return app::menuItem(*window.menuBar(), name);
-  }
+  [[nodiscard]] QAction& item(const char* name) const;
 
   // Types as a keyboard does, letters beyond ASCII included, over what is selected.
-  void type(const QString& text) const {
-    for (const QChar letter : text)
-      QTest::sendKeyEvent(QTest::Click, &entry(), Qt::Key_unknown, QString(letter), Qt::NoModifier);
-  }
+  void type(const QString& text) const;
 
   // Types an infinitive in the place of the entry box's text and presses Enter.
-  void conjugate(const QString& infinitive) const {
-    entry().selectAll();
-    type(infinitive);
-    QTest::keyClick(&entry(), Qt::Key_Return);
-    QCoreApplication::processEvents();
-  }
+  void conjugate(const QString& infinitive) const;
 };
 
 }  // namespace odmiennik::window_test
