@@ -4,14 +4,13 @@
 #include "app/common/look.h"
 #include "app/layout/screen_fit.h"
 #include "app/lifetime/developer_buttons.h"
-#include "app/lifetime/program_settings.h"
 #include "dictionary/app_folder.h"
 
 namespace odmiennik::app {
 
 Program::Program(const Surroundings& given)
     : prefix_(dictionary::AppFolder(given.folder)),
-      userVerbs_(prefix_, storedUserVerbCount(prefix_, given.files), given.messages, given.files),
+      userVerbs_(prefix_, 0, given.messages, given.files),  // their number comes with the settings
       shell_(given.messages, [this] { settings_.ResetSettings(); }),
       driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}),
       window_(driver_),

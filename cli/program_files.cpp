@@ -18,7 +18,8 @@ std::string prefixOf(std::optional<std::string_view> folder) {
 ProgramFiles findProgramFiles(std::optional<std::string_view> folder, Console& console) {
   ProgramFiles files{.prefix = prefixOf(folder)};
   dictionary::Settings settings;
-  if (readSettingsFile(files.prefix, settings) == dictionary::SettingsRead::damaged) {
+  const dictionary::SettingsRead read = readSettingsFile(files.prefix, settings);
+  if (read == dictionary::SettingsRead::damaged || read == dictionary::SettingsRead::unreadable) {
     files.hasTrouble = true;
     console.complain(
         "Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. Program może działać "

@@ -31,10 +31,10 @@ struct Settings {
 [[nodiscard]] std::string encodeRunCount(std::int32_t runCount);
 
 // Whether a settings file could be read: `missing` is no fault, but only a file that is known not
-// to be there is missing.
-enum class SettingsRead : std::uint8_t { read, missing, damaged };
+// to be there is missing. Of an unreadable one it is not known what it holds.
+enum class SettingsRead : std::uint8_t { read, missing, damaged, unreadable };
 
-// Reads `prefix` + "Werbolin.cfg"; a damaged or unreadable file fills what it can.
+// Reads `prefix` + "Werbolin.cfg"; a damaged file fills what it can.
 [[nodiscard]] SettingsRead readSettingsFile(const std::string& prefix, Settings& settings,
                                             FileSystem& files = systemFiles());
 

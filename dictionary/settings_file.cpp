@@ -34,8 +34,8 @@ SettingsRead readSettingsFile(const std::string& prefix, Settings& settings, Fil
   if (found.presence == Presence::notThere) return SettingsRead::missing;
   const auto file = found.presence == Presence::there ? files.open(found.path) : nullptr;
   const auto text = file ? readText(*file) : std::nullopt;
-  const bool isRead = text && parseSettings(*text, settings);
-  return isRead ? SettingsRead::read : SettingsRead::damaged;
+  if (!text) return SettingsRead::unreadable;
+  return parseSettings(*text, settings) ? SettingsRead::read : SettingsRead::damaged;
 }
 
 bool writeSettingsFile(const std::string& prefix, const Settings& settings, FileSystem& files) {

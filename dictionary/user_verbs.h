@@ -54,6 +54,9 @@ class UserVerbsFile final : public engine::UserVerbs {
   // The infinitive of every readable record as it is kept, in file order.
   [[nodiscard]] std::vector<std::string> infinitives();
 
+  // The stored number of verbs, where it is read only after this object has been made.
+  void startWith(std::int32_t count) { count_ = count; }
+
   // Puts back `Czas.dat` when a crash left no `Czasowniki.dat`, and removes what an interrupted
   // rewrite left beside it; called once at start-up.
   void recoverAfterCrash();

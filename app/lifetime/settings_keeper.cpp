@@ -18,6 +18,8 @@ void SettingsKeeper::ReadSettings() {
     WriteDefaultSettings();
     result = read();
   }
+  isFileUnread_ = result == SettingsRead::unreadable;
+  needs_.userVerbs.startWith(settings_.userVerbCount);
   if (result == SettingsRead::read)
     needs_.colours.applyTo({settings_.moodColour, settings_.tenseColour});
   else  // also where the file could not be created
@@ -41,10 +43,12 @@ dictionary::Settings SettingsKeeper::current() {
           .runCount = settings_.runCount};
 }
 
-void SettingsKeeper::SaveSettings() { write(current()); }
+void SettingsKeeper::SaveSettings() {
+  if (!saveSilently()) needs_.messages.show(MessageId::settingsNotWritten);
+}
 
 bool SettingsKeeper::saveSilently() {
-  return dictionary::writeSettingsFile(needs_.prefix, current(), needs_.files);
+  return !isFileUnread_ && dictionary::writeSettingsFile(needs_.prefix, current(), needs_.files);
 }
 
 void SettingsKeeper::ResetSettings() {

@@ -34,14 +34,16 @@ class SettingsKeeper {
   };
   explicit SettingsKeeper(Needs needs) : needs_(std::move(needs)) {}
 
-  // Reads the file, which is created first when there is none, and applies its colours. Of a
-  // damaged file what stands before the damage is taken, and the colours stay as they are.
+  // Reads the file, which is created first when there is none, applies its colours and gives the
+  // user's verbs their number. Of a damaged file what stands before the damage is taken, and the
+  // colours stay as they are.
   void ReadSettings();
 
   // Writes the settings of a first start; changes nothing in the running program.
   void WriteDefaultSettings();
 
-  // Writes the counters and the colours that the headings show.
+  // Writes the counters and the colours that the headings show. A file that could not be read at
+  // the start is not overwritten: that the settings are not saved is told.
   void SaveSettings();
 
   // The same where nobody can be asked or told any more; false when they could not be written.
@@ -65,6 +67,7 @@ class SettingsKeeper {
 
   Needs needs_;
   dictionary::Settings settings_;
+  bool isFileUnread_ = false;  // there is a file, and nobody knows what it holds
 };
 
 }  // namespace odmiennik::app

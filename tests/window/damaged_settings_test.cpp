@@ -10,6 +10,8 @@ using dictionary::MessageId;
 using Messages = std::vector<MessageId>;
 using testing::FaultyFiles;
 
+constexpr int kNoFaultySteps = 1000;
+
 }  // namespace
 
 class DamagedSettingsSuite : public QObject {
@@ -26,6 +28,9 @@ class DamagedSettingsSuite : public QObject {
   void aFileThatCannotBeOpenedIsToldOnce();
   void aFolderThatCannotBeWrittenToIsToldInEachOfItsPlaces();
   void aFailedSaveKeepsTheOldFileAndClosesTheProgram();
+  void aDiskThatIsSilentForAMomentHidesNoVerb();
+  void settingsThatCouldNotBeReadAreNotOverwritten();
+  void settingsThatCouldNotBeReadAreResetAllTheSame();
 
  private:
   std::unique_ptr<ProgramHome> home_;
@@ -112,6 +117,43 @@ void DamagedSettingsSuite::aFailedSaveKeepsTheOldFileAndClosesTheProgram() {
   QVERIFY(run.program.window().close());
   QCOMPARE(run.messages.shown, (Messages{MessageId::endProgram, MessageId::settingsNotWritten}));
   QCOMPARE(home_->settings(), kColouredSettings);
+  QCOMPARE(run.ends, 1);
+}
+
+// The count comes with the settings: verbs behind it are not found, and not kept by a save.
+void DamagedSettingsSuite::aDiskThatIsSilentForAMomentHidesNoVerb() {
+  home_->write("Werbolin.cfg", "1\r\n1\r\n2\r\n7\r\n1112\r\n");
+  home_->write("Czasowniki.dat", testing::lineOf("parler", {{0, "parle1"}}));
+  FaultyFiles files(kNoFaultySteps);
+  files.leaveUnanswered("presence", 1);
+  ProgramRun run(*home_, files);
+  run.program.start();
+  QVERIFY(run.messages.shown.empty());
+  run.conjugate("parler");
+  QCOMPARE(run.widget<QLineEdit>("txtCzasownik_0").text(), "parle1");
+}
+
+void DamagedSettingsSuite::settingsThatCouldNotBeReadAreNotOverwritten() {
+  home_->write("Werbolin.cfg", kColouredSettings);
+  FaultyFiles files(kNoFaultySteps);
+  files.failReadingAfter(0);
+  ProgramRun run(*home_, files);
+  run.program.start();
+  QCOMPARE(run.messages.shown, Messages{MessageId::settingsNotRead});
+  QVERIFY(run.program.window().close());
+  QCOMPARE(run.messages.shown.back(), MessageId::settingsNotWritten);
+  QCOMPARE(home_->settings(), kColouredSettings);
+}
+
+void DamagedSettingsSuite::settingsThatCouldNotBeReadAreResetAllTheSame() {
+  home_->write("Werbolin.cfg", kColouredSettings);
+  FaultyFiles files(kNoFaultySteps);
+  files.failReadingAfter(0);
+  ProgramRun run(*home_, files);
+  run.program.start();
+  run.messages.answer = dictionary::Button::ok;
+  run.program.settings().ResetSettings();
+  QCOMPARE(home_->setting(5), "10");
   QCOMPARE(run.ends, 1);
 }
 

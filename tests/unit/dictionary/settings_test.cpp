@@ -118,9 +118,9 @@ TEST_F(SettingsFile, ThatIsDamagedFillsWhatItCan) {
   EXPECT_EQ(settings_, (Settings{1, 2, -3, -4, -5}));
 }
 
-TEST_F(SettingsFile, ThatIsAFolderIsDamaged) {
+TEST_F(SettingsFile, ThatIsAFolderIsUnreadable) {
   std::filesystem::create_directory(folder_.path() / "Werbolin.cfg");
-  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::damaged);
+  EXPECT_EQ(readSettingsFile(folder_.prefix(), settings_), SettingsRead::unreadable);
   EXPECT_FALSE(writeSettingsFile(folder_.prefix(), settings_));
 }
 

@@ -99,7 +99,7 @@ TEST_F(UserVerbsInDoubt, SettingsThatCannotBeLookedForAreNotMissing) {
   Settings settings;
   for (const char* question : {"presence", "names"}) {
     files_.leaveUnanswered(question, 1);
-    EXPECT_EQ(readSettingsFile(folder_.prefix(), settings, files_), SettingsRead::damaged);
+    EXPECT_EQ(readSettingsFile(folder_.prefix(), settings, files_), SettingsRead::unreadable);
     files_.leaveUnanswered(question, 1);
     EXPECT_FALSE(writeSettingsFile(folder_.prefix(), settings, files_));
     files_.leaveUnanswered(question, 0);
