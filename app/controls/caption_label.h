@@ -11,7 +11,8 @@ class CaptionLabel final : public QLabel {
   Q_OBJECT
 
  public:
-  explicit CaptionLabel(QWidget* parent);
+  // As it is designed, where its text fits: nothing is measured at the start of the program.
+  CaptionLabel(const QString& text, const QRect& place, const QFont& font, QWidget* parent);
 
   // Plain text, not mark-up.
   void showText(const QString& text);

@@ -20,10 +20,7 @@ QString objectName(const ControlRow& row) {
 }
 
 QWidget* createLabel(const ControlRow& row, QWidget& surface) {
-  auto* label = new CaptionLabel(&surface);
-  label->stand(place(row), fontOf(row));
-  label->showText(fromUtf8(row.caption));
-  return label;
+  return new CaptionLabel(fromUtf8(row.caption), place(row), fontOf(row), &surface);
 }
 
 QWidget* createBox(const ControlRow& row, QWidget& surface, const QValidator& letters) {

@@ -104,9 +104,10 @@ bool FormBox::isClipped() const { return fontMetrics().horizontalAdvance(text())
 
 // Letters of whole pixels can be wider together than their width in percent says.
 int FormBox::neededWidth() const {
+  if (!isReadOnly() || text().isEmpty()) return kNatural;
   const int natural = QFontMetrics(formFont_).horizontalAdvance(text());
   const int available = room();
-  if (!isReadOnly() || natural <= available) return kNatural;
+  if (natural <= available) return kNatural;
   const int least = leastWidth(formFont_, devicePixelRatioF());
   int percent = std::max(least, kNatural * available / natural);
   const auto isTooWide = [&] {
