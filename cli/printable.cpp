@@ -2,6 +2,7 @@
 #include "dictionary/printable.h"
 
 #include <algorithm>
+#include <array>
 
 #include "cli/format.h"
 #include "engine/windows1252.h"
@@ -9,9 +10,15 @@
 namespace odmiennik::cli {
 namespace {
 
-bool acts(char letter) {
-  return dictionary::actsOnTerminal(engine::kCodePointOfByte[static_cast<unsigned char>(letter)]);
-}
+// By bytes of Windows-1252, so that no letter of a form is searched for.
+constexpr std::array<bool, 256> kActs = [] {
+  std::array<bool, 256> acts{};
+  for (std::size_t byte = 0; byte < acts.size(); ++byte)
+    acts[byte] = dictionary::actsOnTerminal(engine::kCodePointOfByte[byte]);
+  return acts;
+}();
+
+bool acts(char letter) { return kActs[static_cast<unsigned char>(letter)]; }
 
 }  // namespace
 
