@@ -39,17 +39,19 @@ auto isKeptAs(std::string_view infinitive) {
 
 UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxes& messages,
                              FileSystem& files)
-    : prefix_(std::move(prefix)), count_(count), messages_(messages), files_(files) {}
+    : prefix_(std::move(prefix)),
+      newFile_(pathOf(prefix_ + std::string(kVerbs))),
+      count_(count),
+      messages_(messages),
+      files_(files) {}
 
 FoundFile UserVerbsFile::find() const { return findFile(prefix_, kVerbs, files_); }
-
-fs::path UserVerbsFile::newFile() const { return pathOf(prefix_ + std::string(kVerbs)); }
 
 // The first record that differs by its prefix only is taken on the way, lest the file be read
 // twice.
 bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
                          std::uint8_t& storedAux) {
-  if (count_ <= 0 && files_.presence(newFile()) == Presence::notThere) return false;
+  if (count_ <= 0 && files_.presence(newFile_) == Presence::notThere) return false;
   const FoundFile found = find();
   takeNoticeOf(found.path);
   const std::string_view key = engine::withoutReflexivePrefix(infinitive);
@@ -148,7 +150,7 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
 // place of the old.
 CopyResult UserVerbsFile::rewriteInTurn(const Rewrite& rewrite) {
   constexpr int kTries = 5;
-  const auto lock = files_.lock(folderOf(newFile()));
+  const auto lock = files_.lock(folderOf(newFile_));
   for (int tries = 0; lock && tries < kTries; ++tries) {
     const auto target = fileToReplace(files_, find());
     if (!target) break;
@@ -247,11 +249,11 @@ void UserVerbsFile::putBackPrevious() {
   std::error_code fault;
   const bool isOrdinary = fs::is_regular_file(previous.path, fault);
   if (!isOrdinary && !fault) return;
-  if (!isOrdinary || !files_.moveToNew(previous.path, newFile())) {
+  if (!isOrdinary || !files_.moveToNew(previous.path, newFile_)) {
     messages_.show(MessageId::userVerbsNotRestored);
     return;
   }
-  files_.syncFolder(folderOf(newFile()));
+  files_.syncFolder(folderOf(newFile_));
 }
 
 void UserVerbsFile::showDamage(std::int64_t record) {

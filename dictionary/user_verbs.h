@@ -74,7 +74,6 @@ class UserVerbsFile final : public engine::UserVerbs {
   using Rewrite = std::function<CopyResult(const ReplacedFile& target)>;
 
   [[nodiscard]] FoundFile find() const;
-  [[nodiscard]] std::filesystem::path newFile() const;
   bool visitRecords(const FoundFile& found, std::int64_t limit, const Visit& isEnough);
   void takeNoticeOf(const std::filesystem::path& file);
   [[nodiscard]] std::optional<std::int64_t> recordsIn(const std::filesystem::path& file);
@@ -89,6 +88,7 @@ class UserVerbsFile final : public engine::UserVerbs {
   void showUnreadable();
 
   std::string prefix_;
+  std::filesystem::path newFile_;  // where the first save puts it
   std::int32_t count_;
   MessageBoxes& messages_;
   FileSystem& files_;
