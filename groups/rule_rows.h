@@ -77,4 +77,11 @@ struct EndingRow {
   Claim claim;
 };
 
+// What the norm writes over a verb's forms: for this verb alone, or for all that end so.
+struct NormRow {
+  std::string_view ending;  // Windows-1252
+  bool isWholeVerb;
+  std::uint8_t model;  // position among the norm's models
+};
+
 }  // namespace odmiennik::groups

@@ -19,6 +19,12 @@ void generateVerbIndex(const Paths& sources, std::ostream& out);
 // A dispatch and its models -> a header of constant tables; the first word of the names is given.
 void generateRules(const std::string& group, const Paths& sources, std::ostream& out);
 
+// norm/strings.txt, norm/lists.txt -> texts, lists of verbs and participles of the norm.
+void generateNormTexts(const Paths& sources, std::ostream& out);
+
+// norm/models.txt, norm/verbs.txt -> a header: what the norm writes over the forms, and for whom.
+void generateNormModels(const Paths& sources, std::ostream& out);
+
 // messages.txt -> a header: an enumeration of the messages and their table.
 void generateMessages(const Paths& sources, std::ostream& out);
 

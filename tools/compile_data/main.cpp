@@ -24,6 +24,8 @@ const std::map<std::string, Generator> kGenerators{
     {"verb-index", odmiennik::tools::generateVerbIndex},
     {"first-group", rulesOf("FirstGroup")},
     {"other-groups", rulesOf("OtherGroups")},
+    {"norm-texts", odmiennik::tools::generateNormTexts},
+    {"norm-models", odmiennik::tools::generateNormModels},
     {"messages", odmiennik::tools::generateMessages},
     {"hints", odmiennik::tools::generateHints},
     {"window", odmiennik::tools::generateWindow},

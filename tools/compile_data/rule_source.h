@@ -1,6 +1,7 @@
 // The source of the rules: models as steps, and dispatches that choose among them.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,10 @@ struct SourceRow {
 // Adds the models of a file, in the notation that its first line names: "notation steps", the steps
 // in the order in which they are done, or "notation table", what differs from the common sequence.
 void readModels(const std::string& path, std::vector<SourceModel>& models);
+
+// Writes the models as a constant table, "k", `group` and "Models".
+void writeModels(std::ostream& out, const std::string& group,
+                 const std::vector<SourceModel>& models);
 
 [[nodiscard]] std::vector<SourceRow> readDispatch(const std::string& path,
                                                   const std::vector<SourceModel>& models);

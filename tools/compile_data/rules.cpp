@@ -37,6 +37,8 @@ void writeModelArrays(std::ostream& out, const SourceModel& model, const std::st
   out << "};\n";
 }
 
+}  // namespace
+
 void writeModels(std::ostream& out, const std::string& group,
                  const std::vector<SourceModel>& models) {
   std::ostringstream rows;
@@ -51,6 +53,8 @@ void writeModels(std::ostream& out, const std::string& group,
   }
   out << "inline constexpr Model k" << group << "Models[] = {\n" << rows.str() << "};\n";
 }
+
+namespace {
 
 void writeDispatch(std::ostream& out, const std::string& group,
                    const std::vector<SourceRow>& rows) {
