@@ -18,9 +18,9 @@ void completeFuture(FormTable& forms) {
   buildFuture(forms, infinitive.ends_with("e") ? less(infinitive, 1) : infinitive);
 }
 
-void completeCompoundTenses(FormTable& forms, std::uint8_t auxiliary) {
+void completeCompoundTenses(FormTable& forms, std::uint8_t auxiliary, Agreement agreement) {
   if (isBase(forms[slot::kPastParticiple]) && hasCompoundPlaceholder(forms))
-    buildCompoundTenses(forms, auxiliary, {.placeholdersOnly = true});
+    buildCompoundTenses(forms, auxiliary, {.placeholdersOnly = true, .agreement = agreement});
 }
 
 void completePresentSubjunctive(FormTable& forms) {
@@ -41,11 +41,11 @@ void completePresentParticiple(FormTable& forms) {
 
 }  // namespace
 
-void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary) {
+void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary, Agreement agreement) {
   if (forms.isPlaceholder(slot::kImperfect)) completeImperfect(forms);
   if (forms.isPlaceholder(slot::kFuture)) completeFuture(forms);
   if (forms.isPlaceholder(slot::kImperative)) buildImperative(forms);
-  completeCompoundTenses(forms, auxiliary);
+  completeCompoundTenses(forms, auxiliary, agreement);
   if (forms.isPlaceholder(slot::kPresentSubjunctive)) completePresentSubjunctive(forms);
   if (forms.isPlaceholder(slot::kPastHistoric)) buildPastHistoric(forms);
   if (forms.isPlaceholder(slot::kPresentConditional)) completeConditional(forms);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "engine/flags.h"
 #include "engine/form_table.h"
 
 namespace odmiennik::engine {
@@ -11,6 +12,7 @@ namespace odmiennik::engine {
 // conditional the future, the imperfect subjunctive the passé simple. Only the first slot of a
 // tense is looked at: the tense is completed wholly or not at all. A "*" without anything to derive
 // it from (no participle, no base) stays.
-void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary);
+void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary,
+                        Agreement agreement = Agreement::system);
 
 }  // namespace odmiennik::engine

@@ -5,17 +5,21 @@
 #include <array>
 #include <string>
 
-#include "engine/flags.h"
+#include "engine/norm.h"
 #include "engine/string_table.h"
 
 namespace odmiennik::engine {
 namespace {
 
+// Of whom the participle is said.
+enum Number : std::uint8_t { one, several, either };
+
 // A compound slot and the auxiliary's form that opens it.
 struct CompoundSlot {
   std::int8_t slot;
   std::int8_t auxiliaryIndex;
-  bool isPlural;
+  Number number;
+  Number numberInNorm;
 };
 
 constexpr auto kCompoundSlots = [] {
@@ -32,32 +36,59 @@ constexpr auto kCompoundSlots = [] {
       {slot::kPastConditional1, auxiliary_index::kPresentConditional},
       {slot::kPastConditional2, auxiliary_index::kImperfectSubjunctive},
   };
-  // The single forms carry no plural s, not even the imperative's nous and vous.
+  // deliberate: the system's single forms carry no plural s, not even the imperative's nous and
+  // vous.
   constexpr CompoundSlot kSingles[] = {
-      {slot::kPastInfinitive, auxiliary_index::kInfinitive, false},
-      {slot::kCompoundParticiple, auxiliary_index::kPresentParticiple, false},
-      {slot::kPastImperative, auxiliary_index::kPresentSubjunctive, false},
-      {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, false},
-      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, false},
+      {slot::kPastInfinitive, auxiliary_index::kInfinitive, one, either},
+      {slot::kCompoundParticiple, auxiliary_index::kPresentParticiple, one, either},
+      {slot::kPastImperative, auxiliary_index::kPresentSubjunctive, one, one},
+      {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, one, several},
+      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, one, either},
   };
   std::array<CompoundSlot, std::size(kRuns) * kPersonCount + std::size(kSingles)> rows{};
   auto row = rows.begin();
   for (const Run& run : kRuns)
-    for (int person = 0; person < kPersonCount; ++person)
+    for (int person = 0; person < kPersonCount; ++person) {
+      const Number number = person < 3 ? one : several;
       *row++ = {static_cast<std::int8_t>(run.firstSlot + person),
-                static_cast<std::int8_t>(run.firstIndex + person), person >= 3};
+                static_cast<std::int8_t>(run.firstIndex + person), number, number};
+    }
   std::copy(std::begin(kSingles), std::end(kSingles), row);
   return rows;
 }();
 
 constexpr std::string_view kAgreement = "(e)";
 
-// What stands behind the auxiliary: a blank and the participle, with être the agreement marker, and
-// behind that the plural's s, which singular forms leave away.
-void setTail(std::string& tail, std::string_view base, std::uint8_t auxiliary) {
+// What stands behind the auxiliary, by Number: a blank and the participle as it agrees.
+using Tails = std::array<std::string_view, 3>;
+
+// With être the agreement marker, and behind that the plural's s, which singular forms leave away.
+Tails tailsOfSystem(std::string& tail, std::string_view bare, std::uint8_t auxiliary) {
   using namespace std::string_view_literals;
-  const std::string_view bare = base.ends_with(kAgreement) ? less(base, kAgreement.size()) : base;
   setTo(tail, " "sv, bare, auxiliary == kEtre ? "(e)s"sv : ""sv);
+  const std::string_view plural = tail;
+  return {auxiliary == kEtre ? less(tail, 1) : plural, plural, plural};
+}
+
+Tails tailsOfNorm(std::string& tail, std::string_view bare) {
+  const AgreedParticiple participle = agreed(bare);
+  tail.assign(" ").append(participle.one);
+  tail.append(" ").append(participle.several).append(" ").append(participle.either);
+  const std::string_view text = tail;
+  const std::size_t first = participle.one.size() + 1, second = participle.several.size() + 1;
+  return {text.substr(0, first), text.substr(first, second), text.substr(first + second)};
+}
+
+Tails tailsOf(std::string& tail, std::string_view base, std::uint8_t auxiliary,
+              Agreement agreement) {
+  const std::string_view bare = base.ends_with(kAgreement) ? less(base, kAgreement.size()) : base;
+  if (agreement == Agreement::norm && auxiliary == kEtre) return tailsOfNorm(tail, bare);
+  return tailsOfSystem(tail, bare, agreement == Agreement::none ? kAvoir : auxiliary);
+}
+
+std::string_view auxiliaryFormOf(std::uint8_t auxiliary, int index, bool isNorm) {
+  if (!isNorm) return auxiliaryForm(auxiliary, index);
+  return normTextOf((auxiliary + 1) * text_id::kAuxiliary + index);
 }
 
 }  // namespace
@@ -67,16 +98,15 @@ void buildCompoundTenses(FormTable& forms, std::uint8_t auxiliary, CompoundOptio
   const std::string_view base = stored.substr(0, stored.find_first_of(";/,"));
   if (base.empty()) return;
   thread_local std::string tail;  // kept between verbs for its buffer only
-  setTail(tail, base, auxiliary);
-  const std::string_view pluralTail = tail;
-  const std::string_view singularTail = auxiliary == kEtre ? less(tail, 1) : pluralTail;
+  const Tails tails = tailsOf(tail, base, auxiliary, options.agreement);
+  const bool isNorm = options.agreement != Agreement::system;
   const bool placeholdersOnly = options.placeholdersOnly || forms.isPlaceholder(slot::kPerfect);
   for (const CompoundSlot& row : kCompoundSlots) {
     std::string& form = forms[row.slot];
     if (options.keepsEmptySlots && form.empty()) continue;
     if (placeholdersOnly && form != kPlaceholder) continue;
-    setTo(form, auxiliaryForm(auxiliary, row.auxiliaryIndex),
-          row.isPlural ? pluralTail : singularTail);
+    setTo(form, auxiliaryFormOf(auxiliary, row.auxiliaryIndex, isNorm),
+          tails[isNorm ? row.numberInNorm : row.number]);
   }
 }
 

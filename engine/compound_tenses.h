@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "engine/flags.h"
 #include "engine/form_table.h"
 
 namespace odmiennik::engine {
@@ -10,6 +11,7 @@ namespace odmiennik::engine {
 struct CompoundOptions {
   bool placeholdersOnly = false;  // rewrite only slots that hold "*"
   bool keepsEmptySlots = false;   // an empty slot stays empty: the conjugation is on the screen
+  Agreement agreement = Agreement::system;
 };
 
 // Fills the compound slots from the participle in slot 99 (up to its first ";", "/" or ",") and the

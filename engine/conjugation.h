@@ -21,6 +21,7 @@ struct Conjugation {
   Conjugation(const Conjugation&) = delete;
   Conjugation& operator=(const Conjugation&) = delete;
 
+  Variety variety = Variety::system;  // given before a verb is conjugated
   FormTable forms;
   EngineFlags flags;
   VerbInformation information;

@@ -29,8 +29,8 @@ void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display
   for (int slot = 0; slot < kSlotCount; ++slot)
     shown.boxes[static_cast<std::size_t>(slot)] =
         boxText(slot, forms[slot], flags.isPronominal, isEditing);
-  chooseSubjectPronouns(forms, flags.hAspirate, shown.pronouns);
-  chooseSubjunctiveCaptions(forms, shown.captions);
+  chooseSubjectPronouns(forms, flags.hAspirate, shown.pronouns, flags.variety);
+  chooseSubjunctiveCaptions(forms, shown.captions, flags.variety);
 }
 
 }  // namespace odmiennik::engine

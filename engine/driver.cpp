@@ -3,6 +3,7 @@
 
 #include "engine/completion.h"
 #include "engine/compound_tenses.h"
+#include "engine/norm.h"
 #include "engine/normalization.h"
 
 namespace odmiennik::engine {
@@ -25,12 +26,16 @@ void keepAuxiliary(std::uint8_t chosen, Conjugation& conjugation) {
 }
 
 void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
-  if (!isEditing) completeStoredVerb(conjugation.forms, conjugation.flags.auxiliary);
+  if (isEditing) return;
+  const EngineFlags& flags = conjugation.flags;
+  completeStoredVerb(conjugation.forms, flags.auxiliary, flags.agreement);
 }
 
 // Reads slot 96 into the flags; a reflexive prefix makes the verb pronominal.
 void readInfinitive(const FormTable& forms, EngineFlags& flags) {
   flags.hAspirate = flags.isPronominal = flags.isImpersonal = false;
+  flags.adverb = Adverb::none;
+  flags.agreement = flags.variety == Variety::norm ? Agreement::norm : Agreement::system;
   normalize(forms[slot::kInfinitive], flags.normalizedInput);
 }
 
@@ -38,6 +43,39 @@ void takeReflexivePrefix(EngineFlags& flags) {
   const std::string_view bare = withoutReflexivePrefix(flags.normalizedInput);
   flags.isPronominal = bare.size() != flags.normalizedInput.size();
   flags.normalizedInput.erase(0, flags.normalizedInput.size() - bare.size());
+}
+
+// "en aller" of s'en aller: the verb is aller.
+void takeAdverb(EngineFlags& flags) {
+  const std::string_view input = flags.normalizedInput;
+  if (input.starts_with("en "))
+    flags.adverb = Adverb::en;
+  else if (input.starts_with("y "))
+    flags.adverb = Adverb::y;
+  flags.normalizedInput.erase(0, flags.adverb == Adverb::none ? 0 : input.find(' ') + 1);
+}
+
+// What the norm knows of a reflexive verb, before its adverb is taken off.
+void readReflexiveOfNorm(EngineFlags& flags) {
+  if (isParticipleInvariable(flags.normalizedInput)) flags.agreement = Agreement::none;
+  takeAdverb(flags);
+}
+
+void applyNormTo(EngineFlags& flags, VerbInformation& information) {
+  if (flags.isPronominal && isImpersonalReflexive(flags.normalizedInput))
+    flags.isImpersonal = true;
+  else if (!flags.isPronominal && information.chkZAvoir.isEnabled &&
+           isUsuallyWithEtre(flags.normalizedInput))
+    setAuxiliary(kEtre, flags, information);
+}
+
+void agreeParticiple(Conjugation& conjugation) {
+  std::string& participle = conjugation.forms[slot::kPastParticiple];
+  constexpr std::string_view kMarker = "(e)";
+  if (conjugation.flags.agreement == Agreement::norm)
+    participle = agreedAlone(participle);
+  else if (participle.ends_with(kMarker))
+    participle.resize(participle.size() - kMarker.size());
 }
 
 }  // namespace
@@ -72,13 +110,17 @@ void Driver::toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEdit
   setAuxiliary(isAvoir ? kAvoir : kEtre, conjugation.flags, conjugation.information);
   if (isEditing) return;
   buildCompoundTenses(conjugation.forms, conjugation.flags.auxiliary,
-                      {.keepsEmptySlots = conjugation.flags.isConjugationShown});
+                      {.keepsEmptySlots = conjugation.flags.isConjugationShown,
+                       .agreement = conjugation.flags.agreement});
   display(conjugation.forms, conjugation.flags, isEditing, conjugation.shown);
 }
 
 void Driver::show(Conjugation& conjugation, bool isEditing) {
   EngineFlags& flags = conjugation.flags;
-  if (flags.isPronominal) addReflexivePronouns(conjugation.forms, flags.hAspirate);
+  if (flags.isPronominal && flags.variety == Variety::norm)
+    addReflexivePronounsOfNorm(conjugation.forms, flags);
+  else if (flags.isPronominal)
+    addReflexivePronouns(conjugation.forms, flags.hAspirate);
   display(conjugation.forms, flags, isEditing, conjugation.shown);
   flags.isPronominal = false;
 }
@@ -88,6 +130,7 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
   conjugation.source = Source::none;
   conjugation.model = {};
   conjugation.storedInfinitive.clear();
+  flags.variety = isEditing ? Variety::system : conjugation.variety;
   readInfinitive(conjugation.forms, flags);
   if (flags.normalizedInput == kResetWord) {
     ports_.shell.resetSettings();
@@ -95,9 +138,12 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
   }
   const std::string infinitive = flags.normalizedInput;
   takeReflexivePrefix(flags);
+  const bool isNorm = flags.variety == Variety::norm;
+  if (isNorm && flags.isPronominal) readReflexiveOfNorm(flags);
   const std::string_view record = ports_.index.record(flags.normalizedInput);
   applyRecord(record, flags, conjugation.information);
   if (flags.isPronominal) applyPronominal(flags, conjugation.information);
+  if (isNorm) applyNormTo(flags, conjugation.information);
   if (chosen) keepAuxiliary(*chosen, conjugation);
   if (loadUserVerb(conjugation, infinitive, isEditing) || loadBuiltinVerb(conjugation, isEditing))
     return Outcome::conjugated;
@@ -108,6 +154,7 @@ bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive,
   EngineFlags& flags = conjugation.flags;
   if (!ports_.userVerbs.load(infinitive, conjugation.forms, flags.storedAux)) return false;
   conjugation.storedInfinitive = conjugation.forms[slot::kInfinitive];
+  flags.adverb = Adverb::none;  // as it is stored
   flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
   flags.isImpersonal = false;
   applyStoredVerb(flags, conjugation.information);
@@ -119,6 +166,8 @@ bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive,
 bool Driver::loadBuiltinVerb(Conjugation& conjugation, bool isEditing) {
   if (!ports_.builtinVerbs.load(conjugation.flags.normalizedInput, conjugation.forms)) return false;
   completeUnlessEditing(conjugation, isEditing);
+  if (conjugation.flags.variety == Variety::norm)
+    ports_.rules.applyNorm(conjugation.forms, conjugation.flags.auxiliary, true);
   conjugation.source = Source::builtin;
   return true;
 }
@@ -139,7 +188,11 @@ Outcome Driver::conjugateByRule(Conjugation& conjugation, bool isKnown, bool isE
   conjugation.source = result.model.empty() ? Source::none : Source::rule;
   const bool isNewVerb = isEditing && flags.normalizedInput.empty();
   if (!isKnown && !isNewVerb) ports_.shell.show(Notice::conjugatedRegularly);
-  buildCompoundTenses(forms, flags.auxiliary, {});
+  if (flags.variety == Variety::norm) {
+    ports_.rules.applyNorm(forms, flags.auxiliary, false);
+    agreeParticiple(conjugation);
+  }
+  buildCompoundTenses(forms, flags.auxiliary, {.agreement = flags.agreement});
   return Outcome::conjugated;
 }
 

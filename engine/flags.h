@@ -10,6 +10,16 @@ namespace odmiennik::engine {
 inline constexpr std::uint8_t kEtre = 0;
 inline constexpr std::uint8_t kAvoir = 1;
 
+// Which forms are asked for: the system's own, oddities included, or those of today's norm.
+enum class Variety : std::uint8_t { system, norm };
+
+// How the participle behind être is written: as the system does it, as the norm does, or not
+// agreed at all.
+enum class Agreement : std::uint8_t { system, norm, none };
+
+// What stands between the reflexive pronoun and the verb and belongs to it: s'en aller.
+enum class Adverb : std::uint8_t { none, en, y };
+
 struct EngineFlags {
   std::uint8_t auxiliary = kAvoir;
   std::uint8_t storedAux = kAvoir;  // as read from a record of the user's own verbs
@@ -17,7 +27,11 @@ struct EngineFlags {
   bool isImpersonal = false;
   bool hAspirate = false;
   bool isConjugationShown = false;  // false while one is being built
-  std::string normalizedInput;      // trimmed, lower-cased, without "se " or "s'"
+  Variety variety = Variety::system;
+  Agreement agreement = Agreement::system;
+  Adverb adverb =
+      Adverb::none;  // of the norm only: the system reads s'en aller as a verb "en aller"
+  std::string normalizedInput;  // trimmed, lower-cased, without "se " or "s'"
 };
 
 }  // namespace odmiennik::engine

@@ -53,6 +53,9 @@ class RuleSets {
   // For any other; while a verb is being edited, no ending is refused.
   [[nodiscard]] virtual RuleResult conjugateByEnding(FormTable& forms, std::uint8_t auxiliary,
                                                      bool isEditing) const = 0;
+  // Writes today's norm over the simple forms of a verb that the rules have conjugated, or one that
+  // is built in; slot 96 holds the infinitive. What does not depart stays.
+  virtual void applyNorm(FormTable& forms, std::uint8_t auxiliary, bool isBuiltin) const = 0;
 };
 
 enum class Notice : std::uint8_t {

@@ -2,6 +2,7 @@
 #include "engine/pronouns.h"
 
 #include "engine/french.h"
+#include "engine/norm.h"
 #include "engine/normalization.h"
 #include "engine/string_table.h"
 
@@ -14,6 +15,8 @@ constexpr std::array<bool, 256> kIsVowel = [] {
   for (const char vowel : "aâèéeêioôuy"_fr) isVowel[static_cast<unsigned char>(vowel)] = true;
   return isVowel;
 }();
+
+bool isVowel(char letter) { return kIsVowel[static_cast<unsigned char>(letter)]; }
 
 // deliberate: ns and vs are abbreviated, the other persons are not.
 constexpr std::string_view kSubjects[kPersonCount] = {"je", "tu", "il", "ns", "vs", "ils"};
@@ -49,17 +52,40 @@ bool takesReflexive(int slot, const std::string& form) {
          withoutOwnReflexive(slot, form).size() == form.size();
 }
 
+constexpr int kThirdPerson = 2;
+
+std::string_view encliticInNorm(int slot, Adverb adverb) {
+  if (adverb == Adverb::none) return encliticOf(slot);
+  return kEncliticsBeforeAdverb[slot - slot::kImperative][adverb == Adverb::en ? 0 : 1];
+}
+
+// To either half of "assois/assieds"; a half that stands for a missing form has none.
+void appendEnclitics(std::string& form, std::string_view enclitic) {
+  const auto bar = form.find('/');
+  if (bar != std::string::npos && form.substr(0, bar) != kShownMissing) form.insert(bar, enclitic);
+  form.append(enclitic);
+}
+
+// "me ", "m'", "m'en ", "nous y ": what stands before the form.
+std::string reflexiveInNorm(int slot, std::string_view form, const EngineFlags& flags) {
+  if (flags.adverb == Adverb::none)
+    return std::string(reflexiveOf(slot, elides(form, flags.hAspirate, Variety::norm)));
+  return std::string(reflexiveOf(slot, true)) + (flags.adverb == Adverb::en ? "en " : "y ");
+}
+
 // The infinitives and the compound participle: "se " or "s'".
 void prependThirdPerson(std::string& form, bool hAspirate) {
-  constexpr int kThirdPerson = 2;
   form.insert(0, reflexiveOf(kThirdPerson, elides(form, hAspirate)));
 }
 
 }  // namespace
 
-bool elides(std::string_view form, bool hAspirate) {
+bool elides(std::string_view form, bool hAspirate, Variety variety) {
   if (form.empty()) return false;
-  return form[0] == 'h' ? !hAspirate : kIsVowel[static_cast<unsigned char>(form[0])];
+  if (form[0] == 'h') return !hAspirate;
+  if (variety == Variety::norm && form[0] == "œ"_fr[0]) return true;
+  if (variety == Variety::norm && form[0] == 'y') return form.size() > 1 && !isVowel(form[1]);
+  return isVowel(form[0]);
 }
 
 std::string_view withoutOwnReflexive(int slot, std::string_view form) {
@@ -89,19 +115,35 @@ void addReflexivePronouns(FormTable& forms, bool hAspirate) {
   for (int slot = slot::kPastImperative; slot < slot::kInfinitive; ++slot) forms[slot].clear();
 }
 
-void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns) {
+void addReflexivePronounsOfNorm(FormTable& forms, const EngineFlags& flags) {
+  for (int slot = 0; slot < kSlotCount; ++slot) {
+    std::string& form = forms[slot];
+    if (!takesReflexive(slot, form)) continue;
+    if (isImperative(slot))
+      appendEnclitics(form, encliticInNorm(slot, flags.adverb));
+    else if (isPersonal(slot) || (slot >= slot::kInfinitive && slot != slot::kPastParticiple))
+      form.insert(0, reflexiveInNorm(isPersonal(slot) ? slot : kThirdPerson, form, flags));
+  }
+  for (int slot = slot::kPastImperative; slot < slot::kInfinitive; ++slot) forms[slot].clear();
+}
+
+void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns,
+                           Variety variety) {
   for (int slot = 0; slot < kPersonalSlotCount; slot += kPersonCount) {
     for (int person = 0; person < kPersonCount; ++person)
       pronouns[static_cast<std::size_t>(slot + person)] = kSubjects[person];
-    if (elides(forms[slot], hAspirate)) pronouns[static_cast<std::size_t>(slot)] = kElidedJe;
+    if (elides(forms[slot], hAspirate, variety))
+      pronouns[static_cast<std::size_t>(slot)] = kElidedJe;
   }
 }
 
-void chooseSubjunctiveCaptions(const FormTable& forms, SubjunctiveCaptions& captions) {
+void chooseSubjunctiveCaptions(const FormTable& forms, SubjunctiveCaptions& captions,
+                               Variety variety) {
   const bool isFalloir = forms[slot::kInfinitive] == "falloir";
   const int first = isFalloir ? text_id::kFalloirCaption : text_id::kSubjunctiveCaption;
-  for (std::size_t i = 0; i < captions.size(); ++i)
-    captions[i] = textOf(first + static_cast<int>(i));
+  for (int i = 0; i < static_cast<int>(captions.size()); ++i)
+    captions[static_cast<std::size_t>(i)] =
+        variety == Variety::norm ? normTextOf(first + i) : textOf(first + i);
 }
 
 }  // namespace odmiennik::engine

@@ -4,18 +4,25 @@
 #include <array>
 #include <string_view>
 
+#include "engine/flags.h"
 #include "engine/form_table.h"
 
 namespace odmiennik::engine {
 
 // Whether a pronoun elides before `form`: it begins with one of "aâèéeêioôuy", or with an h that is
-// not aspirated. Capitals, à, î, û, ë, ï and œ do not elide.
-[[nodiscard]] bool elides(std::string_view form, bool hAspirate);
+// not aspirated. Capitals, à, î, û, ë, ï and œ do not elide. In the norm œ does, and y only before
+// a consonant: j'œuvre, j'ypérite, je yodle.
+[[nodiscard]] bool elides(std::string_view form, bool hAspirate, Variety variety = Variety::system);
 
 // Writes reflexive pronouns into the table: "laves" -> "te laves", "lave" -> "lave-toi", "laver" ->
 // "se laver". The impératif passé becomes empty; slot 99, "*", empty slots and slots that already
 // have their pronoun stay as they are.
 void addReflexivePronouns(FormTable& forms, bool hAspirate);
+
+// The same in the norm: either half of a double imperative has its pronoun,
+// "assois-toi/assieds-toi", and "en" or "y" stands behind the pronoun: "m'en vais", "va-t'en",
+// "s'en aller".
+void addReflexivePronounsOfNorm(FormTable& forms, const EngineFlags& flags);
 
 // Whether `form` may carry a reflexive pronoun: "me ", "m'", "nous " and their like end in a blank
 // or an apostrophe at one of three places. A glance that settles most forms; only the imperative's
@@ -37,10 +44,12 @@ using SubjectPronouns = std::array<std::string_view, kPersonalSlotCount>;
 using SubjunctiveCaptions = std::array<std::string_view, 4>;
 
 // "je" or "j'", "tu", "il", "ns", "vs", "ils" for slots 0 to 89, without a blank behind them.
-void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns);
+void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns,
+                           Variety variety = Variety::system);
 
 // The captions above the subjunctive blocks: "Il faut que ...", for falloir "Il ne crois pas que
 // ...".
-void chooseSubjunctiveCaptions(const FormTable& forms, SubjunctiveCaptions& captions);
+void chooseSubjunctiveCaptions(const FormTable& forms, SubjunctiveCaptions& captions,
+                               Variety variety = Variety::system);
 
 }  // namespace odmiennik::engine

@@ -16,6 +16,8 @@ class VerbGroups final : public engine::RuleSets {
   [[nodiscard]] engine::RuleResult conjugateByEnding(engine::FormTable& forms,
                                                      std::uint8_t auxiliary,
                                                      bool isEditing) const override;
+
+  void applyNorm(engine::FormTable& forms, std::uint8_t auxiliary, bool isBuiltin) const override;
 };
 
 }  // namespace odmiennik::groups

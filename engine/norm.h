@@ -1,0 +1,35 @@
+// Today's norm where the program's own forms depart from it: what is known beside the rules.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/flags.h"
+
+namespace odmiennik::engine {
+
+// The text of `identifier` as the norm has it: normTextOf(2041) -> "auraient"; most entries are the
+// string table's own.
+[[nodiscard]] std::string_view normTextOf(int identifier);
+
+// Of a verb that has both auxiliaries: whether its usual one is être ("tomber").
+[[nodiscard]] bool isUsuallyWithEtre(std::string_view infinitive);
+
+// What the norm knows of a reflexive verb, asked for by its infinitive without "se" ("agir"; with
+// "en" or "y" where they belong to the verb, "en vouloir").
+[[nodiscard]] bool isParticipleInvariable(std::string_view infinitive);
+[[nodiscard]] bool isImpersonalReflexive(std::string_view infinitive);
+
+// A participle with être, as it is written for one, for several and where it may be either:
+// "allé" -> "allé(e)", "allé(e)s", "allé(e)(s)"; "assis" -> "assis(e)", "assis(es)", "assis(e,
+// es)"; "dû" -> "dû/due", "dus/dues", "dû/due/dus/dues".
+struct AgreedParticiple {
+  std::string one, several, either;
+};
+[[nodiscard]] AgreedParticiple agreed(std::string_view participle);
+
+// The participle's box of a verb with être: "assis(e)" stays, "dû, due(e)" -> "dû, due",
+// "dissous(e)" -> "dissous/dissoute".
+[[nodiscard]] std::string agreedAlone(std::string_view participle);
+
+}  // namespace odmiennik::engine
