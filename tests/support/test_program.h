@@ -40,6 +40,9 @@ class TestProgram {
   // Verbs that are built in are left to the rules from now on.
   void forgetBuiltinVerbs() { builtinVerbs_.isForgotten = true; }
 
+  // Today's norm is asked for from now on.
+  void followNorm() { conjugation_.variety = engine::Variety::norm; }
+
   engine::Outcome conjugate(std::string_view typed);
   engine::Outcome edit(std::string_view typed);
   void chooseAuxiliary(std::uint8_t auxiliary, bool isEditing = false);
