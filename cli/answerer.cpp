@@ -12,7 +12,9 @@ std::string_view RecordSource::record(std::string_view infinitive) {
 Answerer::Answerer(engine::UserVerbs& userVerbs, MessageLog& messages, AnswerOptions options)
     : messages_(messages),
       options_(options),
-      driver_({records_, userVerbs, builtinVerbs_, rules_, messages}) {}
+      driver_({records_, userVerbs, builtinVerbs_, rules_, messages}) {
+  conjugation_.variety = options.variety;
+}
 
 Answer Answerer::answer(const Question& question) {
   beginAsJustStarted();

@@ -40,6 +40,7 @@ class RecordSource final : public engine::VerbIndex {
 struct AnswerOptions {
   bool isEditing = false;
   std::optional<std::uint8_t> auxiliary;  // the click on the auxiliary's box that follows
+  engine::Variety variety = engine::Variety::system;
 };
 
 class Answerer {

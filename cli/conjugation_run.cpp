@@ -2,6 +2,7 @@
 #include "cli/conjugation_run.h"
 
 #include "dictionary/spelling.h"
+#include "dictionary/verb_index.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -38,15 +39,20 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
       console_(console),
       files_(findProgramFiles(options.folder, console)),
       userVerbs_(files_.prefix, files_.userVerbCount, messages_),
-      answerer_(userVerbs_, messages_, {options.isEditing, options.auxiliary}),
-      format_(formatOf(options, console)) {}
+      answerer_(userVerbs_, messages_,
+                {options.isEditing, options.auxiliary,
+                 options.isInNorm ? engine::Variety::norm : engine::Variety::system}),
+      format_(formatOf(options, console)) {
+  if (options.listsDepartures) departures_.emplace(userVerbs_, messages_);
+}
 
 ExitStatus ConjugationRun::answerAll() {
-  format_->begin(console_.out().text());
-  if (options_.infinitives.empty())
-    answerInput();
-  else
+  std::string& out = console_.out().text();
+  departures_ ? Departures::begin(out) : format_->begin(out);
+  if (!options_.infinitives.empty())
     answerArguments();
+  else
+    departures_ ? answerIndex() : answerInput();
   if (files_.hasTrouble || hasInputTrouble_ || messages_.hasFileTrouble())
     return ExitStatus::fileTrouble;
   return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
@@ -74,10 +80,22 @@ void ConjugationRun::answerInput() {
   console_.complain("nie można czytać standardowego wejścia.");
 }
 
+// Every verb of the index, from a to z.
+void ConjugationRun::answerIndex() {
+  std::size_t number = 0;
+  for (char letter = 'a'; letter <= 'z'; ++letter)
+    for (int k = 1; k <= dictionary::verbCount(letter); ++k) {
+      const std::string verb = engine::toUtf8(dictionary::verbOfLetter(letter, k));
+      answer({++number, verb, false}, "argument");
+    }
+}
+
 void ConjugationRun::answer(const InputLine& line, std::string_view lineName) {
   const Question question = questionOf(line);
-  const Answer answered = answerer_.answer(question);
-  format_->append(console_.out().text(), answered);
+  std::string& out = console_.out().text();
+  const Answer answered =
+      departures_ ? departures_->append(out, question) : answerer_.answer(question);
+  if (!departures_) format_->append(out, answered);
   console_.out().flushIfLarge();
   hasRefused_ = hasRefused_ || answered.isRefused;
   if (question.fault != QuestionFault::none)

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "cli/answerer.h"
 #include "cli/console.h"
+#include "cli/departures.h"
 #include "cli/format.h"
 #include "cli/options.h"
 #include "cli/program_files.h"
@@ -23,6 +25,7 @@ class ConjugationRun {
  private:
   void answerArguments();
   void answerInput();
+  void answerIndex();
   void answer(const InputLine& line, std::string_view lineName);
   void suggestSpelling(const Question& question);
 
@@ -33,6 +36,7 @@ class ConjugationRun {
   dictionary::UserVerbsFile userVerbs_;
   Answerer answerer_;
   std::unique_ptr<Format> format_;
+  std::optional<Departures> departures_;  // listed in the place of the format
   bool hasRefused_ = false;
   bool hasInputTrouble_ = false;
 };

@@ -1,6 +1,8 @@
 // The command line as a table of options.
 #include "cli/options.h"
 
+#include <utility>
+
 #include "cli/page.h"
 #include "engine/flags.h"
 
@@ -56,6 +58,8 @@ bool takeLetter(Options& options, std::string_view value) {
 }
 
 bool takeEditing(Options& options, std::string_view) { return options.isEditing = true; }
+bool takeNorm(Options& options, std::string_view) { return options.isInNorm = true; }
+bool takeDepartures(Options& options, std::string_view) { return options.listsDepartures = true; }
 
 constexpr OptionRow kOptions[] = {
     {"--format", "text|tsv|json", takeFormat, "postać wyniku (domyślnie text)"},
@@ -63,6 +67,8 @@ constexpr OptionRow kOptions[] = {
     {"--auxiliary", "avoir|etre", takeAuxiliary,
      "przełącz potem czasownik posiłkowy czasów złożonych"},
     {"--edit", "", takeEditing, "odmień jak przy edycji czasownika"},
+    {"--norm", "", takeNorm, "odmień według dzisiejszej normy"},
+    {"--departures", "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
     {"--list", "LITERA", takeLetter, "wypisz czasowniki spisu na tę literę (a-z)"},
     {"--complete", "POCZĄTEK", takeTask<Task::complete>, "dokończ bezokolicznik według spisu"},
     {"--record", "BEZOKOLICZNIK", takeTask<Task::record>, "wypisz dane czasownika ze spisu"},
@@ -104,6 +110,23 @@ std::string takeOption(Options& options, std::span<const std::string>& rest) {
   return {};
 }
 
+// The options of a conjugation that cannot be had together.
+std::string faultOfChoice(const Options& options) {
+  const std::pair<bool, std::string_view> kinds[] = {{options.isEditing, "--edit"},
+                                                     {options.isInNorm, "--norm"},
+                                                     {options.listsDepartures, "--departures"}};
+  std::string_view before;
+  for (const auto& [isGiven, name] : kinds) {
+    if (isGiven && !before.empty())
+      return "opcja " + quoted(name) + " nie łączy się z " + quoted(before) + ".";
+    if (isGiven) before = name;
+  }
+  const bool isShaped = options.format != OutputFormat::text || options.auxiliary;
+  if (options.listsDepartures && isShaped)
+    return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
+  return {};
+}
+
 bool isOption(std::string_view argument) { return argument.size() > 1 && argument[0] == '-'; }
 
 }  // namespace
@@ -125,6 +148,7 @@ ParsedOptions parseOptions(std::span<const std::string> arguments) {
   }
   if (parsed.error.empty() && options.task != Task::conjugation && !options.infinitives.empty())
     parsed.error = "nadmiarowy argument " + quoted(options.infinitives.front()) + ".";
+  if (parsed.error.empty()) parsed.error = faultOfChoice(options);
   return parsed;
 }
 

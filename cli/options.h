@@ -20,6 +20,8 @@ struct Options {
   std::string_view taskText;  // the letter, the prefix or the infinitive of an index query
   OutputFormat format = OutputFormat::text;
   bool isEditing = false;
+  bool isInNorm = false;         // today's norm in the place of the system's forms
+  bool listsDepartures = false;  // only the forms in which the two differ
   std::optional<std::uint8_t> auxiliary;
   std::optional<std::string_view> folder;
   std::vector<std::string_view> infinitives;

@@ -44,6 +44,22 @@ TEST_F(options, take_their_value_behind_an_equals_sign_too) {
   EXPECT_EQ(parse({"--folder=/a=b"}).folder, "/a=b");
 }
 
+TEST_F(options, ask_for_the_norm_or_for_the_departures_from_it) {
+  EXPECT_TRUE(parse({"--norm", "lire"}).isInNorm);
+  EXPECT_TRUE(parse({"--departures", "lire"}).listsDepartures);
+  EXPECT_FALSE(parse({"lire"}).isInNorm || parse({"lire"}).listsDepartures);
+}
+
+TEST_F(options, of_forms_that_exclude_each_other_are_refused) {
+  EXPECT_EQ(errorOf({"--norm", "--edit"}), "opcja „--norm” nie łączy się z „--edit”.");
+  EXPECT_EQ(errorOf({"--departures", "--edit"}), "opcja „--departures” nie łączy się z „--edit”.");
+  EXPECT_EQ(errorOf({"--norm", "--departures"}), "opcja „--departures” nie łączy się z „--norm”.");
+  EXPECT_EQ(errorOf({"--departures", "--format", "json"}),
+            "opcja „--departures” nie łączy się z „--format” ani „--auxiliary”.");
+  EXPECT_EQ(errorOf({"--departures", "--auxiliary", "etre"}),
+            "opcja „--departures” nie łączy się z „--format” ani „--auxiliary”.");
+}
+
 TEST_F(options, behind_two_dashes_everything_is_an_infinitive) {
   EXPECT_EQ(parse({"--", "--help", "--"}).infinitives, (Verbs{"--help", "--"}));
 }

@@ -1,0 +1,29 @@
+// The forms that depart from today's norm.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "cli/answerer.h"
+
+namespace odmiennik::cli {
+
+// Answers each question twice, in the norm and as the system does, and lists where they differ.
+class Departures {
+ public:
+  Departures(engine::UserVerbs& userVerbs, MessageLog& messages);
+
+  // The header of the list.
+  static void begin(std::string& out);
+
+  // Appends a line for each form that departs (infinitive, slot, mood, tense, person, the system's
+  // phrase, the norm's) and returns the system's answer: for lire "lire\t2\t…\til lir\til lit".
+  [[nodiscard]] Answer append(std::string& out, const Question& question);
+
+ private:
+  Answerer norm_;
+  Answerer system_;
+  std::array<std::string, engine::kSlotCount> phrases_;  // the norm's
+};
+
+}  // namespace odmiennik::cli
