@@ -16,8 +16,6 @@ namespace {
 using namespace engine::literals;
 using Texts = std::vector<std::string>;
 
-constexpr std::string_view kAgreement = "(e)";
-
 bool isSubjunctive(int slot) {
   return slot >= engine::slot::kPresentSubjunctive && slot < engine::slot::kPresentConditional;
 }
@@ -33,7 +31,8 @@ bool isThirdPerson(int slot) {
 Texts split(std::string_view text) {
   Texts parts;
   while (!text.empty()) {
-    const auto end = text.find_first_of("/;,");
+    auto end = text.find_first_of("/;,");
+    if (text.substr(0, end).ends_with("(e")) end = text.find_first_of("/;,", end + 1);  // "(e, es)"
     const std::string_view part = engine::trimmed(text.substr(0, end));
     const bool isMissing = part.empty() || part == engine::trimmed(engine::kShownMissing);
     if (!isMissing) parts.emplace_back(part);
@@ -82,6 +81,7 @@ Texts variantsOf(int slot, std::string_view text, bool hAspirate) {
 struct Agreeing {
   std::string masculine;
   std::string feminine;  // empty where nothing agrees
+  Texts others;          // the plurals, where it may be several too
 };
 
 // "dissous" -> "dissoute", "mû" -> "mue": participles whose feminine is not their masculine and an
@@ -92,23 +92,46 @@ std::string feminineOf(std::string_view participle) {
   return std::string(participle) + "e";
 }
 
-Agreeing readOut(std::string_view form) {
-  const auto marker = form.find(kAgreement);
-  if (marker == std::string_view::npos) return {std::string(form), {}};
-  const std::string_view base = form.substr(0, marker);
-  const std::string_view end = form.substr(marker + kAgreement.size());
-  const bool isPlural = end.starts_with('s');
-  const bool takesS = isPlural && !base.ends_with('s') && !base.ends_with('x');
-  const std::string rest(end.substr(isPlural ? 1 : 0));
-  return {std::string(base) + (takesS ? "s" : "") + rest,
-          feminineOf(base) + (isPlural ? "s" : "") + rest};
+// The markers of agreement, and what they stand for behind the participle.
+struct Marker {
+  std::string_view text;
+  std::string_view plural;  // "s" where several are meant
+  bool isEither;            // one or several
+};
+constexpr Marker kMarkers[] = {{"(e)(s)", "", true},
+                               {"(e, es)", "", true},
+                               {"(es)", "s", false},
+                               {"(e)s", "s", false},
+                               {"(e)", "", false}};
+
+// A plural's s, which a participle in s or x has already.
+std::string plural(std::string_view base, std::string_view s) {
+  const bool hasIt = base.ends_with('s') || base.ends_with('x');
+  return std::string(base) + std::string(hasIt ? "" : s);
 }
 
-std::string subjectOf(int slot, std::string_view form, bool hAspirate, bool isFeminine) {
+Agreeing readOut(std::string_view form) {
+  for (const Marker& marker : kMarkers) {
+    const auto place = form.find(marker.text);
+    if (place == std::string_view::npos) continue;
+    const std::string_view base = form.substr(0, place);
+    const std::string rest(form.substr(place + marker.text.size()));
+    Agreeing read{plural(base, marker.plural) + rest,
+                  feminineOf(base) + std::string(marker.plural) + rest,
+                  {}};
+    if (marker.isEither && plural(base, "s") != base) read.others.push_back(plural(base, "s"));
+    if (marker.isEither) read.others.push_back(feminineOf(base) + "s");
+    return read;
+  }
+  return {std::string(form), {}, {}};
+}
+
+std::string subjectOf(int slot, std::string_view form, const engine::EngineFlags& flags,
+                      bool isFeminine) {
   constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
   if (slot >= engine::kPersonalSlotCount) return {};
   const int person = slot % engine::kPersonCount;
-  if (person == 0 && engine::elides(form, hAspirate)) return "j'";
+  if (person == 0 && engine::elides(form, flags.hAspirate, flags.variety)) return "j'";
   if (isFeminine && isThirdPerson(slot)) return person == 2 ? "elle " : "elles ";
   return std::string(kSubjects[person]);
 }
@@ -131,6 +154,7 @@ class Phrase {
     append(whole(agreeing.masculine, false));
     if (agreeing.feminine.empty() || isSubjectImpersonal()) return;
     append(isThirdPerson(slot_) ? whole(agreeing.feminine, true) : lastWord(agreeing.feminine));
+    for (const std::string& other : agreeing.others) append(lastWord(other));
   }
 
   [[nodiscard]] std::string utf8() const {
@@ -145,8 +169,7 @@ class Phrase {
   }
 
   [[nodiscard]] std::string whole(std::string_view form, bool isFeminine) const {
-    return conjunctionOf(slot_) + subjectOf(slot_, form, flags_.hAspirate, isFeminine) +
-           std::string(form);
+    return conjunctionOf(slot_) + subjectOf(slot_, form, flags_, isFeminine) + std::string(form);
   }
 
   void append(const std::string& part) {
@@ -170,6 +193,12 @@ std::string phraseOrReason(const ShownForm& shown) {
   return formPhrase(shown.slot, shown.text, shown.flags);
 }
 
+std::string normLine(std::string_view norm) {
+  if (norm.empty()) return {};
+  if (norm == engine::kShownMissing) return std::string(hint(HintId::normLacksForm));
+  return hint(HintId::norm, engine::toUtf8(norm));
+}
+
 }  // namespace
 
 std::string formPhrase(int slot, std::string_view text, const engine::EngineFlags& flags) {
@@ -182,6 +211,7 @@ std::string formPhrase(int slot, std::string_view text, const engine::EngineFlag
 std::string formTip(const ShownForm& shown) {
   std::string tip = phraseOrReason(shown);
   if (tip.empty()) return tip;
+  addLine(tip, normLine(shown.norm));
   if (shown.isOwn) addLine(tip, hint(HintId::ownVerb));
   if (!shown.isEditing && topicOfSlot(shown.slot)) addLine(tip, hint(HintId::pageKey));
   return tip;

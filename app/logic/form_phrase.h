@@ -12,8 +12,9 @@ namespace odmiennik::app {
 // "que" before a subjunctive, each variant for itself, feminine forms in full. `flags` are those of
 // the verb that is shown. A box that is empty or shows " -- " has none.
 // Examples: (51, "promenions") -> "que nous promenions"; (26, "est allé(e)") -> "il est allé lub
-// elle est allée"; (27, "sommes allé(e)s") -> "nous sommes allés lub allées"; (0, "paye/paie") ->
-// "je paye lub je paie"; (90, "parle") -> "parle !".
+// elle est allée"; (27, "sommes allé(e)s") -> "nous sommes allés lub allées"; (97, "être
+// allé(e)(s)") -> "être allé lub allée lub allés lub allées"; (0, "paye/paie") -> "je paye lub je
+// paie"; (90, "parle") -> "parle !".
 [[nodiscard]] std::string formPhrase(int slot, std::string_view text,
                                      const engine::EngineFlags& flags);
 
@@ -24,11 +25,13 @@ struct ShownForm {
   const engine::EngineFlags& flags;
   bool isOwn = false;  // from the user's own file
   bool isEditing = false;
+  std::string_view norm = {};  // what today's norm has in its place, if it departs
 };
 
-// What a form box says of itself, line below line, UTF-8: the phrase, where it comes from, what the
-// keys do. Nothing of a box that is empty, but for the entry box, which says what is typed there.
-// Example: "je parle", below it "F1: kiedy używa się tej formy".
+// What a form box says of itself, line below line, UTF-8: the phrase, the norm that it departs
+// from, where it comes from, what the keys do. Nothing of a box that is empty, but for the entry
+// box, which says what is typed there. Example: "je parle", below it "F1: kiedy używa się tej
+// formy".
 [[nodiscard]] std::string formTip(const ShownForm& shown);
 
 }  // namespace odmiennik::app

@@ -22,6 +22,27 @@ TEST(form_phrase, has_its_subject_in_full) {
   EXPECT_EQ(phrase(5, "parlent"), "ils parlent");
 }
 
+TEST(form_phrase, reads_out_the_agreements_of_the_norm) {
+  EXPECT_EQ(phrase(27, "nous sommes assis(es)"), "nous nous sommes assis lub assises");
+  EXPECT_EQ(phrase(29, "sont assis(es)"), "ils sont assis lub elles sont assises");
+  EXPECT_EQ(phrase(97, "être allé(e)(s)"), "être allé lub allée lub allés lub allées");
+  EXPECT_EQ(phrase(97, "s'être assis(e, es)"), "s'être assis lub assise lub assises");
+}
+
+TEST(form_phrase, elides_je_in_the_norm_as_the_norm_does) {
+  const engine::EngineFlags flags{.variety = engine::Variety::norm};
+  EXPECT_EQ(phrase(0, "œuvre", flags), "j'œuvre");
+  EXPECT_EQ(phrase(0, "yodle", flags), "je yodle");
+}
+
+TEST(form_tip, tells_the_norm_that_a_form_departs_from) {
+  const engine::EngineFlags flags;
+  EXPECT_EQ(formTip({.slot = 2, .text = "lir", .flags = flags, .norm = "lit"}),
+            "il lir\nDzisiejsza norma: lit\nF1: kiedy używa się tej formy");
+  EXPECT_EQ(formTip({.slot = 5, .text = "s'agissent", .flags = flags, .norm = " -- "}),
+            "ils s'agissent\nDzisiejsza norma: bez tej formy\nF1: kiedy używa się tej formy");
+}
+
 TEST(form_phrase, elides_je_as_the_table_does) {
   EXPECT_EQ(phrase(0, "aime"), "j'aime");
   EXPECT_EQ(phrase(0, "habite"), "j'habite");
