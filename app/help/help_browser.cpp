@@ -58,6 +58,7 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
   setPalette(pagePalette(isOnDark()));
   setMinimumSize(320, 240);
   document()->setDocumentMargin(kMargin);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // one that comes lays out the page once more
   connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::sayPage);
   connect(this, &QTextBrowser::highlighted, this, &HelpBrowser::sayLink);
 }
@@ -73,9 +74,12 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   return book_.page(address);
 }
 
+// Laid out once, when its headings have their sizes: each change would lay out the page anew.
 void HelpBrowser::doSetSource(const QUrl& address, QTextDocument::ResourceType type) {
+  document()->setLayoutEnabled(false);
   QTextBrowser::doSetSource(address, type);
   takeHeadingSizes(*document());
+  document()->setLayoutEnabled(true);
 }
 
 QString HelpBrowser::sheet(const QUrl& address) const {
@@ -124,9 +128,10 @@ void HelpBrowser::mark(const QString& typed) {
 
 void HelpBrowser::markAll(const QString& typed) {
   marked_ = typed;
-  const FoldedText text = folded(document()->toRawText());
+  const QStringList words = searchedWords(typed);
+  const FoldedText text = words.isEmpty() ? FoldedText() : folded(document()->toRawText());
   QList<QTextEdit::ExtraSelection> marks;
-  for (const TextHit& hit : hitsOf(text, searchedWords(typed))) {
+  for (const TextHit& hit : hitsOf(text, words)) {
     QTextCursor place(document());
     place.setPosition(hit.place);
     place.setPosition(hit.place + hit.length, QTextCursor::KeepAnchor);
