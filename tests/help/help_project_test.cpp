@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "tools/build_help/ascii_page.h"
+#include "tools/build_help/built_page.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
@@ -44,6 +45,21 @@ TEST(ascii_page, the_link_to_the_style_sheet_gets_its_type) {
 
 TEST(ascii_page, a_page_in_another_encoding_is_refused) {
   EXPECT_THROW(static_cast<void>(asciiPage("caf\xE9")), std::runtime_error);
+}
+
+TEST(built_page, what_the_tests_read_in_a_form_stays_with_the_sources) {
+  EXPECT_EQ(forViewers("je <b class=\"f\" title=\"parler 0\">parle</b>, <b>-e</b>"),
+            "je <b>parle</b>, <b>-e</b>");
+}
+
+TEST(built_page, cells_of_tables_stand_side_by_side) {
+  EXPECT_EQ(forViewers("<table class=\"odmiana\"><tr>"),
+            "<table cellspacing=\"0\" class=\"odmiana\"><tr>");
+}
+
+TEST(built_page, is_set_and_in_ascii) {
+  EXPECT_EQ(builtPage("<b class=\"f\" title=\"aller 0\">é</b> -é w"),
+            "<b>&#233;</b> &#8209;&#233; w");
 }
 
 TEST(windows1250, polish_letters_have_their_bytes) {

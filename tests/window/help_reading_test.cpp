@@ -1,8 +1,10 @@
 // Reading a page of the help: with the keyboard, larger, in the dark.
 #include <QClipboard>
 #include <QFontInfo>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTextTable>
+#include <QToolTip>
 
 #include "app/help/help_browser.h"
 #include "app/help/help_sheet.h"
@@ -37,6 +39,7 @@ class HelpReadingSuite : public QObject {
   void thePageFollowsADarkTheme();
   void theOpenPageFollowsAChangeOfTheTheme();
   void noWordInATableIsBroken();
+  void aFormUnderThePointerShowsNoMarkOfItsMaker();
 
  private:
   [[nodiscard]] QTextBrowser& pages() const { return help_->pages(); }
@@ -235,6 +238,17 @@ void HelpReadingSuite::noWordInATableIsBroken() {
     }
   }
   QVERIFY(lines > 10);
+}
+
+// The pages' sources name the engine's slot beside each form, for the tests.
+void HelpReadingSuite::aFormUnderThePointerShowsNoMarkOfItsMaker() {
+  const QTextCursor form = pages().document()->find("j'ai parlé");
+  QVERIFY(!form.isNull());
+  pages().setTextCursor(form);
+  const QPoint place = pages().cursorRect().center() - QPoint(4, 0);
+  QHelpEvent event(QEvent::ToolTip, place, pages().viewport()->mapToGlobal(place));
+  QCoreApplication::sendEvent(pages().viewport(), &event);
+  QCOMPARE(QToolTip::text(), "");
 }
 
 std::unique_ptr<QObject> helpReadingSuite() { return std::make_unique<HelpReadingSuite>(); }

@@ -3,11 +3,10 @@
 #include <cstdio>
 #include <exception>
 
-#include "tools/build_help/ascii_page.h"
+#include "tools/build_help/built_page.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
-#include "tools/build_help/typesetting.h"
 
 namespace {
 
@@ -18,7 +17,7 @@ void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::
   for (const std::string& page : pages) {
     const fs::path name = fs::path(std::u8string(page.begin(), page.end()));
     try {
-      writeFile(to / name, asciiPage(typeset(readFile(from / name))));
+      writeFile(to / name, builtPage(readFile(from / name)));
     } catch (const std::exception& error) {
       throw std::runtime_error(page + ": " + error.what());
     }

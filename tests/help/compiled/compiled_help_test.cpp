@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/help/compiled/help_file.h"
-#include "tools/build_help/ascii_page.h"
+#include "tools/build_help/built_page.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
-#include "tools/build_help/typesetting.h"
 
 namespace odmiennik::help {
 namespace {
@@ -16,10 +15,6 @@ const std::filesystem::path kSources = std::filesystem::path(ODMIENNIK_SOURCE_DI
 
 std::string pageSource(const std::string& name) {
   return tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end()));
-}
-
-std::string builtPage(const std::string& name) {
-  return tools::asciiPage(tools::typeset(pageSource(name)));
 }
 
 // The number at a place of a binary table, least significant byte first.
@@ -45,7 +40,7 @@ TEST(compiled_help, holds_every_page_as_it_was_written) {
   const std::vector<std::string> names = tools::pageNames(kSources / "strony");
   ASSERT_GE(names.size(), 18U);
   for (const std::string& name : names)
-    EXPECT_EQ(file.content("/strony/" + name), builtPage(name)) << name;
+    EXPECT_EQ(file.content("/strony/" + name), tools::builtPage(pageSource(name))) << name;
 }
 
 TEST(compiled_help, holds_the_style_sheets) {
