@@ -49,11 +49,26 @@ bool mayEscape(const dictionary::MessageRow& row) {
          row.defaultButton == Button::no;
 }
 
-// A box that may have to be answered with one of its buttons.
+// Whether the keyboard repeats a key that is held down. ShortcutOverride comes before the key is
+// looked for among those of the buttons.
+bool isRepeatedKey(const QEvent& event) {
+  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
+  return isKey && static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
+// A box that may have to be answered with one of its buttons. A key that was already held down when
+// it opened answers nothing: whoever holds Enter has not read the question.
 class AnsweredBox final : public QMessageBox {
  public:
   explicit AnsweredBox(const dictionary::MessageRow& row)
       : QMessageBox(QApplication::activeWindow()), mayEscape_(mayEscape(row)) {}
+
+  // For the box and for its buttons, one of which has the focus.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (!isRepeatedKey(*event)) return QMessageBox::eventFilter(watched, event);
+    event->accept();
+    return true;
+  }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -68,10 +83,11 @@ class AnsweredBox final : public QMessageBox {
   bool mayEscape_;
 };
 
-void addButtons(QMessageBox& box, const dictionary::MessageRow& row) {
+void addButtons(AnsweredBox& box, const dictionary::MessageRow& row) {
   for (const ButtonPair& pair : kButtons) {
     if (!contains(row.buttons, pair.button)) continue;
     QPushButton* button = box.addButton(pair.standard);
+    button->installEventFilter(&box);
     if (pair.button == row.defaultButton) box.setDefaultButton(pair.standard);
     if (box.escapeButton() == nullptr) box.setEscapeButton(button);
   }
@@ -94,6 +110,7 @@ Button QtMessageBoxes::show(dictionary::MessageId id, std::string_view argument)
   box->setWindowTitle(fromUtf8(title));
   box->setText(fromUtf8(dictionary::messageText(id, argument)));
   box->setTextFormat(Qt::PlainText);  // a verb typed by the user is no mark-up
+  box->installEventFilter(box);
   addButtons(*box, row);
   const Button answer = answerOf(box->exec());
   delete box;

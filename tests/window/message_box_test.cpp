@@ -91,6 +91,8 @@ class MessageBoxSuite : public QObject {
   void escapeAnswersNoWhereThatIsTheDefault();
   void escapeThrowsNothingAway();
   void enterAnswersWithTheDefaultButton();
+  void aHeldKeyAnswersNothing_data();
+  void aHeldKeyAnswersNothing();
   void cancelSpeaksPolish();
   void aVerbIsNoMarkUp();
   void everyIconIsDrawnInTheColoursOfTheTheme_data();
@@ -137,6 +139,36 @@ void MessageBoxSuite::escapeThrowsNothingAway() {
 void MessageBoxSuite::enterAnswersWithTheDefaultButton() {
   const Seen seen = showAndPress(MessageId::saveEditedVerb, "être", Qt::Key_Return);
   QCOMPARE(seen.defaultButton, "&Tak");
+  QCOMPARE(seen.answer, Button::yes);
+}
+
+void MessageBoxSuite::aHeldKeyAnswersNothing_data() {
+  QTest::addColumn<Qt::Key>("key");
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+  const Qt::KeyboardModifiers none = Qt::NoModifier, alt = Qt::AltModifier;
+  QTest::newRow("Enter") << Qt::Key_Return << "\r" << none;
+  QTest::newRow("Enter of the number pad") << Qt::Key_Enter << "\r" << none;
+  QTest::newRow("the letter of a button") << Qt::Key_N << "n" << none;
+  QTest::newRow("the key of a button") << Qt::Key_N << "n" << alt;
+  QTest::newRow("Escape") << Qt::Key_Escape << "" << none;
+}
+
+// The key that opened the box is still down, and the keyboard repeats it.
+void MessageBoxSuite::aHeldKeyAnswersNothing() {
+  QFETCH(Qt::Key, key);
+  QFETCH(QString, text);
+  QFETCH(Qt::KeyboardModifiers, modifiers);
+  bool isAnswered = false;
+  const auto repeat = [&](QMessageBox& box) {
+    QTest::simulateEvent(QApplication::focusWidget(), /*press=*/true, key, modifiers, text,
+                         /*repeat=*/true);
+    for (const QAbstractButton* button : box.buttons()) isAnswered |= button->isDown();
+    isAnswered |= !box.isVisible();
+  };
+  const MessageId id = MessageId::endProgram;
+  const Seen seen = showAndPress(id, {}, Qt::Key_T, repeat);
+  QVERIFY(!isAnswered);
   QCOMPARE(seen.answer, Button::yes);
 }
 
