@@ -1,6 +1,8 @@
 // The user's two colours.
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolTip>
 
 #include "app/common/colours.h"
 #include "app/controls/placement.h"
@@ -69,6 +71,7 @@ class ColoursSuite : public QObject {
   void allMoodHeadingsRulesAndDecorationsChange();
   void aSystemColourIsShownAsTextAndKeptUntilAnotherIsChosen();
   void theMenuOpensTheWindowModally();
+  void aSampleAndItsButtonSayWhatTheyAreFor();
   void theSystemsChooserStartsOnTheColourAndSpeaksPolish();
   void appliedColoursAreSavedAndComeBack();
   void theDesignsColoursFollowTheThemeWhicheverShadeWasStored();
@@ -184,6 +187,23 @@ void ColoursSuite::theMenuOpensTheWindowModally() {
   });
   program.item("mnuWidokKolory").trigger();
   QTRY_VERIFY(isModal);
+}
+
+void ColoursSuite::aSampleAndItsButtonSayWhatTheyAreFor() {
+  const ColourProgram program;
+  const auto tipOf = [&program](const char* name) {
+    auto* control = program.colours.findChild<QWidget*>(QString::fromUtf8(name));
+    QHelpEvent event(QEvent::ToolTip, control->rect().center(), control->mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(control, &event);
+    return QToolTip::text();
+  };
+  const QString mood = "kolor nagłówków trybów, na przykład INDICATIF";
+  const QString tense = "kolor nagłówków czasów, na przykład Présent";
+  QCOMPARE(tipOf("shpKolor_0"), mood);
+  QCOMPARE(tipOf("shpKolor_1"), tense);
+  QCOMPARE(tipOf("lblKolorTrybu"), mood);
+  QCOMPARE(tipOf("lblKolorCzasu"), tense);
+  QCOMPARE(tipOf("cmdZmień_1"), "wybierz inny kolor (spacja)");
 }
 
 void ColoursSuite::theSystemsChooserStartsOnTheColourAndSpeaksPolish() {
