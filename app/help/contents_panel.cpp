@@ -55,7 +55,10 @@ void ContentsPanel::fill(const std::vector<HelpContentsEntry>& entries) {
     item->setSizeHint(0, QSize(0, fontMetrics().height() + kBetweenEntries));
     path.push_back(item);
   }
-  expandAll();
+  // Not expandAll(): a screen reader would call every page "expanded" too.
+  for (QTreeWidgetItemIterator chapter(this, QTreeWidgetItemIterator::HasChildren); *chapter;
+       ++chapter)
+    (*chapter)->setExpanded(true);
 }
 
 // The entry that was chosen stays chosen where several lead to the page; else it is a page's own

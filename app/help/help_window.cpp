@@ -161,11 +161,13 @@ void HelpWindow::showPage(const QString& page) {
   standInFront();
 }
 
-// Modal only where a modal window is open: beside it, the help could not be used.
+// Modal only where a modal window is open that is not its own: beside it, the help could not be
+// used.
 void HelpWindow::standInFront() {
   const QWidget* modal = QApplication::activeModalWidget();
   const Qt::WindowModality modality = modal == nullptr ? Qt::NonModal : Qt::ApplicationModal;
-  if (modal != this && modality != windowModality()) {
+  const bool isOwn = modal != nullptr && (modal == this || modal->parentWidget() == this);
+  if (!isOwn && modality != windowModality()) {
     hide();
     setWindowModality(modality);
   }

@@ -1,7 +1,5 @@
 // The help viewer on the help file that is built.
 #include <QDialog>
-#include <QMenu>
-#include <QMessageBox>
 #include <QPrinter>
 #include <QTabWidget>
 #include <QTextBlock>
@@ -24,18 +22,11 @@ class HelpSuite : public QObject {
   void everyPageOfTheHeadingsOpens_data();
   void everyPageOfTheHeadingsOpens();
   void aClickOnAHeadingShowsItsPage();
-  void f1InAFormBoxOpensThePageOfItsTense_data();
-  void f1InAFormBoxOpensThePageOfItsTense();
-  void f1InTheVerbListOpensItsPage();
-  void f1OpensThePageOfEveryWindow_data();
-  void f1OpensThePageOfEveryWindow();
-  void f1InADialogOfAWindowOpensThePageOfThatWindow();
-  void theHelpCanBeUsedWhileAModalWindowIsOpen();
-  void f1WithAnotherKeyOrInAMenuDoesNothing();
   void contextTwoIsThePageAboutConjugating();
   void anUnknownContextOpensTheFirstPage();
   void theContentsLeadToThePages();
   void theEntryOfTheShownPageIsChosen();
+  void chaptersAreExpandedAndPagesAreNot();
   void everyEntryOfTheContentsLeadsToAPage();
   void linksLeadOnAndTheWayBackReturns();
   void searchingFindsTheWordAndBeginsAnewAtTheEnd();
@@ -87,100 +78,6 @@ void HelpSuite::aClickOnAHeadingShowsItsPage() {
   QVERIFY(help_->pages().toPlainText().startsWith("Passé simple"));
 }
 
-void HelpSuite::f1InAFormBoxOpensThePageOfItsTense_data() {
-  QTest::addColumn<int>("slot");
-  QTest::addColumn<QString>("page");
-  QTest::newRow("indicatif présent") << 5 << "PresentIndicatif";
-  QTest::newRow("passé antérieur") << 36 << "PasséAntérieur";
-  QTest::newRow("conditionnel passé 2") << 89 << "ConditionnelPassé2";
-  QTest::newRow("impératif présent") << 91 << "PrésentImpératif";
-  QTest::newRow("entry box") << 96 << "default";
-  QTest::newRow("infinitif passé") << 97 << "InfinitifPasse";
-  QTest::newRow("participe présent") << 98 << "ParticipePresent";
-  QTest::newRow("participe passé") << 99 << "ParticipePasse";
-  QTest::newRow("participe composé") << 100 << "ParticipeCompose";
-}
-
-void HelpSuite::f1InAFormBoxOpensThePageOfItsTense() {
-  QFETCH(int, slot);
-  QFETCH(QString, page);
-  help_->box(slot).setFocus();
-  QTest::keyClick(&help_->box(slot), Qt::Key_F1);
-  QCOMPARE(help_->pages().source().path(), "/strony/" + page + ".htm");
-  QVERIFY(help_->messages.shown.empty());
-}
-
-void HelpSuite::f1InTheVerbListOpensItsPage() {
-  help_->item("mnuEdycjaLista").trigger();
-  QTRY_VERIFY(QApplication::activeWindow()->objectName() == "frmLista");
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
-  QTRY_COMPARE(help_->pages().source().path(), "/strony/Lista.htm");
-}
-
-void HelpSuite::f1OpensThePageOfEveryWindow_data() {
-  QTest::addColumn<QString>("window");
-  QTest::addColumn<QString>("page");
-  QTest::newRow("tip") << "frmTip"
-                       << "default";
-  QTest::newRow("about") << "frmAbout"
-                         << "default";
-  QTest::newRow("colours") << "frmKolory"
-                           << "Litery";
-  QTest::newRow("printer") << "dlgCommonDialog"
-                           << "Drukowanie";
-}
-
-// Modal, as these windows are.
-void HelpSuite::f1OpensThePageOfEveryWindow() {
-  QFETCH(QString, window);
-  QFETCH(QString, page);
-  QDialog dialog(&help_->window);
-  dialog.setObjectName(window);
-  dialog.open();
-  QTRY_COMPARE(QApplication::activeWindow(), &dialog);
-  QTest::keyClick(&dialog, Qt::Key_F1);
-  QCOMPARE(help_->pages().source().path(), "/strony/" + page + ".htm");
-}
-
-void HelpSuite::f1InADialogOfAWindowOpensThePageOfThatWindow() {
-  help_->item("mnuEdycjaLista").trigger();
-  QTRY_VERIFY(QApplication::activeWindow()->objectName() == "frmLista");
-  QMessageBox question(QApplication::activeWindow());
-  question.setText("?");
-  question.addButton(QMessageBox::Ok);
-  question.open();
-  QTRY_COMPARE(QApplication::activeWindow(), &question);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
-  QCOMPARE(help_->pages().source().path(), "/strony/Lista.htm");
-}
-
-void HelpSuite::theHelpCanBeUsedWhileAModalWindowIsOpen() {
-  help_->viewer().open("strony\\default.htm");
-  auto& viewer = help_->widget<QDialog>("frmPomoc");
-  QCOMPARE(viewer.windowModality(), Qt::NonModal);
-  QDialog dialog(&help_->window);
-  dialog.setWindowModality(Qt::ApplicationModal);
-  dialog.show();
-  QTRY_COMPARE(QApplication::activeWindow(), &dialog);
-  QTest::keyClick(&dialog, Qt::Key_F1);
-  QCOMPARE(QApplication::activeModalWidget(), &viewer);
-  QVERIFY(viewer.isVisible());
-  viewer.close();
-  dialog.close();
-  help_->viewer().open("strony\\default.htm");
-  QCOMPARE(viewer.windowModality(), Qt::NonModal);
-}
-
-void HelpSuite::f1WithAnotherKeyOrInAMenuDoesNothing() {
-  QTest::keyClick(&help_->entry(), Qt::Key_F1, Qt::ControlModifier);
-  QMenu menu(&help_->window);
-  menu.addAction("a");
-  menu.popup({0, 0});
-  QTest::keyClick(&menu, Qt::Key_F1);
-  menu.close();
-  QVERIFY(help_->window.findChild<QDialog*>("frmPomoc") == nullptr);
-}
-
 void HelpSuite::contextTwoIsThePageAboutConjugating() {
   help_->viewer().openContext(2);
   QCOMPARE(help_->pages().source(), QUrl("chm:/strony/JakOdmienic.htm"));
@@ -209,6 +106,17 @@ void HelpSuite::theEntryOfTheShownPageIsChosen() {
   QCOMPARE(help_->contents().currentItem()->text(0), "Passé antérieur");
   help_->viewer().openContext(2);
   QCOMPARE(help_->contents().currentItem()->text(0), "Jak odmienić czasownik");
+}
+
+// A screen reader says which entry is expanded.
+void HelpSuite::chaptersAreExpandedAndPagesAreNot() {
+  help_->viewer().open("strony\\default.htm");
+  int chapters = 0;
+  for (QTreeWidgetItemIterator entry(&help_->contents()); *entry != nullptr; ++entry) {
+    QCOMPARE((*entry)->isExpanded(), (*entry)->childCount() > 0);
+    chapters += (*entry)->childCount() > 0 ? 1 : 0;
+  }
+  QVERIFY(chapters > 5);
 }
 
 void HelpSuite::everyEntryOfTheContentsLeadsToAPage() {

@@ -32,6 +32,7 @@ int main(int argumentCount, char** arguments) {
       {"form_letters", formLettersSuite},
       {"help", helpSuite},
       {"help_faults", helpFaultsSuite},
+      {"help_key", helpKeySuite},
       {"help_printing", helpPrintingSuite},
       {"help_reading", helpReadingSuite},
       {"help_search", helpSearchSuite},

@@ -27,6 +27,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> formLettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpFaultsSuite();
+[[nodiscard]] std::unique_ptr<QObject> helpKeySuite();
 [[nodiscard]] std::unique_ptr<QObject> helpPrintingSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpReadingSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSearchSuite();
