@@ -36,6 +36,7 @@ class DesignSuite : public QObject {
   void theFormBoxesAreLockedAndTheEntryBoxIsNot();
   void tabGoesThroughTheControlsInTheTablesOrder();
   void slotOneHundredHasAHeadingOfItsOwn();
+  void deliberateHeadingsKeepTheirSpellings();
   void everyLabelHasRoomForItsLongestText();
   void everyButtonHasRoomForItsCaption();
   void noTwoVisibleControlsOverlap();
@@ -99,6 +100,22 @@ void DesignSuite::slotOneHundredHasAHeadingOfItsOwn() {
   QCOMPARE(program_.label("lblImiesłówZłożony"), "Passé composé");
   QCOMPARE(program_.widget<QLabel>("lblImiesłówZłożony").palette().color(QPalette::WindowText),
            program_.widget<QLabel>("lblCzas_0").palette().color(QPalette::WindowText));
+}
+
+// deliberate: "CONDITIONEL" and "1-er forme" are spelled so.
+void DesignSuite::deliberateHeadingsKeepTheirSpellings() {
+  QStringList moods, tenses;
+  for (int i = 0; i < 6; ++i) moods += program_.label(qPrintable(QString("lblTryb_%1").arg(i)));
+  for (int i = 0; i < 21; ++i) tenses += program_.label(qPrintable(QString("lblCzas_%1").arg(i)));
+  QCOMPARE(moods, (QStringList{"INDICATIF", "SUBJONCTIF", "CONDITIONEL", "IMPÉRATIF", "INFINITIF",
+                               "PARTICIPE"}));
+  QCOMPARE(tenses,
+           (QStringList{"Présent",         "Imparfait",        "Passé composé", "Plus-que-parfait",
+                        "Futur antérieur", "Passé antérieur",  "Futur simple",  "Passé simple",
+                        "Présent",         "Imparfait",        "Passé",         "Plus-que-parfait",
+                        "Passé 2-e forme", "Passé 1-er forme", "Présent",       "Passé",
+                        "Présent",         "Présent",          "Passé",         "Passé",
+                        "Présent"}));
 }
 
 void DesignSuite::everyLabelHasRoomForItsLongestText() {

@@ -113,6 +113,8 @@ void EditMenuSuite::anImageCannotBePasted() {
 }
 
 void EditMenuSuite::filesCannotBePasted() {
+  program_->entry().setFocus();
+  QVERIFY(program_->item("mnuEdycjaWklej").isEnabled());
   auto* files = new QMimeData;
   files->setUrls({QUrl("file:///etc/hostname")});
   QGuiApplication::clipboard()->setMimeData(files);

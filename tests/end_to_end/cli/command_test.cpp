@@ -130,6 +130,15 @@ TEST(command, asks_the_index) {
   EXPECT_EQ(linesOf(run({"--list", "A"}).out).front(), "abaisser");
 }
 
+TEST(command, knows_verbs_of_today) {
+  for (const char* verb :
+       {"googliser",     "ubériser", "spoiler",  "troller",    "hacker",    "slammer",
+        "sampler",       "textoter", "swiper",   "streamer",   "ghoster",   "vloguer",
+        "reposter",      "genrer",   "mégenrer", "décarboner", "autogérer", "cyberharceler",
+        "déradicaliser", "googler",  "viraliser"})
+    EXPECT_EQ(run({"--record", verb}).exitCode, 0) << verb;
+}
+
 TEST(command, prints_the_string_table) {
   const Result result = run({"--strings"});
   EXPECT_EQ(result.exitCode, 0);
