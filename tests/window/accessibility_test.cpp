@@ -232,6 +232,8 @@ void AccessibilitySuite::everyHeadingStandsAboveTheFirstBoxOfItsTense() {
     const auto& label = program_->widget<QLabel>(QString("lblCzas_%1").arg(heading));
     const auto& box = program_->box(app::kTenseTopics[static_cast<std::size_t>(heading)].firstSlot);
     QVERIFY(label.geometry().bottom() <= box.geometry().top());
+    QVERIFY2(label.x() <= box.x() && box.geometry().right() <= label.geometry().right(),
+             qPrintable(label.objectName()));
   }
 }
 

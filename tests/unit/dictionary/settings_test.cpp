@@ -141,7 +141,8 @@ TEST_F(SettingsFile, ThatIsTooLongIsNotReadWithAHalvedLine) {
 TEST_F(SettingsFile, IsTheOldOneOrTheNewOneWheneverThePowerFails) {
   const std::string before = settingsText({1, 2, 3, 4, 5}), after = settingsText({6, 7, 8, 9, 10});
   bool hasFailed = true;
-  for (int step = 0; hasFailed && step < 100; ++step) {
+  int step = 0;
+  for (; hasFailed && step < 100; ++step) {
     folder_.write("Werbolin.cfg", before);
     FaultyFiles files(step);
     const bool isWritten = writeSettingsFile(folder_.prefix(), {6, 7, 8, 9, 10}, files);
@@ -150,6 +151,7 @@ TEST_F(SettingsFile, IsTheOldOneOrTheNewOneWheneverThePowerFails) {
     EXPECT_TRUE(writeSettingsFile(folder_.prefix(), {}));
     EXPECT_EQ(folder_.names(), Texts{"Werbolin.cfg"});
   }
+  EXPECT_GT(step, 4);
   EXPECT_FALSE(hasFailed);
 }
 

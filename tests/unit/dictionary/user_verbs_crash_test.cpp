@@ -69,7 +69,8 @@ TEST_F(UserVerbsCrash, ASaveLeavesTheOldFileOrTheNewOne) {
 TEST_F(UserVerbsCrash, ASaveThatDropsRecordsNeverIsWithoutThem) {
   const std::string before = linesOf({"aimer", "finir"});
   bool hasFailed = true;
-  for (int step = 0; hasFailed && step < kMoreStepsThanAnyTakes; ++step) {
+  int step = 0;
+  for (; hasFailed && step < kMoreStepsThanAnyTakes; ++step) {
     startWith(before, {});
     FaultyFiles files(step);
     UserVerbsFile verbs(folder_.prefix(), 1, messages_, files);
@@ -78,6 +79,7 @@ TEST_F(UserVerbsCrash, ASaveThatDropsRecordsNeverIsWithoutThem) {
     const bool isKept = folder_.has("Czasowniki.bak") && folder_.read("Czasowniki.bak") == before;
     EXPECT_TRUE(isKept || this->verbs() == before) << step;
   }
+  EXPECT_GT(step, 5);
   EXPECT_FALSE(hasFailed);
 }
 
@@ -114,6 +116,7 @@ TEST_F(UserVerbsCrash, ASecondDeleteAfterAFailedOneEndsAsDescribed) {
     EXPECT_EQ(folder_.names(), (Texts{"Czas.dat", "Czasowniki.dat"})) << step;
     EXPECT_EQ(this->verbs(), isDeleted ? "" : lineOf("aimer")) << step;
   }
+  EXPECT_FALSE(hasFailed);
 }
 
 TEST_F(UserVerbsCrash, AStepThatFailsOnceIsNotForgotten) {
