@@ -1,0 +1,48 @@
+"""The tests that have run and passed, from the results that ctest writes for one run."""
+
+import re
+import xml.etree.ElementTree
+
+PASSED = "run"  # ctest's word for a test that ran to its good end
+# "PASS   : space::Suite::function(row)", as Qt Test prints it, and its other verdicts.
+VERDICT = re.compile(r"^(PASS|FAIL!|SKIP|XFAIL|XPASS|BPASS|BFAIL|BXPASS|BXFAIL|BSKIP)\s*: "
+                     r"(?:[^\s(]*::)?(\w+)\(", re.MULTILINE)
+START = "********* Start testing of "
+
+
+class Ran:
+    """Asked with `fault(name)` like the tests that a build has."""
+
+    def __init__(self, results):
+        self._tests = {}
+        self._functions = {}
+        for case in xml.etree.ElementTree.parse(results).iter("testcase"):
+            name = case.get("name")
+            self._tests[name] = case.get("status")
+            self._functions[name] = _verdicts(case.findtext("system-out") or "")
+
+    def fault(self, name):
+        """Why a test does not count; nothing when it ran and passed."""
+        suite, _, function = name.rpartition(".")
+        if name in self._tests and not self._functions[name]:
+            return self._fault_of(name)
+        if name in self._tests:
+            return "is a whole suite; name one of its functions"
+        if suite not in self._tests:
+            return "did not run"
+        if self._functions[suite].get(function) != {"PASS"}:
+            found = sorted(self._functions[suite].get(function, []))
+            return f"did not run and pass in {suite}: {', '.join(found) or 'nothing'} is told of it"
+        return self._fault_of(suite)
+
+    def _fault_of(self, name):
+        status = self._tests[name]
+        return None if status == PASSED else f"did not run and pass: ctest says {status!r}"
+
+
+def _verdicts(output):
+    """What the last try of a suite tells of each function: {"opens": {"PASS"}}."""
+    verdicts = {}
+    for verdict, function in VERDICT.findall(output[output.rfind(START):]):
+        verdicts.setdefault(function, set()).add(verdict)
+    return verdicts
