@@ -1,5 +1,5 @@
 // Runs a fuzz target without libFuzzer: every file of the corpus, then pseudo-random changes of
-// them from a fixed seed, so that the test is the same everywhere. Usage: fuzz_NAME RUNS CORPUS
+// them from a fixed seed, so that the test is the same everywhere. Usage: fuzz_NAME RUNS CORPUS…
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -15,9 +15,10 @@ namespace {
 
 constexpr std::uint32_t kSeed = 20'001;
 
-std::vector<std::string> readCorpus(const std::filesystem::path& folder) {
+std::vector<std::string> readCorpus(const std::vector<std::filesystem::path>& folders) {
   std::vector<std::filesystem::path> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) paths.push_back(entry);
+  for (const auto& folder : folders)
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) paths.push_back(entry);
   std::sort(paths.begin(), paths.end());
   std::vector<std::string> inputs;
   for (const std::filesystem::path& path : paths) {
@@ -64,8 +65,8 @@ void run(const std::string& input) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  if (argumentCount != 3) return 2;
-  const std::vector<std::string> corpus = readCorpus(arguments[2]);
+  if (argumentCount < 3) return 2;
+  const std::vector<std::string> corpus = readCorpus({arguments + 2, arguments + argumentCount});
   if (corpus.empty()) {
     std::fprintf(stderr, "no corpus in %s\n", arguments[2]);
     return 2;
