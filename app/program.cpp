@@ -19,7 +19,8 @@ Program::Program(const Surroundings& given)
       closing_(window_, settings_, given.messages, given.end),
       tips_(window_, *window_.menuBar(), given.store),
       startUp_({prefix_, window_, pointer_, settings_, userVerbs_, tips_, closing_, given.messages,
-                layout(), [this, places = given.helpPlaces] { help_.help().lookIn(places); },
+                layout(), [&store = given.store] { return store.isUsable(); },
+                [this, places = given.helpPlaces] { help_.help().lookIn(places); },
                 [this, verb = given.verb] {
                   if (verb) editing_.conjugate(*verb);
                 }}),

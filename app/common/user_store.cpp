@@ -26,7 +26,8 @@ bool isReadable(const QString& file) {
 }
 
 // A store below a file can be neither read nor written.
-QString nowhereBeside(const QString& file) { return file + QStringLiteral("/-"); }
+constexpr QLatin1String kNowhere("/-");
+QString nowhereBeside(const QString& file) { return file + kNowhere; }
 
 #ifdef Q_OS_UNIX
 
@@ -59,6 +60,10 @@ UserStore::UserStore() : settings_(userSettings()) {}
 UserStore::UserStore(const QString& file)
     : settings_(std::make_unique<QSettings>(isReadable(file) ? file : nowhereBeside(file),
                                             QSettings::IniFormat)) {}
+
+bool UserStore::isUsable() const {
+  return settings_->status() == QSettings::NoError && !settings_->fileName().endsWith(kNowhere);
+}
 
 bool UserStore::isTipShownAtStart() const { return isOne(kTipAtStartKey); }
 

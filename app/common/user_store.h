@@ -18,6 +18,10 @@ class UserStore {
   // A store in a file of its own: UserStore("/home/ala/test.ini").
   explicit UserStore(const QString& file);
 
+  // False where something stands in the store's place that cannot be read: the defaults hold then,
+  // and nothing is kept.
+  [[nodiscard]] bool isUsable() const;
+
   // "Pokazuj poradę dnia": whether the tip of the day is shown at start; only 1 asks for it.
   [[nodiscard]] bool isTipShownAtStart() const;
   void setTipShownAtStart(bool isShown);

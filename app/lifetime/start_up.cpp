@@ -84,9 +84,12 @@ bool StartUp::rescaleForScreen() {
   return !isRescaledAtStart(needs_.layout.screenTwips()) || needs_.layout.rescale();
 }
 
-// The count in the settings tells whether verbs are missing.
+// The count in the settings tells whether verbs are missing. Where the user's store cannot be read,
+// what follows goes by its defaults.
 void StartUp::readSettings() {
   needs_.settings.ReadSettings();
+  if (!needs_.isUserStoreUsable())
+    needs_.messages.show(dictionary::MessageId::settingsNotRead);  // the user's own
   needs_.userVerbs.recoverAfterCrash();
 }
 

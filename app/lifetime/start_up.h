@@ -36,6 +36,7 @@ class StartUp {
     Closing& closing;
     dictionary::MessageBoxes& messages;
     LayoutPort layout = {};
+    std::function<bool()> isUserStoreUsable = [] { return true; };
     std::function<void()> setHelpFile = [] {};         // tells the help where its file is
     std::function<void()> conjugateGivenVerb = [] {};  // the command line's, if there is one
   };

@@ -72,6 +72,10 @@ class Element:
             if child is not None:
                 yield Element(child)
 
+    def beside(self):
+        """The parts of the same menu or window, itself among them."""
+        return Element(self._accessible.parent).children()
+
     def descendants(self):
         for child in self.children():
             yield child

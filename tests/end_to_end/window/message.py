@@ -55,9 +55,9 @@ class Message:
         self.await_end()
 
     def await_end(self):
-        wait_for(self._is_gone, f"the end of the window {self.title!r}")
+        wait_for(self.is_gone, f"the end of the window {self.title!r}")
 
-    def _is_gone(self):
+    def is_gone(self):
         try:
             return not self._window.has("showing")
         except gone():

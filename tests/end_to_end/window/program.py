@@ -23,14 +23,15 @@ class Program:
     """`odmiennik`, with a folder and a home of its own; ended with the scenario."""
 
     def __init__(self, executable, home):
-        self._executable = executable
+        self.executable = executable
         self.reader = None  # Orca, in scenarios that ask for it
         self.environment = {}  # what the program shall see otherwise: {"PATH": "/tmp"}
+        self.wrapper = []  # what starts it: ["sh", "-c", 'exec "$@"', "sh"]
         self.folder = pathlib.Path(home, "program folder")
-        self.folder.mkdir()
-        self._store = pathlib.Path(home, ".config", "Odmiennik", "Odmiennik.conf")
-        self._store.parent.mkdir(parents=True)
-        self._store.write_text(NO_TIP, encoding="utf-8")
+        self.folder.mkdir(parents=True)
+        self.user_store = pathlib.Path(home, ".config", "Odmiennik", "Odmiennik.conf")
+        self.user_store.parent.mkdir(parents=True)
+        self.user_store.write_text(NO_TIP, encoding="utf-8")
         self._log = open(pathlib.Path(home, "log"), "w+b")
         self._process = None
         self._known = {}
@@ -40,8 +41,8 @@ class Program:
     def launch(self):
         """Starts the process; the window may still be on its way, or a message before it."""
         self._known = {}
-        self._process = subprocess.Popen([self._executable, "--folder", str(self.folder)],
-                                         env=os.environ | self.environment,
+        command = [*self.wrapper, self.executable, "--folder", str(self.folder)]
+        self._process = subprocess.Popen(command, env=os.environ | self.environment,
                                          stdout=self._log, stderr=self._log)
 
     def start(self):
@@ -51,16 +52,28 @@ class Program:
 
     def forget_user_store(self):
         """Leaves nothing of the user's in the home, as on a new computer: the tip will show."""
-        self._store.unlink()
+        self.user_store.unlink()
 
     def leave_its_files_behind(self):
         """What is started from now on is a copy with nothing beside it, no help file either."""
         alone = self.folder.with_name("alone")
         alone.mkdir()
-        self._executable = shutil.copy(self._executable, alone)
+        self.executable = shutil.copy(self.executable, alone)
+
+    def was_started(self):
+        return self._process is not None
 
     def is_running(self):
         return self._process.poll() is None
+
+    def exit_code(self):
+        return self._process.returncode
+
+    def kill(self):
+        """Ends the process at once, if there is one."""
+        if self.was_started() and self.is_running():
+            self._process.kill()
+            self._process.wait()
 
     def await_end(self):
         wait_for(lambda: not self.is_running(), "the program's end")
@@ -70,6 +83,24 @@ class Program:
         """Asks the process to end, as a system does that shuts down."""
         self._process.terminate()
 
+    def catches(self, signal):
+        """Whether the process has its own answer to a signal."""
+        status = pathlib.Path(f"/proc/{self._process.pid}/status").read_text()
+        caught = next(line for line in status.splitlines() if line.startswith("SigCgt"))
+        return bool(int(caught.split()[1], 16) & 1 << signal - 1)
+
+    def process_id(self):
+        return self._process.pid
+
+    def log(self):
+        """What it has written to its streams so far."""
+        return pathlib.Path(self._log.name).read_bytes()
+
+    def await_death(self, signal):
+        """Waits for an end by a signal."""
+        wait_for(lambda: not self.is_running(), "the process's end")
+        assert self._process.returncode == -signal, f"it ended with {self._process.returncode}"
+
     def quit(self):
         """Closes the window and answers the exit question with Yes."""
         self.menu_item("Plik", "Koniec").press()
@@ -77,9 +108,9 @@ class Program:
         self.await_end()
 
     def clean_up(self):
-        if self._process is not None and self.is_running():
-            self._process.kill()
-            self._process.wait()
+        self.kill()
+        if self._log.closed:
+            return
         self._log.seek(0)
         shutil.copyfileobj(self._log, open(2, "wb", closefd=False))
         self._log.close()
@@ -142,10 +173,13 @@ class Program:
         return self._find("check box", "", lambda part: part.role == "check box"
                           and part.has("showing"))
 
+    def menu(self, name):
+        return self._find("menu", name, lambda part: part.name == name
+                          and part.role == "menu item" and part.has_parts())
+
     def menu_item(self, menu, name):
         """The item of that caption in that menu, also while the menu is closed."""
-        opened = self._find("menu", menu, lambda part: part.name == menu
-                            and part.role == "menu item" and part.has_parts())
+        opened = self.menu(menu)
         return wait_for(lambda: next((part for part in opened.descendants() if part.name == name),
                                      None), f"the item {name!r} of {menu!r}")
 

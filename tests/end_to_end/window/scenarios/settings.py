@@ -1,8 +1,14 @@
 """What is kept between two runs, and what is asked before it is given up."""
 
+import fcntl
+import os
+import signal
+
 from message import Message
 from waiting import wait_for
 
+UNREADABLE = ("Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. "
+              "Program może działać niepoprawnie.")
 EXIT_QUESTION = "Czy na pewno chcesz zakończyć program?"
 RESET_QUESTION = "Ustawienia zostaną zresetowane, a program zamknięty."
 # Seven verbs, two colours, twelve conjugations, twelve runs.
@@ -51,8 +57,7 @@ def counters_and_colours_come_back_as_they_were(program):
 def damaged_settings_are_told_once_and_the_program_works_on(program):
     _settings_file(program).write_bytes(b"0\r\n255\r\n255\r\n0\r\nzz\r\n")
     program.launch()
-    program.message("Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. "
-                    "Program może działać niepoprawnie.").answer("OK")
+    program.message(UNREADABLE).answer("OK")
     program.conjugate("finir")
     program.box("Indicatif présent, nous").await_text("finissons")
     assert program.messages() == []
@@ -116,3 +121,56 @@ def the_marker_of_a_first_start_ends_the_program(program):
     assert message.title == "Zrestartuj system!"
     message.answer("OK")
     program.await_end()
+
+
+def _start_beside(program, make_store):
+    """Starts with something else in the place of the user's own settings, which stays as it is."""
+    program.forget_user_store()
+    make_store(program.user_store)
+    before = os.lstat(program.user_store)
+    program.launch()
+    program.message(UNREADABLE).answer("OK")
+    Message(program.window("Porada dnia")).answer("OK")
+    program.conjugate("finir")
+    program.box("Indicatif présent, nous").await_text("finissons")
+    program.menu_item("Czasownik", "Autouzupełnianie").press()
+    assert program.messages() == []
+    program.quit()
+    after = os.lstat(program.user_store)
+    assert (before.st_ino, before.st_size) == (after.st_ino, after.st_size)
+
+
+def a_user_store_that_is_a_pipe_is_told_and_left_alone(program):
+    _start_beside(program, os.mkfifo)
+
+
+def a_user_store_without_an_end_is_told_and_left_alone(program):
+    _start_beside(program, lambda store: store.symlink_to("/dev/zero"))
+
+
+def a_user_store_of_four_gigabytes_is_told_and_left_alone(program):
+    def make_sparse(store):
+        store.touch()
+        os.truncate(store, 4 << 30)
+    _start_beside(program, make_sparse)
+
+
+def a_second_signal_ends_a_program_that_waits(program):
+    program.start()
+    folder = os.open(program.folder, os.O_RDONLY)
+    fcntl.flock(folder, fcntl.LOCK_EX)  # as another program that writes; waited for
+    program.terminate()
+    wait_for(lambda: not program.catches(signal.SIGTERM), "the first signal to be taken")
+    program.terminate()
+    program.await_death(signal.SIGTERM)
+    os.close(folder)
+
+
+def a_folder_is_taken_byte_for_byte(program):
+    beside = program.folder.with_name("folders")
+    program.folder = beside / os.fsdecode(b"\xff\xe9 \xc5")
+    program.folder.mkdir(parents=True)
+    program.start()
+    program.quit()
+    assert os.listdir(os.fsencode(beside)) == [b"\xff\xe9 \xc5"]
+    assert program.settings()[4] == "11"
