@@ -7,7 +7,7 @@ import struct
 COUNT, END, FAIL, SHORTEN = range(4)
 UNTIL_THE_END = 0xFFFFFFFF
 
-_NUMBERS = struct.Struct("=IIIiIII")  # the same layout as in faulty_calls.cpp
+_NUMBERS = struct.Struct("<IIIiIII")  # the same layout as in faulty_calls.cpp
 _SIZE = _NUMBERS.size + 1000 + 1000
 
 
@@ -35,6 +35,10 @@ class Orders:
         self._memory[_NUMBERS.size:] = texts
         self._memory[:_NUMBERS.size] = _NUMBERS.pack(
             mode, point or UNTIL_THE_END, times, value, 0, 0, len(self._folder))
+
+    def stop(self):
+        """From now on nothing is struck; what was counted and written down stays."""
+        self._memory[:4] = COUNT.to_bytes(4, "little")
 
     def calls(self):
         """The names of the calls made since the orders were given."""
