@@ -64,6 +64,18 @@ constexpr Kind kKinds[] = {
      }},
     {"index",
      [](const std::string& source, std::ostream& out) { tools::generateVerbIndex({source}, out); }},
+    {"norm_strings",
+     [](const std::string& source, std::ostream& out) {
+       tools::generateNormTexts({source, kData + "norm/lists.txt"}, out);
+     }},
+    {"norm_lists",
+     [](const std::string& source, std::ostream& out) {
+       tools::generateNormTexts({kData + "norm/strings.txt", source}, out);
+     }},
+    {"norm_verbs",
+     [](const std::string& source, std::ostream& out) {
+       tools::generateNormModels({kData + "norm/models.txt", source}, out);
+     }},
     {"hints",
      [](const std::string& source, std::ostream& out) { tools::generateHints({source}, out); }},
     {"messages",
