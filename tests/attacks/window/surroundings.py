@@ -6,7 +6,6 @@ run(program, TABLE, CASE…)
 import contextlib
 import os
 import pathlib
-import resource
 import signal
 import subprocess
 
@@ -84,12 +83,6 @@ def save_through_the_bus(program, verb, form):
     program.box(FORM).write(form)
     program.menu_item("Plik", "Zapisz Czasownik").press()
     program.await_title("Odmiennik")
-
-
-def kept_verbs(folder):
-    """Those of the copies that a save has put aside."""
-    return [line.split(b",")[96].decode("cp1252") for copy in folder.glob("Czasowniki.bak*")
-            for line in copy.read_bytes().split(b"\r\n")[:-1]]
 
 
 # The cases
@@ -236,28 +229,6 @@ def with_files_of_other_years(program):
         os.utime(program.folder, (seconds, seconds))
     program.quit()
     assert verbs(program.folder) == ["finir", "aimer", "rendre"] and program.settings()[0] == "3"
-
-
-def with_no_file_left_to_open(program):
-    """The save is told as failed, or the window's own libraries give up: what was saved stays."""
-    program.start()
-    save(program, "finir", "finissons!")
-    change(program, "aimer", "inna forma")
-    limits = resource.prlimit(program.process_id(), resource.RLIMIT_NOFILE)
-    resource.prlimit(program.process_id(), resource.RLIMIT_NOFILE, (3, limits[1]))
-    program.menu_item("Plik", "Zapisz Czasownik").press()
-    wait_for(lambda: program.messages() or not program.is_running(), "a message or the end")
-    assert verbs(program.folder) == ["finir"]
-    program.clean_up()
-    again = Program(program.executable, program.folder.with_name("again"))
-    again.folder, again.environment = program.folder, program.environment
-    try:
-        again.start()
-        save(again, "rendre", "rendons!")
-        assert "finir" in verbs(program.folder) + kept_verbs(program.folder)
-        assert "rendre" in verbs(program.folder)
-    finally:
-        again.clean_up()
 
 
 def started_with_twenty_files(program):
