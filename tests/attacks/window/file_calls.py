@@ -75,8 +75,8 @@ class Window:
         def is_done():
             try:
                 return not self.is_running() or answered()
-            except gone():
-                return False  # asked while it was going
+            except (*gone(), Late):
+                return not self.is_running()  # asked while it was going
 
         def answered():
             for box in self.program.messages():
@@ -112,8 +112,8 @@ class Save:
     def act(self):
         program = self.window.program
         program.menu_item("Plik", "Zapisz Czasownik").press()
-        self.window.settle(lambda: program.main_window().name == "Odmiennik" or
-                           NOT_SAVED in self.window.messages)
+        self.window.settle(lambda: NOT_SAVED in self.window.messages or
+                           "Odmiennik" in [window.name for window in program.windows()])
 
     def require_truth(self):
         window, found = self.window, self.window.read(FILE)
