@@ -17,6 +17,10 @@ class Message:
         except gone():
             return []
 
+    def own_texts(self):
+        """Those that stand in the window itself; a list in it is not looked through."""
+        return [part.name for part in self._window.children() if part.role == "label"]
+
     def buttons(self):
         return [part for part in self._window.descendants()
                 if part.role in ("push button", "button")]
