@@ -13,7 +13,7 @@ import subprocess
 import orders
 from element import gone
 from program import ENTRY
-from sweep import ALL_CASES, Fallen, require
+from sweep import ALL_CASES, require
 from waiting import Late, wait_for
 
 FORM = "Indicatif présent, nous"
@@ -255,7 +255,7 @@ def require_a_further_life(window):
 class WindowSweep:
     def __init__(self, window, every):
         self.window, self.every = window, every
-        self.tried, self.fallen = {}, []
+        self.tried, self.fallen, self.again = {}, [], 0
 
     def sweep(self, name):
         action = ACTIONS[name](self.window)
@@ -265,13 +265,23 @@ class WindowSweep:
         cases = [(case, point) for case in ALL_CASES for point in range(1, len(calls) + 1)
                  if case.concerns(calls[point - 1])]
         for case, point in cases[::self.every]:
-            try:
-                self._strike(action, case, point, calls)
-            except (Fallen, Late, AssertionError) as fall:
+            fall = self._fall(action, case, point, calls)
+            if fall:  # a busy machine misses a window; what is broken falls twice
+                self.again += 1
+                fall = self._fall(action, case, point, calls)
+            if fall:
                 self.fallen.append(f"FALLEN {name}, {case.name}, call {point} "
-                                   f"({calls[point - 1]}): {fall}")
-                self.window.program.kill()
+                                   f"({calls[point - 1]}): {fall!r}")
         self.tried[name] = (len(calls), len(cases), len(cases[::self.every]))
+
+    def _fall(self, action, case, point, calls):
+        """What was wrong in a case; nothing when all was well."""
+        try:
+            self._strike(action, case, point, calls)
+        except (AssertionError, *gone()) as fall:
+            self.window.program.kill()
+            return fall
+        return None
 
     def _perform(self, action, mode, point=0, times=1, value=0):
         """The act under an order; the calls that were made."""
@@ -305,6 +315,6 @@ def run(program, library, driver, table, every, *actions):
         sweep.sweep(name)
     lines = [f"file calls of the window, {name}: {calls} calls, {tried} of {cases} cases tried"
              for name, (calls, cases, tried) in sweep.tried.items()]
-    lines.append(f"{len(sweep.fallen)} fallen")
+    lines.append(f"{len(sweep.fallen)} fallen, {sweep.again} tried again")
     pathlib.Path(table).write_text("\n".join(lines + sweep.fallen) + "\n", encoding="utf-8")
     assert not sweep.fallen, "\n".join(sweep.fallen[:20])
