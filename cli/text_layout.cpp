@@ -9,35 +9,47 @@ namespace {
 
 using engine::kTenses;
 
-constexpr std::array<int, 22> kAllTenses = [] {
-  std::array<int, 22> tenses{};
+namespace tense = engine::tense;
+
+constexpr auto kAllTenses = [] {
+  std::array<int, kTenses.size()> tenses{};
   for (std::size_t i = 0; i < tenses.size(); ++i) tenses[i] = static_cast<int>(i);
   return tenses;
 }();
 
-constexpr std::array<Band, 22> kOneColumn = [] {
-  std::array<Band, 22> bands;
+constexpr auto kOneColumn = [] {
+  std::array<Band, kTenses.size()> bands;
   for (std::size_t i = 0; i < bands.size(); ++i) bands[i] = Band(&kAllTenses[i], 1);
   return bands;
 }();
 
-constexpr int kPairs[][2] = {{0, 4},  {1, 5},   {2, 6},   {3, 7},   {8, 10},
-                             {9, 11}, {12, 13}, {15, 16}, {17, 18}, {19, 20}};
-constexpr int kPastConditional2[] = {14};
-constexpr int kCompoundParticiple[] = {21};
+constexpr int kPairs[][2] = {{tense::kPresent, tense::kPerfect},
+                             {tense::kImperfect, tense::kPluperfect},
+                             {tense::kPastHistoric, tense::kPastAnterior},
+                             {tense::kFuture, tense::kFuturePerfect},
+                             {tense::kPresentSubjunctive, tense::kPerfectSubjunctive},
+                             {tense::kImperfectSubjunctive, tense::kPluperfectSubjunctive},
+                             {tense::kPresentConditional, tense::kPastConditional1},
+                             {tense::kImperative, tense::kPastImperative},
+                             {tense::kInfinitive, tense::kPastInfinitive},
+                             {tense::kPresentParticiple, tense::kPastParticiple}};
+constexpr int kPastConditional2[] = {tense::kPastConditional2};
+constexpr int kCompoundParticiple[] = {tense::kCompoundParticiple};
 constexpr Band kTwoColumns[] = {kPairs[0], kPairs[1], kPairs[2], kPairs[3],
                                 kPairs[4], kPairs[5], kPairs[6], kPastConditional2,
                                 kPairs[7], kPairs[8], kPairs[9], kCompoundParticiple};
 
-constexpr int kSimplePast[] = {0, 1, 2};
-constexpr int kCompoundPast[] = {4, 5, 6};
-constexpr int kFutures[] = {3, 7};
-constexpr int kSubjunctives[] = {8, 9};
-constexpr int kCompoundSubjunctives[] = {10, 11};
-constexpr int kConditionals[] = {12, 13, 14};
-constexpr int kImperatives[] = {15, 16};
-constexpr int kInfinitives[] = {17, 18};
-constexpr int kParticiples[] = {19, 20, 21};
+constexpr int kSimplePast[] = {tense::kPresent, tense::kImperfect, tense::kPastHistoric};
+constexpr int kCompoundPast[] = {tense::kPerfect, tense::kPluperfect, tense::kPastAnterior};
+constexpr int kFutures[] = {tense::kFuture, tense::kFuturePerfect};
+constexpr int kSubjunctives[] = {tense::kPresentSubjunctive, tense::kImperfectSubjunctive};
+constexpr int kCompoundSubjunctives[] = {tense::kPerfectSubjunctive, tense::kPluperfectSubjunctive};
+constexpr int kConditionals[] = {tense::kPresentConditional, tense::kPastConditional1,
+                                 tense::kPastConditional2};
+constexpr int kImperatives[] = {tense::kImperative, tense::kPastImperative};
+constexpr int kInfinitives[] = {tense::kInfinitive, tense::kPastInfinitive};
+constexpr int kParticiples[] = {tense::kPresentParticiple, tense::kPastParticiple,
+                                tense::kCompoundParticiple};
 constexpr Band kThreeColumns[] = {kSimplePast,   kCompoundPast,         kFutures,
                                   kSubjunctives, kCompoundSubjunctives, kConditionals,
                                   kImperatives,  kInfinitives,          kParticiples};
@@ -45,7 +57,7 @@ constexpr Band kThreeColumns[] = {kSimplePast,   kCompoundPast,         kFutures
 constexpr bool holdsEveryTense(std::span<const Band> bands) {
   std::array<int, kTenses.size()> count{};
   for (const Band band : bands)
-    for (const int tense : band) ++count[static_cast<std::size_t>(tense)];
+    for (const int position : band) ++count[static_cast<std::size_t>(position)];
   return std::all_of(count.begin(), count.end(), [](int n) { return n == 1; });
 }
 static_assert(holdsEveryTense(kOneColumn) && holdsEveryTense(kTwoColumns) &&
@@ -67,7 +79,7 @@ Cell cellOf(const engine::Display& shown, int slot) {
 }
 
 std::string_view captionOf(const engine::Display& shown, int tense) {
-  constexpr int kFirst = 8;  // the four subjunctive tenses stand in a row
+  constexpr int kFirst = tense::kPresentSubjunctive;  // the four subjunctives stand in a row
   if (tense < kFirst || tense >= kFirst + static_cast<int>(shown.captions.size())) return {};
   return shown.captions[static_cast<std::size_t>(tense - kFirst)];
 }

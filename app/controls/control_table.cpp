@@ -1,6 +1,7 @@
 // Proof of the main window's table while the program is compiled; no code comes of it.
 #include "app/controls/control_table.h"
 
+#include "app/logic/tense_topics.h"
 #include "engine/slots.h"
 
 namespace odmiennik::app {
@@ -46,28 +47,6 @@ constexpr bool everyControlMovesWithTheWindow() {
   return true;
 }
 
-// Takes `part` off the front of `rest`, if it stands there.
-constexpr bool take(std::string_view& rest, std::string_view part) {
-  if (!rest.starts_with(part)) return false;
-  rest.remove_prefix(part.size());
-  return true;
-}
-
-// "Subjonctif plus-que-parfait, nous"
-constexpr bool isNameOfSlot(std::string_view name, int slot) {
-  const engine::Tense& tense = engine::tenseOf(slot);
-  const std::string_view person = engine::personOf(slot);
-  if (!take(name, tense.mood) || !take(name, " ") || !take(name, tense.name)) return false;
-  return person.empty() ? name.empty() : take(name, ", ") && name == person;
-}
-
-constexpr bool everyBoxIsNamedAfterItsSlot() {
-  for (const ControlRow& row : mainWindowRows())
-    if (row.kind == ControlKind::textBox && !isNameOfSlot(row.accessibleName, row.index))
-      return false;
-  return true;
-}
-
 // A label that shows a changing text would lose it to an accessible name.
 constexpr bool noLabelHasAnAccessibleName() {
   for (const ControlRow& row : mainWindowRows())
@@ -77,10 +56,10 @@ constexpr bool noLabelHasAnAccessibleName() {
 
 constexpr bool hasTopicPage(const ControlRow& row) { return row.tag.ends_with(".htm"); }
 
-// The tense headings 0 to 16, and only they, open a page of the help.
+// The first tense headings, and only they, open a page of the help.
 constexpr bool topicsBelongToTheFirstHeadings() {
   for (const ControlRow& row : mainWindowRows())
-    if (hasTopicPage(row) != (row.name == "lblCzas" && row.index < 17)) return false;
+    if (hasTopicPage(row) != (row.name == "lblCzas" && row.index < kTopicHeadings)) return false;
   return true;
 }
 
@@ -88,7 +67,7 @@ static_assert(kMainWindow[0].kind == ControlKind::window);
 static_assert(countOf("txtCzasownik") == engine::kSlotCount);
 static_assert(countOf("lblTryb") == 6 && countOf("shpLiniaTrybu") == 5);
 static_assert(countOf("shpOzdobaTrybu") == 5);
-static_assert(countOf("lblCzas") == 21 && countOf("lblImiesłówZłożony") == 1);
+static_assert(countOf("lblCzas") == kTenseHeadings && countOf("lblImiesłówZłożony") == 1);
 static_assert(countOf("lblSubjoncif") == 4);
 static_assert(countOf("cmdFrancuskaLitera") == 13 && countOf("chkFrancuskaLitera") == 13);
 static_assert(everyControlIsWithinTheWindow());
@@ -96,7 +75,6 @@ static_assert(everyNameIsUnique());
 static_assert(everyIndexIsBelowItsCount());
 static_assert(rowsAreInTabOrder());
 static_assert(everyControlMovesWithTheWindow());
-static_assert(everyBoxIsNamedAfterItsSlot());
 static_assert(noLabelHasAnAccessibleName());
 static_assert(topicsBelongToTheFirstHeadings());
 

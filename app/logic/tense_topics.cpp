@@ -22,26 +22,6 @@ constexpr WindowTopic kWindowTopics[] = {
     {"frmAbout", kWelcomePage},
 };
 
-// The first slot of the tense that a slot belongs to.
-constexpr int tenseOfSlot(int slot) {
-  if (slot < engine::slot::kImperative) return slot - slot % engine::kPersonCount;
-  return slot < engine::slot::kInfinitive ? slot - slot % 3 : slot;
-}
-
-// Boxes whose heading opens nothing, yet which have a page.
-// deliberate: not the box of the infinitive. Verbs are typed there, and whoever asks for help in
-// it, at the start of the program above all, is led to the welcome page.
-struct BoxTopic {
-  int slot;
-  std::string_view page;
-};
-constexpr BoxTopic kBoxTopics[] = {
-    {97, "InfinitifPasse.htm"},
-    {98, "ParticipePresent.htm"},
-    {99, "ParticipePasse.htm"},
-    {100, "ParticipeCompose.htm"},
-};
-
 std::string inFolder(std::string_view page) { return std::string(kPageFolder).append(page); }
 
 constexpr bool onlyTheFirstHaveAPage() {
@@ -60,12 +40,9 @@ std::optional<std::string> topicOf(int heading) {
 }
 
 std::optional<std::string> topicOfSlot(int slot) {
-  for (int heading = 0; heading < kTopicHeadings; ++heading)
-    if (kTenseTopics[static_cast<std::size_t>(heading)].firstSlot == tenseOfSlot(slot))
-      return topicOf(heading);
-  for (const BoxTopic& topic : kBoxTopics)
-    if (topic.slot == slot) return inFolder(topic.page);
-  return std::nullopt;
+  const auto tense = &engine::tenseOf(slot) - engine::kTenses.data();
+  const std::string_view page = kTensePages[static_cast<std::size_t>(tense)];
+  return page.empty() ? std::nullopt : std::optional(inFolder(page));
 }
 
 std::optional<std::string_view> topicOfWindow(std::string_view window) {

@@ -7,46 +7,17 @@
 #include <string>
 #include <string_view>
 
+#include "data/tense_help.h"
+
 namespace odmiennik::app {
 
-// The headings lblCzas; the first 17 of them open a page.
-inline constexpr int kTenseHeadings = 21;
-inline constexpr int kTopicHeadings = 17;
-
-// One heading, in the order of lblCzas. `firstSlot` is that of the forms below it; `page` is empty
-// where there is none.
-struct TenseHeading {
-  std::string_view caption;
-  std::string_view mood;
-  std::string_view page;
-  int firstSlot;
-};
-
-// deliberate: the pages keep their mixture of spellings, since they name pages of the help file; so
-// do the captions "CONDITIONEL" and "1-er forme".
-inline constexpr std::array<TenseHeading, kTenseHeadings> kTenseTopics{{
-    {"Présent", "INDICATIF", "PresentIndicatif.htm", 0},
-    {"Imparfait", "INDICATIF", "ImparfaitIndicatif.htm", 6},
-    {"Passé composé", "INDICATIF", "PasseCompose.htm", 24},
-    {"Plus-que-parfait", "INDICATIF", "Plus-que-parfaitIndicatif.htm", 30},
-    {"Futur antérieur", "INDICATIF", "FuturAnterieur.htm", 42},
-    {"Passé antérieur", "INDICATIF", "PasséAntérieur.htm", 36},
-    {"Futur simple", "INDICATIF", "FuturSimple.htm", 18},
-    {"Passé simple", "INDICATIF", "PasseSimple.htm", 12},
-    {"Présent", "SUBJONCTIF", "PresentSubjonctif.htm", 48},
-    {"Imparfait", "SUBJONCTIF", "ImparfaitSubjonctif.htm", 54},
-    {"Passé", "SUBJONCTIF", "Passé_Subjonctif.htm", 60},
-    {"Plus-que-parfait", "SUBJONCTIF", "Plus-que-parfait_Subjonctif.htm", 66},
-    {"Passé 2-e forme", "CONDITIONEL", "ConditionnelPassé2.htm", 84},
-    {"Passé 1-er forme", "CONDITIONEL", "ConditionnelPassé1.htm", 78},
-    {"Présent", "CONDITIONEL", "ConditionelPrésent.htm", 72},
-    {"Passé", "IMPÉRATIF", "PasséImpératif.htm", 93},
-    {"Présent", "IMPÉRATIF", "PrésentImpératif.htm", 90},
-    {"Présent", "INFINITIF", "", 96},
-    {"Passé", "INFINITIF", "", 97},
-    {"Passé", "PARTICIPE", "", 99},
-    {"Présent", "PARTICIPE", "", 98},
-}};
+// The headings lblCzas; the first of them open a page, the others none.
+inline constexpr int kTenseHeadings = static_cast<int>(kTenseTopics.size());
+inline constexpr int kTopicHeadings = [] {
+  int count = 0;
+  for (const TenseHeading& heading : kTenseTopics) count += heading.page.empty() ? 0 : 1;
+  return count;
+}();
 
 // Pages of the help that no heading opens, and the help context of the hint's Help button.
 inline constexpr std::string_view kWelcomePage = "strony\\default.htm";

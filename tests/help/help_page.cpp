@@ -7,6 +7,7 @@
 #include <regex>
 #include <sstream>
 
+#include "app/logic/tense_topics.h"
 #include "tools/build_help/files.h"
 
 namespace odmiennik::help {
@@ -134,19 +135,13 @@ const HelpPage* findPage(std::string_view name) {
   return found == allPages().end() ? nullptr : &*found;
 }
 
-// deliberate: the names mix accented and plain spellings; the tense headings of the main window
-// open their pages by exactly these.
 const std::vector<std::string>& tensePageNames() {
-  static const std::vector<std::string> names{
-      "PresentIndicatif.htm",   "ImparfaitIndicatif.htm",
-      "PasseCompose.htm",       "Plus-que-parfaitIndicatif.htm",
-      "FuturAnterieur.htm",     "PasséAntérieur.htm",
-      "FuturSimple.htm",        "PasseSimple.htm",
-      "PresentSubjonctif.htm",  "ImparfaitSubjonctif.htm",
-      "Passé_Subjonctif.htm",   "Plus-que-parfait_Subjonctif.htm",
-      "ConditionnelPassé2.htm", "ConditionnelPassé1.htm",
-      "ConditionelPrésent.htm", "PasséImpératif.htm",
-      "PrésentImpératif.htm"};
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> pages;
+    for (const app::TenseHeading& heading : app::kTenseTopics)
+      if (!heading.page.empty()) pages.emplace_back(heading.page);
+    return pages;
+  }();
   return names;
 }
 

@@ -13,7 +13,7 @@ using Folders = std::set<std::string>;
 
 // What each folder may include of the project; folders that are not named may include anything.
 const std::map<std::string, Folders> kMayInclude{
-    {"engine", {"engine"}},
+    {"engine", {"engine", "data"}},
     {"groups", {"engine", "groups", "data"}},
     {"dictionary", {"engine", "groups", "dictionary", "data"}},
     {"cli", {"engine", "groups", "dictionary", "cli", "data"}},

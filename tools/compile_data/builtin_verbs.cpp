@@ -6,37 +6,11 @@
 namespace odmiennik::tools {
 namespace {
 
-// The names of the lines, in slot order.
-constexpr std::array<std::string_view, 22> kLineNames{
-    "présent",
-    "imparfait",
-    "passé simple",
-    "futur simple",
-    "passé composé",
-    "plus-que-parfait",
-    "passé antérieur",
-    "futur antérieur",
-    "subjonctif présent",
-    "subjonctif imparfait",
-    "subjonctif passé",
-    "subjonctif plus-que-parfait",
-    "conditionnel présent",
-    "conditionnel passé 1",
-    "conditionnel passé 2",
-    "impératif présent",
-    "impératif passé",
-    "infinitif présent",
-    "infinitif passé",
-    "participe présent",
-    "participe passé",
-    "participe passé composé",
-};
-
 constexpr std::array<Named<bool>, 2> kIsAvoir{{{"avoir", true}, {"être", false}}};
 
 class Reader {
  public:
-  explicit Reader(SourceFile file) : file_(std::move(file)) {}
+  Reader(SourceFile file, const TenseTable& tenses) : file_(std::move(file)), tenses_(tenses) {}
 
   std::vector<BuiltinVerb> read() {
     std::vector<BuiltinVerb> verbs;
@@ -64,6 +38,7 @@ class Reader {
     LineReader head = takeNamed("verb");
     const std::string name(head.takeRest("an infinitive is expected"));
     once_.note(head, name);
+    verb.infinitive = head.french(name);
     LineReader auxiliary = takeNamed("auxiliary");
     verb.isAvoir = auxiliary.takeNamed(kIsAvoir);
     auxiliary.finish();
@@ -71,34 +46,35 @@ class Reader {
       static_cast<void>(takeNamed("has").takeRest("tenses are expected"));
       static_cast<void>(takeNamed("why").takeRest("a reason is expected"));
     }
-    for (std::size_t tense = 0; tense < kLineNames.size(); ++tense)
-      readTense(kLineNames[tense], engine::kTenses[tense], verb);
-    if (verb.forms[engine::slot::kInfinitive] != head.french(name))
+    for (const SourceTense& tense : tenses_.rows()) readTense(tense, verb);
+    const int slot = tenses_.of("Infinitive").firstSlot;
+    if (verb.forms[static_cast<std::size_t>(slot)] != verb.infinitive)
       head.fail("the infinitive is not the block's verb");
     return verb;
   }
 
-  void readTense(std::string_view name, const engine::Tense& tense, BuiltinVerb& verb) {
-    LineReader line = takeNamed(name);
+  void readTense(const SourceTense& tense, BuiltinVerb& verb) {
+    LineReader line = takeNamed(tense.sourceName());
     std::vector<std::string> forms = split(line.takeRest("forms are expected"), '|');
-    const auto count = static_cast<std::size_t>(tense.slotCount);
+    const auto count = static_cast<std::size_t>(tense.formCount);
     if (forms.size() == 1 && (forms[0] == "*" || forms[0] == "@")) forms.resize(count, forms[0]);
     if (forms.size() != count) line.fail("a form for every person is expected");
-    for (std::size_t person = 0; person < count; ++person) {
-      if (forms[person].empty()) line.fail("an empty form; write \"@\" where there is none");
-      verb.forms[static_cast<std::size_t>(tense.firstSlot) + person] = line.french(forms[person]);
+    for (const std::string& form : forms) {
+      if (form.empty()) line.fail("an empty form; write \"@\" where there is none");
+      verb.forms.push_back(line.french(form));
     }
   }
 
   SourceFile file_;
+  const TenseTable& tenses_;
   std::size_t next_ = 0;
   Once once_;
 };
 
 }  // namespace
 
-std::vector<BuiltinVerb> readBuiltinVerbs(const std::string& path) {
-  return Reader(readSource(path)).read();
+std::vector<BuiltinVerb> readBuiltinVerbs(const std::string& path, const TenseTable& tenses) {
+  return Reader(readSource(path), tenses).read();
 }
 
 }  // namespace odmiennik::tools

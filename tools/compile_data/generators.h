@@ -9,14 +9,21 @@ namespace odmiennik::tools {
 
 using Paths = std::vector<std::string>;
 
-// strings.txt, tips.txt, builtin_verbs.txt -> the numbered string table and the built-in verbs'
-// keys.
+// tenses.txt -> a header: the slots and the tenses that they belong to.
+void generateTenses(const Paths& sources, std::ostream& out);
+
+// tenses.txt -> a header: the pages that headings and boxes open.
+void generateTenseHelp(const Paths& sources, std::ostream& out);
+
+// tenses.txt, strings.txt, tips.txt, builtin_verbs.txt -> the numbered string table and the
+// built-in verbs' keys.
 void generateStrings(const Paths& sources, std::ostream& out);
 
 // verb_index.tsv -> the general verb index.
 void generateVerbIndex(const Paths& sources, std::ostream& out);
 
-// A dispatch and its models -> a header of constant tables; the first word of the names is given.
+// tenses.txt, a dispatch and its models -> a header of constant tables; the first word of the names
+// is given.
 void generateRules(const std::string& group, const Paths& sources, std::ostream& out);
 
 // norm/strings.txt, norm/lists.txt -> texts, lists of verbs and participles of the norm.
@@ -31,7 +38,7 @@ void generateMessages(const Paths& sources, std::ostream& out);
 // hints.txt -> a header: an enumeration of the window's quiet texts and their table.
 void generateHints(const Paths& sources, std::ostream& out);
 
-// window/main_window.txt -> a header: the table of the main window's controls.
+// tenses.txt, window/main_window.txt -> a header: the table of the main window's controls.
 void generateWindow(const Paths& sources, std::ostream& out);
 
 }  // namespace odmiennik::tools

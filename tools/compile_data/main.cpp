@@ -20,6 +20,8 @@ Generator rulesOf(const char* group) {
 }
 
 const std::map<std::string, Generator> kGenerators{
+    {"tenses", odmiennik::tools::generateTenses},
+    {"tense-help", odmiennik::tools::generateTenseHelp},
     {"strings", odmiennik::tools::generateStrings},
     {"verb-index", odmiennik::tools::generateVerbIndex},
     {"first-group", rulesOf("FirstGroup")},

@@ -62,12 +62,12 @@ std::string keyOf(const LineReader& whole, const LineReader& behindTense) {
 }
 
 // "[listed|otherwise] build TENSE [from BASE]" or "[listed|otherwise] [whole] TENSE forms".
-void readStep(LineReader& line, ModelBlock& block) {
+void readStep(LineReader& line, const RuleTenses& tenses, ModelBlock& block) {
   const LineReader whole = line;
   const Condition condition = takeCondition(line);
   const bool isBuilt = line.take("build");
   const Action action = line.take("whole") ? Action::writeWhole : Action::write;
-  const SourceTense& tense = takeTense(line);
+  const RuleTense& tense = takeTense(line, tenses);
   block.once.note(line, keyOf(whole, line));
   if (!isBuilt) return takeForms(line, tense, action, condition, block.model);
   if (tense.builder == Action::write || tense.builder == Action::pastParticiple)
@@ -78,16 +78,16 @@ void readStep(LineReader& line, ModelBlock& block) {
   block.model.steps.push_back(step);
 }
 
-bool isBuilderLine(const LineReader& line, const SourceTense& tense) {
+bool isBuilderLine(const LineReader& line, const RuleTense& tense) {
   return (tense.builder == Action::future || tense.builder == Action::pastHistoric) &&
          line.rest().find('|') == std::string_view::npos;
 }
 
 // A line of a table: forms, or what the tense is built from, or "none", or "then" and forms.
-void readTableLine(LineReader& line, ModelBlock& block) {
+void readTableLine(LineReader& line, const RuleTenses& tenses, ModelBlock& block) {
   const LineReader whole = line;
   const Condition condition = takeCondition(line);
-  const SourceTense& tense = takeTense(line);
+  const RuleTense& tense = takeTense(line, tenses);
   block.once.note(line, keyOf(whole, line));
   const bool isOmitted = line.take("none");
   const bool isBehindBuilder = line.take("then");
@@ -105,10 +105,10 @@ void readTableLine(LineReader& line, ModelBlock& block) {
 }
 
 // The stage that a step belongs to: a written form belongs to its tense's.
-Action stageOf(const SourceStep& step) {
+Action stageOf(const SourceStep& step, const RuleTenses& tenses) {
   if (step.action != Action::write) return step.action;
-  for (const SourceTense& tense : kSourceTenses)
-    if (step.slot >= tense.firstSlot && step.slot < tense.firstSlot + tense.slotCount)
+  for (const RuleTense& tense : tenses)
+    if (step.slot >= tense.firstSlot && step.slot < tense.firstSlot + tense.formCount)
       return tense.builder;
   return step.action;
 }
@@ -120,13 +120,13 @@ SourceStep defaultStep(Action stage) {
 }
 
 // Puts a table's steps into the common sequence and adds the builders that it does not name.
-void arrange(SourceModel& model) {
+void arrange(SourceModel& model, const RuleTenses& tenses) {
   const std::vector<SourceStep> given = std::move(model.steps);
   model.steps.clear();
   for (const Action stage : kCommonSequence) {
     std::vector<SourceStep> own;
     std::copy_if(given.begin(), given.end(), std::back_inserter(own),
-                 [&](const SourceStep& step) { return stageOf(step) == stage; });
+                 [&](const SourceStep& step) { return stageOf(step, tenses) == stage; });
     if (own.empty()) own.push_back(defaultStep(stage));
     std::copy_if(own.begin(), own.end(), std::back_inserter(model.steps),
                  [](const SourceStep& step) { return step.slot != kOmitted; });
@@ -140,8 +140,8 @@ constexpr std::array<Named<Notation>, 2> kNotations{
 // Reads the blocks of one file.
 class ModelReader {
  public:
-  ModelReader(const SourceFile& file, std::vector<SourceModel>& models)
-      : file_(file), models_(models) {}
+  ModelReader(const SourceFile& file, const RuleTenses& tenses, std::vector<SourceModel>& models)
+      : file_(file), tenses_(tenses), models_(models) {}
 
   void read() {
     for (const SourceLine& line : file_.lines) readLine(LineReader(file_, line));
@@ -157,7 +157,8 @@ class ModelReader {
     if (line.take("cut")) return readCut(line, block);
     if (!block.once.has("cut")) line.fail("\"cut N\" is expected first");
     if (line.take("verbs")) return readVerbs(line, block);
-    notation_ == Notation::steps ? readStep(line, block) : readTableLine(line, block);
+    notation_ == Notation::steps ? readStep(line, tenses_, block)
+                                 : readTableLine(line, tenses_, block);
   }
 
   void readNotation(LineReader line) {
@@ -184,12 +185,13 @@ class ModelReader {
       block.head.fail("a condition without a list of verbs");
     if (!hasConditions(block.model) && !block.model.verbs.empty())
       block.head.fail("a list of verbs that no condition asks for");
-    if (notation_ == Notation::table) arrange(block.model);
+    if (notation_ == Notation::table) arrange(block.model, tenses_);
     models_.push_back(std::move(block.model));
     blocks_.clear();
   }
 
   const SourceFile& file_;
+  const RuleTenses& tenses_;
   std::vector<SourceModel>& models_;
   std::vector<ModelBlock> blocks_;  // the one being read, or none
   Notation notation_ = Notation::steps;
@@ -198,9 +200,10 @@ class ModelReader {
 
 }  // namespace
 
-void readModels(const std::string& path, std::vector<SourceModel>& models) {
+void readModels(const std::string& path, const RuleTenses& tenses,
+                std::vector<SourceModel>& models) {
   const SourceFile file = readSource(path);
-  ModelReader(file, models).read();
+  ModelReader(file, tenses, models).read();
 }
 
 }  // namespace odmiennik::tools

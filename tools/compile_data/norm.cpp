@@ -107,11 +107,11 @@ void generateNormTexts(const Paths& sources, std::ostream& out) {
 
 void generateNormModels(const Paths& sources, std::ostream& out) {
   std::vector<SourceModel> models;
-  readModels(sources.at(0), models);
+  readModels(sources.at(1), ruleTenses(TenseTable(sources.at(0))), models);
   out << "#pragma once\n#include \"groups/rule_rows.h\"\nnamespace odmiennik::groups::data {\n";
   writeModels(out, "Norm", models);
   out << "inline constexpr NormRow kNormRows[] = {\n";
-  const SourceFile file = readSource(sources.at(1));
+  const SourceFile file = readSource(sources.at(2));
   Once once;
   for (const SourceLine& source : file.lines) {
     LineReader line(file, source);

@@ -42,7 +42,7 @@ void takeBase(LineReader& line, SourceStep& step) {
     line.fail("letters are cut from infinitive and nous only");
 }
 
-void takeEndings(LineReader& line, const SourceTense& tense, SourceStep& step) {
+void takeEndings(LineReader& line, const RuleTense& tense, SourceStep& step) {
   if (!tense.takesEndings) line.fail("this tense takes no endings");
   step.endings = line.takeNamed(kEndings);
 }
@@ -55,20 +55,20 @@ Condition takeCondition(LineReader& line) {
   return Condition::always;
 }
 
-const SourceTense& takeTense(LineReader& line) {
-  for (const SourceTense& tense : kSourceTenses)
+const RuleTense& takeTense(LineReader& line, const RuleTenses& tenses) {
+  for (const RuleTense& tense : tenses)
     if (line.take(tense.name)) return tense;
   line.fail("a tense is expected");
 }
 
-void takeForms(LineReader& line, const SourceTense& tense, Action action, Condition condition,
+void takeForms(LineReader& line, const RuleTense& tense, Action action, Condition condition,
                SourceModel& model) {
   const std::vector<std::string> texts = split(line.takeRest("forms are expected"), '|');
-  if (texts.size() != static_cast<std::size_t>(tense.slotCount))
+  if (texts.size() != static_cast<std::size_t>(tense.formCount))
     line.fail("a form for every person is expected");
   const std::size_t before = model.steps.size();
   if (tense.builder == Action::pastParticiple) action = Action::pastParticiple;
-  for (int person = 0; person < tense.slotCount; ++person) {
+  for (int person = 0; person < tense.formCount; ++person) {
     const std::string& text = texts[static_cast<std::size_t>(person)];
     if (text == "-") continue;
     model.steps.push_back({.action = action,
@@ -79,7 +79,7 @@ void takeForms(LineReader& line, const SourceTense& tense, Action action, Condit
   if (model.steps.size() == before) line.fail("no form is written");
 }
 
-SourceStep takeBuilder(LineReader& line, const SourceTense& tense) {
+SourceStep takeBuilder(LineReader& line, const RuleTense& tense) {
   SourceStep step{.action = tense.builder};
   if (!line.take("default") && !line.isAtEnd()) {
     LineReader first = line.takePart(',');

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "groups/rule_rows.h"
+#include "tools/compile_data/rule_tenses.h"
 
 namespace odmiennik::tools {
 
@@ -38,7 +39,8 @@ struct SourceRow {
 
 // Adds the models of a file, in the notation that its first line names: "notation steps", the steps
 // in the order in which they are done, or "notation table", what differs from the common sequence.
-void readModels(const std::string& path, std::vector<SourceModel>& models);
+void readModels(const std::string& path, const RuleTenses& tenses,
+                std::vector<SourceModel>& models);
 
 // Writes the models as a constant table, "k", `group` and "Models".
 void writeModels(std::ostream& out, const std::string& group,

@@ -69,10 +69,11 @@ void writeDispatch(std::ostream& out, const std::string& group,
 
 void generateRules(const std::string& group, const Paths& sources, std::ostream& out) {
   std::vector<SourceModel> models;
-  for (std::size_t i = 1; i < sources.size(); ++i) readModels(sources[i], models);
+  const RuleTenses tenses = ruleTenses(TenseTable(sources.at(0)));
+  for (std::size_t i = 2; i < sources.size(); ++i) readModels(sources[i], tenses, models);
   out << "#pragma once\n#include \"groups/rule_rows.h\"\nnamespace odmiennik::groups::data {\n";
   writeModels(out, group, models);
-  writeDispatch(out, group, readDispatch(sources.at(0), models));
+  writeDispatch(out, group, readDispatch(sources.at(1), models));
   out << "}\n";
 }
 

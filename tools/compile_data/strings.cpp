@@ -44,7 +44,7 @@ void addBuiltinVerbs(Texts& texts, const std::vector<BuiltinVerb>& verbs) {
   int name = text_id::kBuiltinCount;
   int entry = text_id::kBuiltinForms;
   for (const BuiltinVerb& verb : verbs) {
-    texts[++name] = verb.forms[engine::slot::kInfinitive];
+    texts[++name] = verb.infinitive;
     for (const std::string& form : verb.forms) texts[entry++] = form;
     texts[entry++] = verb.isAvoir ? "1" : "0";
   }
@@ -66,8 +66,7 @@ void writeTexts(std::ostream& out, const Texts& texts) {
 
 void writeKeys(std::ostream& out, const std::vector<BuiltinVerb>& verbs) {
   std::vector<std::string> keys;
-  for (const BuiltinVerb& verb : verbs)
-    keys.push_back(engine::lookupKey(verb.forms[engine::slot::kInfinitive]));
+  for (const BuiltinVerb& verb : verbs) keys.push_back(engine::lookupKey(verb.infinitive));
   TextBlock block;
   for (const std::string& key : keys) block.add(key);
   const std::vector<std::uint32_t> table = hashTable(keys);
@@ -81,9 +80,10 @@ void writeKeys(std::ostream& out, const std::vector<BuiltinVerb>& verbs) {
 
 void generateStrings(const Paths& sources, std::ostream& out) {
   Texts texts;
-  addSmallTexts(texts, sources.at(0));
-  addTips(texts, sources.at(1));
-  const std::vector<BuiltinVerb> verbs = readBuiltinVerbs(sources.at(2));
+  const TenseTable tenses(sources.at(0));
+  addSmallTexts(texts, sources.at(1));
+  addTips(texts, sources.at(2));
+  const std::vector<BuiltinVerb> verbs = readBuiltinVerbs(sources.at(3), tenses);
   addBuiltinVerbs(texts, verbs);
   out << "#include \"dictionary/builtin_verbs_data.h\"\n"
          "#include \"engine/string_table_data.h\"\n";

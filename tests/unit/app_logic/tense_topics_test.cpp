@@ -32,15 +32,6 @@ TEST(tense_topics, infinitives_and_participles_have_none) {
   for (const int heading : {17, 18, 19, 20, 21, -1}) EXPECT_FALSE(topicOf(heading)) << heading;
 }
 
-TEST(tense_topics, captions_are_those_of_the_engines_tenses) {
-  for (const TenseHeading& heading : kTenseTopics)
-    for (const engine::Tense& tense : engine::kTenses)
-      if (tense.firstSlot == heading.firstSlot) {
-        EXPECT_EQ(heading.caption, tense.tenseCaption) << heading.firstSlot;
-        EXPECT_EQ(heading.mood, tense.moodCaption) << heading.firstSlot;
-      }
-}
-
 TEST(tense_topics, headings_stand_above_different_slots) {
   std::set<int> slots;
   for (const TenseHeading& heading : kTenseTopics) slots.insert(heading.firstSlot);

@@ -20,19 +20,21 @@ const fs::path kProject = ODMIENNIK_SOURCE_DIR;
 
 // What compile_data is told for a kind of source; "@" is the place of the faulty one.
 const std::map<std::string, std::string> kCommands{
-    {"models", "other-groups /dev/null data/rules/third_group_dispatch.txt @"},
-    {"dispatch", "other-groups /dev/null @ data/rules/third_group_models.txt"},
-    {"first_dispatch", "first-group /dev/null @ data/rules/first_group_models.txt"},
-    {"strings", "strings /dev/null @ data/tips.txt data/builtin_verbs.txt"},
-    {"tips", "strings /dev/null data/strings.txt @ data/builtin_verbs.txt"},
-    {"builtin", "strings /dev/null data/strings.txt data/tips.txt @"},
+    {"tenses", "tenses /dev/null @"},
+    {"rule_tenses", "other-groups /dev/null @ data/rules/third_group_dispatch.txt"},
+    {"models", "other-groups /dev/null data/tenses.txt data/rules/third_group_dispatch.txt @"},
+    {"dispatch", "other-groups /dev/null data/tenses.txt @ data/rules/third_group_models.txt"},
+    {"first_dispatch", "first-group /dev/null data/tenses.txt @ data/rules/first_group_models.txt"},
+    {"strings", "strings /dev/null data/tenses.txt @ data/tips.txt data/builtin_verbs.txt"},
+    {"tips", "strings /dev/null data/tenses.txt data/strings.txt @ data/builtin_verbs.txt"},
+    {"builtin", "strings /dev/null data/tenses.txt data/strings.txt data/tips.txt @"},
     {"index", "verb-index /dev/null @"},
     {"norm_strings", "norm-texts /dev/null @ data/norm/lists.txt"},
     {"norm_lists", "norm-texts /dev/null data/norm/strings.txt @"},
-    {"norm_verbs", "norm-models /dev/null data/norm/models.txt @"},
+    {"norm_verbs", "norm-models /dev/null data/tenses.txt data/norm/models.txt @"},
     {"hints", "hints /dev/null @"},
     {"messages", "messages /dev/null @"},
-    {"window", "window /dev/null @"},
+    {"window", "window /dev/null data/tenses.txt @"},
 };
 
 struct Answer {

@@ -9,6 +9,7 @@
 #include "dictionary/builtin_verbs.h"
 #include "dictionary/verb_index.h"
 #include "engine/completion.h"
+#include "engine/compound_tenses.h"
 #include "engine/normalization.h"
 #include "tests/support/test_program.h"
 
@@ -20,35 +21,31 @@ using Slots = std::set<int>;
 using Words = std::vector<std::string>;
 
 struct Tense {
-  std::string_view name;
+  std::string name;  // as the data's source has it: mood and name, in the indicative the name alone
   int firstSlot;
   int slotCount;
-  bool isCompound = false;
+  bool isCompound;
 };
 
-// The tenses under the names of the data's source.
-constexpr Tense kTenses[] = {{"présent", 0, 6},
-                             {"imparfait", 6, 6},
-                             {"passé simple", 12, 6},
-                             {"futur simple", 18, 6},
-                             {"passé composé", 24, 6, true},
-                             {"plus-que-parfait", 30, 6, true},
-                             {"passé antérieur", 36, 6, true},
-                             {"futur antérieur", 42, 6, true},
-                             {"subjonctif présent", 48, 6},
-                             {"subjonctif imparfait", 54, 6},
-                             {"subjonctif passé", 60, 6, true},
-                             {"subjonctif plus-que-parfait", 66, 6, true},
-                             {"conditionnel présent", 72, 6},
-                             {"conditionnel passé 1", 78, 6, true},
-                             {"conditionnel passé 2", 84, 6, true},
-                             {"impératif présent", 90, 3},
-                             {"impératif passé", 93, 3, true},
-                             {"infinitif présent", 96, 1},
-                             {"infinitif passé", 97, 1, true},
-                             {"participe présent", 98, 1},
-                             {"participe passé", 99, 1},
-                             {"participe passé composé", 100, 1, true}};
+bool isCompound(const engine::Tense& tense) {
+  engine::FormTable forms;
+  forms[tense.firstSlot] = engine::kPlaceholder;
+  return engine::hasCompoundPlaceholder(forms);
+}
+
+std::string sourceName(const engine::Tense& tense) {
+  if (tense.mood == "Indicatif") return std::string(tense.name);
+  std::string name = std::string(tense.mood) + " " + std::string(tense.name);
+  name[0] = static_cast<char>(name[0] - 'A' + 'a');
+  return name;
+}
+
+const std::vector<Tense> kTenses = [] {
+  std::vector<Tense> tenses;
+  for (const engine::Tense& tense : engine::kTenses)
+    tenses.push_back({sourceName(tense), tense.firstSlot, tense.slotCount, isCompound(tense)});
+  return tenses;
+}();
 
 struct Source {
   std::string infinitive;
@@ -102,8 +99,8 @@ void addItem(const std::string& item, Slots& slots) {
   const Words parts = split(item, ": ");
   const Words persons = parts.size() > 1 ? split(parts[1], " ") : Words{};
   if (parts[0] == "composés") return addCompounds(persons, slots);
-  const auto* tense = std::ranges::find(kTenses, parts[0], &Tense::name);
-  ASSERT_NE(tense, std::end(kTenses)) << item;
+  const auto tense = std::ranges::find(kTenses, parts[0], &Tense::name);
+  ASSERT_NE(tense, kTenses.end()) << item;
   addSlots(*tense, persons, slots);
 }
 
