@@ -3,6 +3,7 @@
 
 #include "cli/format.h"
 #include "cli/json_text.h"
+#include "dictionary/verb_labels.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -40,13 +41,13 @@ void appendArray(std::string& out, std::string_view key, const Texts& texts,
   out.append(before == '[' ? "[]" : "]");
 }
 
-void appendLabels(std::string& out, const engine::VerbLabels& labels) {
+void appendLabels(std::string& out, const dictionary::VerbLabels& labels) {
   out.append(",\"labels\":{\"group\":");
-  appendJsonUtf8(out, labels.lblGrupaWartość);
-  appendUtf8(out, "transitive", labels.lblPrzechodniWartość);
-  appendUtf8(out, "intransitive", labels.lblNieprzechodniWartość);
-  appendUtf8(out, "auxiliary", labels.lblPosiłkowyWartość);
-  appendUtf8(out, "government", labels.lblRządWartość);
+  appendJsonUtf8(out, labels.group);
+  appendUtf8(out, "transitive", labels.transitive);
+  appendUtf8(out, "intransitive", labels.intransitive);
+  appendUtf8(out, "auxiliary", labels.auxiliary);
+  appendUtf8(out, "government", labels.government);
   out.push_back('}');
 }
 
@@ -58,9 +59,9 @@ class JsonFormat final : public Format {
     out.append("{\"typed\":");
     appendJsonUtf8(out, answer.typed);
     appendTable(out, conjugation);
-    appendLabels(out, conjugation.information.labels);
-    appendFlag(out, "aux_checked", conjugation.information.chkZAvoir.isChecked);
-    appendFlag(out, "aux_enabled", conjugation.information.chkZAvoir.isEnabled);
+    appendLabels(out, dictionary::labelsOf(conjugation.information));
+    appendFlag(out, "aux_checked", conjugation.flags.auxiliary == engine::kAvoir);
+    appendFlag(out, "aux_enabled", conjugation.information.isAuxiliaryFree);
     appendArray(out, "messages", answer.messages, appendJsonUtf8);
     appendFlag(out, "pronominal", answer.isPronominal);
     appendFlag(out, "impersonal", conjugation.flags.isImpersonal);

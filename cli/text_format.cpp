@@ -4,6 +4,7 @@
 #include "cli/format.h"
 #include "cli/page.h"
 #include "cli/text_layout.h"
+#include "dictionary/verb_labels.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -72,13 +73,13 @@ class VerbTable {
   }
 
   void writeInformation() {
-    const engine::VerbLabels& labels = conjugation_.information.labels;
-    writeFact(0, "grupa: ", labels.lblGrupaWartość);
-    writeFact(1, "przechodni: ", labels.lblPrzechodniWartość);
-    writeFact(2, "nieprzechodni: ", labels.lblNieprzechodniWartość);
+    const dictionary::VerbLabels labels = dictionary::labelsOf(conjugation_.information);
+    writeFact(0, "grupa: ", labels.group);
+    writeFact(1, "przechodni: ", labels.transitive);
+    writeFact(2, "nieprzechodni: ", labels.intransitive);
     page_.endLine();
-    writeFact(0, "posiłkowy: ", labels.lblPosiłkowyWartość);
-    writeFact(1, "rząd: ", labels.lblRządWartość);
+    writeFact(0, "posiłkowy: ", labels.auxiliary);
+    writeFact(1, "rząd: ", labels.government);
     writeFact(2, "źródło: ", sourceText(conjugation_.source));
     page_.endLine();
     writeNotes();
@@ -92,8 +93,8 @@ class VerbTable {
 
   // What the labels alone would leave open: the model, and an auxiliary other than the one named.
   void writeNotes() {
-    const std::string_view auxiliary = engine::auxiliaryName(conjugation_.flags.auxiliary);
-    const bool isOther = conjugation_.information.labels.lblPosiłkowyWartość != auxiliary;
+    const std::string_view auxiliary = dictionary::auxiliaryName(conjugation_.flags.auxiliary);
+    const bool isOther = dictionary::labelsOf(conjugation_.information).auxiliary != auxiliary;
     if (isOther) writeFact(0, "złożone z: ", auxiliary);
     if (!conjugation_.model.empty()) writeFact(isOther ? 1 : 0, "model: ", conjugation_.model);
     if (isOther || !conjugation_.model.empty()) page_.endLine();

@@ -20,9 +20,8 @@ bool isVerbShown(const Conjugation& conjugation, std::string_view typed) {
 
 // Of a verb that has both, the auxiliary that the user has chosen is not lost to its record.
 void keepAuxiliary(std::uint8_t chosen, Conjugation& conjugation) {
-  const bool isFree =
-      conjugation.information.chkZAvoir.isEnabled && !conjugation.flags.isPronominal;
-  if (isFree) setAuxiliary(chosen, conjugation.flags, conjugation.information);
+  const bool isFree = conjugation.information.isAuxiliaryFree && !conjugation.flags.isPronominal;
+  if (isFree) conjugation.flags.auxiliary = chosen;
 }
 
 void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
@@ -61,12 +60,12 @@ void readReflexiveOfNorm(EngineFlags& flags) {
   takeAdverb(flags);
 }
 
-void applyNormTo(EngineFlags& flags, VerbInformation& information) {
+void applyNormTo(EngineFlags& flags, const VerbInformation& information) {
   if (flags.isPronominal && isImpersonalReflexive(flags.normalizedInput))
     flags.isImpersonal = true;
-  else if (!flags.isPronominal && information.chkZAvoir.isEnabled &&
+  else if (!flags.isPronominal && information.isAuxiliaryFree &&
            isUsuallyWithEtre(flags.normalizedInput))
-    setAuxiliary(kEtre, flags, information);
+    flags.auxiliary = kEtre;
 }
 
 void agreeParticiple(Conjugation& conjugation) {
@@ -82,7 +81,7 @@ void agreeParticiple(Conjugation& conjugation) {
 
 Outcome Driver::conjugate(Conjugation& conjugation, std::string_view typed) {
   conjugation.flags.isConjugationShown = false;
-  setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
+  conjugation.flags.auxiliary = kAvoir;
   conjugation.forms[slot::kInfinitive].assign(typed);
   const Outcome outcome = fill(conjugation, false, std::nullopt);
   if (outcome == Outcome::reset) return outcome;
@@ -96,18 +95,18 @@ Outcome Driver::conjugateForEditing(Conjugation& conjugation, std::string_view t
   if (isVerbShown(conjugation, typed))
     chosen = conjugation.flags.auxiliary;
   else
-    setAuxiliary(kAvoir, conjugation.flags, conjugation.information);
+    conjugation.flags.auxiliary = kAvoir;
   conjugation.flags.isConjugationShown = false;
   conjugation.forms[slot::kInfinitive].assign(typed);
   const Outcome outcome = fill(conjugation, true, chosen);
   if (outcome == Outcome::reset) return outcome;
   show(conjugation, true);
-  conjugation.information.chkZAvoir.isEnabled = true;
+  conjugation.information.isAuxiliaryFree = true;
   return outcome;
 }
 
 void Driver::toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEditing) {
-  setAuxiliary(isAvoir ? kAvoir : kEtre, conjugation.flags, conjugation.information);
+  conjugation.flags.auxiliary = isAvoir ? kAvoir : kEtre;
   if (isEditing) return;
   buildCompoundTenses(conjugation.forms, conjugation.flags.auxiliary,
                       {.keepsEmptySlots = conjugation.flags.isConjugationShown,
@@ -194,10 +193,6 @@ Outcome Driver::conjugateByRule(Conjugation& conjugation, bool isKnown, bool isE
   }
   buildCompoundTenses(forms, flags.auxiliary, {.agreement = flags.agreement});
   return Outcome::conjugated;
-}
-
-std::string_view auxiliaryCaption(std::uint8_t auxiliary) {
-  return auxiliary == kAvoir ? "&se conjugué avec avoir" : "&se conjugué avec être";
 }
 
 }  // namespace odmiennik::engine

@@ -46,7 +46,4 @@ class Driver {
   Ports ports_;
 };
 
-// The caption of the auxiliary's check box, UTF-8: "&se conjugué avec " and the auxiliary.
-[[nodiscard]] std::string_view auxiliaryCaption(std::uint8_t auxiliary);
-
 }  // namespace odmiennik::engine

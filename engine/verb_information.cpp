@@ -1,48 +1,26 @@
 // Reading of the verb-information record.
 #include "engine/verb_information.h"
 
-#include <array>
-#include <span>
+#include <algorithm>
 
 namespace odmiennik::engine {
 namespace {
 
-constexpr std::string_view kYes = "tak";
-constexpr std::string_view kNo = "nie";
-constexpr std::string_view kAvoirName = "avoir";
-constexpr std::string_view kEtreName = "être";
-
-// Codes "1", "2" … of a field and the texts that they show.
-constexpr std::array<std::string_view, 4> kGroups{"pierwsza", "druga", "trzecia", "ułomny"};
-constexpr std::array<std::string_view, 4> kUses{kYes, kNo, "tak, avoir", "tak, être"};
-
-struct AuxiliaryRow {
-  std::string_view label;
-  std::uint8_t auxiliary;
-  bool mayBeSwitched;
-};
-constexpr std::array<AuxiliaryRow, 3> kAuxiliaries{
-    {{kAvoirName, kAvoir, false}, {kEtreName, kEtre, false}, {"avoir lub être", kAvoir, true}}};
-
-// The row that a one-digit code selects, or nullptr for any other text.
-template <typename Row, std::size_t Count>
-const Row* rowOfCode(std::string_view code, const std::array<Row, Count>& rows) {
-  if (code.size() != 1 || code[0] < '1') return nullptr;
-  const auto position = static_cast<std::size_t>(code[0] - '1');
-  return position < Count ? &rows[position] : nullptr;
+// A field's codes "1", "2" … are the values behind `unknown`; any other text changes nothing.
+template <typename Value>
+bool take(std::string_view code, Value last, Value& value) {
+  const int number = code.size() == 1 ? code[0] - '0' : 0;
+  if (number < 1 || number > static_cast<int>(last)) return false;
+  value = static_cast<Value>(number);
+  return true;
 }
 
-void show(std::string_view code, const std::array<std::string_view, 4>& texts,
-          std::string_view& label) {
-  if (const std::string_view* text = rowOfCode(code, texts)) label = *text;
-}
+void takeUse(std::string_view code, Use& use) { take(code, Use::withEtre, use); }
 
-void applyAuxiliary(std::string_view code, EngineFlags& flags, VerbInformation& information) {
-  const AuxiliaryRow* row = rowOfCode(code, kAuxiliaries);
-  if (row == nullptr) return;
-  information.labels.lblPosiłkowyWartość = row->label;
-  information.chkZAvoir.isEnabled = row->mayBeSwitched;
-  setAuxiliary(row->auxiliary, flags, information);
+void takeAuxiliary(std::string_view code, EngineFlags& flags, VerbInformation& information) {
+  if (!take(code, KnownAuxiliary::either, information.auxiliary)) return;
+  information.isAuxiliaryFree = information.auxiliary == KnownAuxiliary::either;
+  flags.auxiliary = information.auxiliary == KnownAuxiliary::etre ? kEtre : kAvoir;
 }
 
 void applyFlags(std::string_view record, EngineFlags& flags) {
@@ -64,50 +42,37 @@ bool takeField(std::string_view& rest, std::string_view& field) {
 
 }  // namespace
 
-void setAuxiliary(std::uint8_t auxiliary, EngineFlags& flags, VerbInformation& information) {
-  flags.auxiliary = auxiliary;
-  information.chkZAvoir.isChecked = auxiliary == kAvoir;
-}
-
-std::string_view auxiliaryName(std::uint8_t auxiliary) {
-  return auxiliary == kAvoir ? kAvoirName : kEtreName;
-}
-
 void applyRecord(std::string_view record, EngineFlags& flags, VerbInformation& information) {
   if (record.empty()) {
-    information.labels = {};
-    information.chkZAvoir.isEnabled = true;
+    information = {};
     return;
   }
   const auto firstBar = record.find('|');
   if (firstBar == std::string_view::npos) return;
-  VerbLabels& labels = information.labels;
-  show(record.substr(firstBar + 1, 1), kGroups, labels.lblGrupaWartość);
+  take(record.substr(firstBar + 1, 1), Group::defective, information.group);
   // By position: the group is one character, so the next field starts three behind the bar.
   std::string_view rest = record.substr(std::min(firstBar + 3, record.size()));
   std::string_view field;
-  if (!takeField(rest, field)) return show(field, kUses, labels.lblPrzechodniWartość);
-  show(field, kUses, labels.lblPrzechodniWartość);
+  const bool hasIntransitive = takeField(rest, field);
+  takeUse(field, information.transitive);
+  if (!hasIntransitive) return;
   const bool hasAuxiliary = takeField(rest, field);
-  show(field, kUses, labels.lblNieprzechodniWartość);
+  takeUse(field, information.intransitive);
   if (!hasAuxiliary) return;
   const bool hasFlags = takeField(rest, field);
-  applyAuxiliary(field, flags, information);
+  takeAuxiliary(field, flags, information);
   if (hasFlags) applyFlags(record, flags);
 }
 
 void applyPronominal(EngineFlags& flags, VerbInformation& information) {
-  information.labels.lblPrzechodniWartość = kNo;
-  information.labels.lblNieprzechodniWartość = kNo;
-  information.labels.lblPosiłkowyWartość = kEtreName;
-  setAuxiliary(kEtre, flags, information);
+  information.transitive = information.intransitive = Use::no;
+  information.auxiliary = KnownAuxiliary::etre;
+  flags.auxiliary = kEtre;
 }
 
-void applyStoredVerb(EngineFlags& flags, VerbInformation& information) {
-  information.labels = {};
-  information.labels.lblPosiłkowyWartość = auxiliaryName(flags.auxiliary);
-  information.chkZAvoir.isEnabled = true;
-  setAuxiliary(flags.auxiliary, flags, information);
+void applyStoredVerb(const EngineFlags& flags, VerbInformation& information) {
+  information = {};
+  information.auxiliary = flags.auxiliary == kAvoir ? KnownAuxiliary::avoir : KnownAuxiliary::etre;
 }
 
 }  // namespace odmiennik::engine

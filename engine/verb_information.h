@@ -1,50 +1,39 @@
-// What is known of a verb beside its forms: group, transitivity, auxiliary, and the auxiliary's
-// box.
+// What is known of a verb beside its forms: group, uses, auxiliary.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "engine/flags.h"
 
 namespace odmiennik::engine {
 
-inline constexpr std::string_view kNoData = "b.d.";
+enum class Group : std::uint8_t { unknown, first, second, third, defective };
 
-// The five value labels, Polish in UTF-8 with the auxiliaries' French infinitives.
-struct VerbLabels {
-  std::string_view lblGrupaWartość = kNoData;
-  std::string_view lblPrzechodniWartość = kNoData;
-  std::string_view lblNieprzechodniWartość = kNoData;
-  std::string_view lblPosiłkowyWartość = kNoData;
-  std::string_view lblRządWartość = kNoData;  // no source fills it
-};
+// Whether a verb is used so, transitively or intransitively; some take an auxiliary for the use.
+enum class Use : std::uint8_t { unknown, yes, no, withAvoir, withEtre };
 
-// The state of the check box "se conjugué avec avoir".
-struct AuxiliaryBox {
-  bool isChecked = true;
-  bool isEnabled = true;
-};
+enum class KnownAuxiliary : std::uint8_t { unknown, avoir, etre, either };
 
+// How it is worded stands in dictionary/verb_labels.h.
 struct VerbInformation {
-  VerbLabels labels;
-  AuxiliaryBox chkZAvoir;
+  Group group = Group::unknown;
+  Use transitive = Use::unknown;
+  Use intransitive = Use::unknown;
+  KnownAuxiliary auxiliary = KnownAuxiliary::unknown;
+  bool isAuxiliaryFree = true;  // the user may choose the other one
 };
 
-// Sets the auxiliary flag and ticks or clears the box with it.
-void setAuxiliary(std::uint8_t auxiliary, EngineFlags& flags, VerbInformation& information);
-
-// "avoir" or "être" as labels show it (UTF-8).
-[[nodiscard]] std::string_view auxiliaryName(std::uint8_t auxiliary);
-
-// Applies a record "free|group|transitive|intransitive|auxiliary[|flags]" to labels, box and flags.
-// The empty record means that nothing is known: "b.d." everywhere, box enabled. Unknown codes and
-// missing fields change nothing. Example: "|1|1|2|1" -> "pierwsza", "tak", "nie", "avoir".
+// Applies a record "free|group|transitive|intransitive|auxiliary[|flags]" to information and flags.
+// The empty record means that nothing is known, and that the auxiliary is free. Unknown codes and
+// missing fields change nothing. Example: "|1|1|2|1" -> first group, transitive, not intransitive,
+// avoir.
 void applyRecord(std::string_view record, EngineFlags& flags, VerbInformation& information);
 
 // A verb conjugated pronominally: neither transitive nor intransitive, with être.
 void applyPronominal(EngineFlags& flags, VerbInformation& information);
 
-// A verb of the user's own: nothing is known but its auxiliary, and that may be switched.
-void applyStoredVerb(EngineFlags& flags, VerbInformation& information);
+// A verb of the user's own: nothing is known but its auxiliary, and that is free.
+void applyStoredVerb(const EngineFlags& flags, VerbInformation& information);
 
 }  // namespace odmiennik::engine

@@ -9,11 +9,10 @@
 #include "app/logic/hints.h"
 #include "app/logic/tense_topics.h"
 #include "app/main_window/main_window.h"
+#include "dictionary/verb_labels.h"
 
 namespace odmiennik::app {
 namespace {
-
-constexpr const char* kUnknownValue = "b.d.";
 
 struct NamedTip {
   std::string_view name;
@@ -31,7 +30,7 @@ std::string letterTip(const QWidget& control) {
 
 std::string labelTip(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
-  const bool isUnknown = label != nullptr && label->text() == QLatin1String(kUnknownValue);
+  const bool isUnknown = label != nullptr && label->text() == fromUtf8(dictionary::kNoData);
   return isUnknown ? std::string(hint(HintId::unknown)) : std::string();
 }
 

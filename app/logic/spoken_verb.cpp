@@ -1,43 +1,43 @@
 // A verb's information as a sentence.
 #include "app/logic/spoken_verb.h"
 
+#include "dictionary/verb_labels.h"
+
 namespace odmiennik::app {
 namespace {
 
-std::string known(std::string_view label) {
-  return label == engine::kNoData ? "nieznany" : std::string(label);
+using engine::Use;
+
+std::string groupOf(engine::Group group, std::string_view label) {
+  if (group == engine::Group::unknown) return "grupa nieznana";
+  return (group == engine::Group::defective ? "" : "grupa ") + std::string(label);
 }
 
-std::string group(std::string_view label) {
-  if (label == engine::kNoData) return "grupa nieznana";
-  return (label == "ułomny" ? "" : "grupa ") + std::string(label);
+bool isUsed(Use use) { return use != Use::unknown && use != Use::no; }
+
+// A use may name its own auxiliary: "przechodni (être)".
+std::string nameOf(std::string_view name, Use use) {
+  if (use == Use::yes) return std::string(name);
+  return std::string(name) + (use == Use::withAvoir ? " (avoir)" : " (être)");
 }
 
-// A use may name its own auxiliary: "tak, être" -> "przechodni (être)".
-std::string use(std::string_view name, std::string_view label) {
-  const auto comma = label.find(", ");
-  if (comma == std::string_view::npos) return std::string(name);
-  return std::string(name) + " (" + std::string(label.substr(comma + 2)) + ")";
-}
-
-std::string transitivity(std::string_view transitive, std::string_view intransitive) {
-  if (transitive == engine::kNoData && intransitive == engine::kNoData)
-    return "przechodniość nieznana";
-  const bool isTransitive = transitive.starts_with("tak");
-  const bool isIntransitive = intransitive.starts_with("tak");
-  if (!isTransitive && !isIntransitive) return "ani przechodni, ani nieprzechodni";
-  std::string uses = isTransitive ? use("przechodni", transitive) : "";
-  if (isTransitive && isIntransitive) uses += " i ";
-  if (isIntransitive) uses += use("nieprzechodni", intransitive);
+std::string transitivity(Use transitive, Use intransitive) {
+  if (transitive == Use::unknown && intransitive == Use::unknown) return "przechodniość nieznana";
+  if (!isUsed(transitive) && !isUsed(intransitive)) return "ani przechodni, ani nieprzechodni";
+  std::string uses = isUsed(transitive) ? nameOf("przechodni", transitive) : "";
+  if (isUsed(transitive) && isUsed(intransitive)) uses += " i ";
+  if (isUsed(intransitive)) uses += nameOf("nieprzechodni", intransitive);
   return uses;
 }
 
 }  // namespace
 
-std::string spokenVerb(std::string_view infinitive, const engine::VerbLabels& labels) {
-  return std::string(infinitive) + ": " + group(labels.lblGrupaWartość) + ", czasownik posiłkowy " +
-         known(labels.lblPosiłkowyWartość) + ", " +
-         transitivity(labels.lblPrzechodniWartość, labels.lblNieprzechodniWartość) + ".";
+std::string spokenVerb(std::string_view infinitive, const engine::VerbInformation& information) {
+  const dictionary::VerbLabels labels = dictionary::labelsOf(information);
+  const bool isAuxiliaryKnown = information.auxiliary != engine::KnownAuxiliary::unknown;
+  return std::string(infinitive) + ": " + groupOf(information.group, labels.group) +
+         ", czasownik posiłkowy " + std::string(isAuxiliaryKnown ? labels.auxiliary : "nieznany") +
+         ", " + transitivity(information.transitive, information.intransitive) + ".";
 }
 
 }  // namespace odmiennik::app

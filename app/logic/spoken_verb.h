@@ -10,6 +10,7 @@ namespace odmiennik::app {
 
 // Infinitive (UTF-8), group, auxiliary and transitivity: "finir: grupa druga, czasownik posiłkowy
 // avoir, przechodni i nieprzechodni." What is not known is said to be so.
-[[nodiscard]] std::string spokenVerb(std::string_view infinitive, const engine::VerbLabels& labels);
+[[nodiscard]] std::string spokenVerb(std::string_view infinitive,
+                                     const engine::VerbInformation& information);
 
 }  // namespace odmiennik::app

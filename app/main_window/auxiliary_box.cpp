@@ -4,17 +4,17 @@
 #include <QSignalBlocker>
 
 #include "app/common/text.h"
-#include "engine/driver.h"
+#include "dictionary/verb_labels.h"
 
 namespace odmiennik::app {
 
 // What the program sets is no choice of the user's, and tells nobody.
 void AuxiliaryBox::show(const engine::Conjugation& conjugation) const {
   const QSignalBlocker blocker(box_);
-  const engine::AuxiliaryBox& state = conjugation.information.chkZAvoir;
-  box_.setText(fromUtf8(engine::auxiliaryCaption(conjugation.flags.auxiliary)));
-  box_.setChecked(state.isChecked);
-  box_.setEnabled(state.isEnabled);
+  const std::uint8_t auxiliary = conjugation.flags.auxiliary;
+  box_.setText(fromUtf8(dictionary::auxiliaryCaption(auxiliary)));
+  box_.setChecked(auxiliary == engine::kAvoir);
+  box_.setEnabled(conjugation.information.isAuxiliaryFree);
 }
 
 }  // namespace odmiennik::app

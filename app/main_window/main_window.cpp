@@ -83,7 +83,7 @@ void MainWindow::showEmptyTable() {
   engine::chooseSubjunctiveCaptions(conjugation_.forms, shown.captions);
   surface_.pronouns().show(shown.pronouns);
   boxes_.showCaptions(shown.captions);
-  information_.show(conjugation_.information.labels);
+  information_.show(conjugation_.information);
   auxiliary_.show(conjugation_);
 }
 
@@ -152,7 +152,7 @@ void MainWindow::toggleAuxiliary(bool isAvoir) {
 QString MainWindow::spokenInformation() const {
   const std::string verb = engine::toUtf8(infinitive());
   const bool isOwn = conjugation_.source == engine::Source::user;
-  return fromUtf8(spokenVerb(verb, conjugation_.information.labels) +
+  return fromUtf8(spokenVerb(verb, conjugation_.information) +
                   (isOwn ? " Formy z Twojego pliku." : ""));
 }
 
@@ -171,7 +171,7 @@ void MainWindow::showConjugation() {
   controls_.get<QLabel>(positionOf("lblPodpowiedź")).hide();  // the first verb has come
   surface_.pronouns().show(conjugation_.shown.pronouns);
   boxes_.show(conjugation_.shown);
-  information_.show(conjugation_.information.labels);
+  information_.show(conjugation_.information);
   auxiliary_.show(conjugation_);
   surface_.setUpdatesEnabled(true);
 }

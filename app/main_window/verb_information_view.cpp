@@ -3,24 +3,25 @@
 
 #include "app/common/text.h"
 #include "app/controls/caption_label.h"
+#include "dictionary/verb_labels.h"
 
 namespace odmiennik::app {
 namespace {
 
+using dictionary::VerbLabels;
+
 struct ValueLabel {
   std::size_t position;
   std::size_t caption;
-  std::string_view engine::VerbLabels::*value;
+  std::string_view VerbLabels::*value;
 };
 constexpr ValueLabel kValueLabels[] = {
-    {positionOf("lblGrupaWartość"), positionOf("lblGrupa"), &engine::VerbLabels::lblGrupaWartość},
-    {positionOf("lblPrzechodniWartość"), positionOf("lblPrzechodni"),
-     &engine::VerbLabels::lblPrzechodniWartość},
+    {positionOf("lblGrupaWartość"), positionOf("lblGrupa"), &VerbLabels::group},
+    {positionOf("lblPrzechodniWartość"), positionOf("lblPrzechodni"), &VerbLabels::transitive},
     {positionOf("lblNieprzechodniWartość"), positionOf("lblNieprzechodni"),
-     &engine::VerbLabels::lblNieprzechodniWartość},
-    {positionOf("lblPosiłkowyWartość"), positionOf("lblPosiłkowy"),
-     &engine::VerbLabels::lblPosiłkowyWartość},
-    {positionOf("lblRządWartość"), positionOf("lblRząd"), &engine::VerbLabels::lblRządWartość},
+     &VerbLabels::intransitive},
+    {positionOf("lblPosiłkowyWartość"), positionOf("lblPosiłkowy"), &VerbLabels::auxiliary},
+    {positionOf("lblRządWartość"), positionOf("lblRząd"), &VerbLabels::government},
 };
 
 }  // namespace
@@ -30,7 +31,8 @@ VerbInformationView::VerbInformationView(const Controls& controls) : controls_(c
     controls_.get<QLabel>(label.caption).setBuddy(&controls_.get<QLabel>(label.position));
 }
 
-void VerbInformationView::show(const engine::VerbLabels& labels) const {
+void VerbInformationView::show(const engine::VerbInformation& information) const {
+  const VerbLabels labels = dictionary::labelsOf(information);
   for (const ValueLabel& label : kValueLabels)
     controls_.get<CaptionLabel>(label.position).showText(fromUtf8(labels.*label.value));
 }

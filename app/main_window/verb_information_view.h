@@ -12,7 +12,7 @@ class VerbInformationView {
  public:
   explicit VerbInformationView(const Controls& controls);
 
-  void show(const engine::VerbLabels& labels) const;
+  void show(const engine::VerbInformation& information) const;
 
  private:
   const Controls& controls_;

@@ -88,8 +88,6 @@ void requireOnlyInfinitive(const Conjugation& conjugation) {
 void requireFlags(const Conjugation& conjugation) {
   const engine::EngineFlags& flags = conjugation.flags;
   require(flags.auxiliary <= 1, "the auxiliary is avoir or être");
-  require((flags.auxiliary == 1) == conjugation.information.chkZAvoir.isChecked,
-          "the box mirrors the auxiliary");
   require(!flags.isPronominal, "the pronominal flag ends with the command");
 }
 
@@ -116,7 +114,7 @@ void editAndSwitchAuxiliary(Program& program, std::string_view typed) {
           "editing refuses nothing");
   if (program.shell.resets > 0) return;
   requireShownViewsToBeValid(conjugation, true);
-  require(conjugation.information.chkZAvoir.isEnabled, "editing enables the auxiliary");
+  require(conjugation.information.isAuxiliaryFree, "editing enables the auxiliary");
   program.driver.conjugate(conjugation, typed);
   for (const bool isAvoir : {false, true, false}) {
     engine::Driver::toggleAuxiliary(conjugation, isAvoir, false);

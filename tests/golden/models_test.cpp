@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "dictionary/verb_labels.h"
 #include "engine/string_table.h"
 #include "engine/windows1252.h"
 #include "tests/support/form_layout.h"
@@ -17,7 +18,7 @@ using engine::kAvoir;
 using engine::kEtre;
 
 std::string nameOfAuxiliary(std::uint8_t auxiliary) {
-  return std::string(engine::auxiliaryName(auxiliary));
+  return std::string(dictionary::auxiliaryName(auxiliary));
 }
 
 // The slots of a verb, conjugated as a verb of which only the auxiliary is known.

@@ -57,10 +57,10 @@ class TestProgram {
   [[nodiscard]] std::string tense(int firstSlot) const;
   [[nodiscard]] std::string boxesOfTense(int firstSlot) const;
 
-  [[nodiscard]] const engine::VerbLabels& labels() const { return conjugation_.information.labels; }
-  [[nodiscard]] engine::AuxiliaryBox auxiliaryBox() const {
-    return conjugation_.information.chkZAvoir;
+  [[nodiscard]] const engine::VerbInformation& information() const {
+    return conjugation_.information;
   }
+  [[nodiscard]] std::uint8_t auxiliary() const { return conjugation_.flags.auxiliary; }
   [[nodiscard]] engine::Conjugation& state() { return conjugation_; }
   [[nodiscard]] const std::vector<engine::Notice>& notices() const { return shell_.notices; }
   [[nodiscard]] int resets() const { return shell_.resets; }

@@ -8,6 +8,9 @@
 namespace odmiennik::cli {
 namespace {
 
+using engine::KnownAuxiliary;
+using engine::Use;
+
 constexpr AnswerOptions kEditing{.isEditing = true};
 constexpr AnswerOptions kWithEtre{.auxiliary = engine::kEtre};
 constexpr AnswerOptions kWithAvoir{.auxiliary = engine::kAvoir};
@@ -24,8 +27,8 @@ TEST(answerer, blanks_and_capitals_around_a_pronominal_verb_do_not_matter) {
   const Answer answer = asking.answer("  Se Laver  ");
   EXPECT_TRUE(answer.isPronominal);
   EXPECT_EQ(answer.typed, "  Se Laver  ");
-  EXPECT_EQ(answer.conjugation.information.labels.lblPrzechodniWartość, "nie");
-  EXPECT_EQ(answer.conjugation.information.labels.lblPosiłkowyWartość, "être");
+  EXPECT_EQ(answer.conjugation.information.transitive, Use::no);
+  EXPECT_EQ(answer.conjugation.information.auxiliary, KnownAuxiliary::etre);
   EXPECT_EQ(answer.conjugation.shown.boxes[0], "me lave");
 }
 
@@ -66,7 +69,7 @@ TEST(answerer, an_empty_record_says_that_nothing_is_known) {
   Asking asking;
   const Answer answer = asking.answer("parler\t");
   EXPECT_EQ(answer.messages, Texts{kConjugatedRegularly});
-  EXPECT_EQ(answer.conjugation.information.labels.lblGrupaWartość, engine::kNoData);
+  EXPECT_EQ(answer.conjugation.information.group, engine::Group::unknown);
 }
 
 TEST(answerer, a_record_holds_for_its_own_line_only) {
@@ -80,9 +83,9 @@ TEST(answerer, nothing_of_the_verb_before_is_left) {
   // An unknown code changes nothing: what shows is the label of a program just started.
   static_cast<void>(asking.answer("se laver"));
   const Answer answer = asking.answer("parler\t|9|9|9|9");
-  EXPECT_EQ(answer.conjugation.information.labels.lblPrzechodniWartość, engine::kNoData);
-  EXPECT_TRUE(answer.conjugation.information.chkZAvoir.isChecked);
-  EXPECT_TRUE(answer.conjugation.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(answer.conjugation.information.transitive, Use::unknown);
+  EXPECT_EQ(answer.conjugation.flags.auxiliary, engine::kAvoir);
+  EXPECT_TRUE(answer.conjugation.information.isAuxiliaryFree);
 }
 
 TEST(answerer, a_line_with_a_fault_shows_the_empty_table) {
@@ -92,7 +95,7 @@ TEST(answerer, a_line_with_a_fault_shows_the_empty_table) {
   EXPECT_TRUE(answer.isRefused);
   EXPECT_TRUE(answer.messages.empty());
   EXPECT_EQ(answer.conjugation.source, engine::Source::none);
-  EXPECT_EQ(answer.conjugation.information.labels.lblPosiłkowyWartość, engine::kNoData);
+  EXPECT_EQ(answer.conjugation.information.auxiliary, KnownAuxiliary::unknown);
   EXPECT_FALSE(answer.isPronominal);
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
     EXPECT_EQ(answer.conjugation.forms[slot], "");
@@ -118,8 +121,8 @@ TEST(answerer, resetuj_gives_its_message_and_displays_nothing) {
 TEST(answerer, the_auxiliary_is_switched_even_where_the_box_is_disabled) {
   Asking asking(kWithEtre);
   const Answer answer = asking.answer("parler");
-  EXPECT_FALSE(answer.conjugation.information.chkZAvoir.isEnabled);
-  EXPECT_FALSE(answer.conjugation.information.chkZAvoir.isChecked);
+  EXPECT_FALSE(answer.conjugation.information.isAuxiliaryFree);
+  EXPECT_EQ(answer.conjugation.flags.auxiliary, engine::kEtre);
   EXPECT_EQ(asking.box("parler", 24), "suis parlé(e)");
 }
 

@@ -15,7 +15,7 @@ TEST(AuxiliaryClick, RedisplaysTheCompoundTensesWithTheOtherAuxiliary) {
   EXPECT_EQ(program.box(24), "suis parlé(e)");
   EXPECT_EQ(program.box(29), "sont parlé(e)s");
   EXPECT_EQ(program.box(97), "être parlé(e)");
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kEtre);
   program.chooseAuxiliary(kAvoir);
   EXPECT_EQ(program.box(24), "ai parlé");
   EXPECT_EQ(program.box(83), "aurainet parlé");
@@ -51,7 +51,7 @@ TEST(AuxiliaryClick, WhileEditingOnlyChangesTheFlag) {
   program.edit("parler");
   program.chooseAuxiliary(kEtre, true);
   EXPECT_EQ(program.state().flags.auxiliary, kEtre);
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kEtre);
   EXPECT_EQ(program.box(24), "ai parlé");
 }
 
@@ -59,7 +59,7 @@ TEST(AuxiliaryClick, LeavesTheLabelAsItWas) {
   TestProgram program;
   program.conjugate("parler");
   program.chooseAuxiliary(kEtre);
-  EXPECT_EQ(program.labels().lblPosiłkowyWartość, "avoir");
+  EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::avoir);
 }
 
 TEST(AuxiliaryClick, ShowsAPronominalVerbWithoutItsPronouns) {
@@ -70,11 +70,6 @@ TEST(AuxiliaryClick, ShowsAPronominalVerbWithoutItsPronouns) {
   EXPECT_EQ(program.slot(0), "me lave");
   EXPECT_EQ(program.box(24), "ai lavé");
   EXPECT_EQ(program.box(93), " -- ");
-}
-
-TEST(AuxiliaryClick, CaptionsTheBoxWithTheAuxiliary) {
-  EXPECT_EQ(auxiliaryCaption(kAvoir), "&se conjugué avec avoir");
-  EXPECT_EQ(auxiliaryCaption(kEtre), "&se conjugué avec être");
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ TEST(EditMode, ShowsTheMessageForAnUnknownVerb) {
 TEST(EditMode, EnablesTheAuxiliaryBoxWhateverTheRecordSays) {
   TestProgram program;
   program.edit("parler");
-  EXPECT_TRUE(program.auxiliaryBox().isEnabled);
+  EXPECT_TRUE(program.information().isAuxiliaryFree);
 }
 
 TEST(EditMode, KeepsTheAuxiliaryOfTheVerbThatIsShown) {
@@ -99,7 +99,7 @@ TEST(EditMode, KeepsTheAuxiliaryChosenOfTwo) {
   program.chooseAuxiliary(kEtre);
   program.edit("trululer");
   EXPECT_EQ(program.state().flags.auxiliary, kEtre);
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kEtre);
   EXPECT_EQ(program.box(24), "suis trululé(e)");
 }
 
@@ -116,7 +116,7 @@ TEST(EditMode, StartsWithAvoirForAnotherVerb) {
   program.conjugate("aller");
   program.edit("trululer");
   EXPECT_EQ(program.state().flags.auxiliary, kAvoir);
-  EXPECT_TRUE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kAvoir);
   EXPECT_EQ(program.box(24), "ai trululé");
 }
 

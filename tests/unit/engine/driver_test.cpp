@@ -28,10 +28,10 @@ TEST(Driver, TrimsLowersAndTakesSeLaverAsPronominal) {
   EXPECT_EQ(program.box(24), "me suis lavé(e)");
   EXPECT_EQ(program.box(96), "se laver");
   EXPECT_EQ(program.box(99), "lavé(e)");
-  EXPECT_EQ(program.labels().lblPrzechodniWartość, "nie");
-  EXPECT_EQ(program.labels().lblNieprzechodniWartość, "nie");
-  EXPECT_EQ(program.labels().lblPosiłkowyWartość, "être");
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.information().transitive, Use::no);
+  EXPECT_EQ(program.information().intransitive, Use::no);
+  EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::etre);
+  EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
 TEST(Driver, TakesATypographicApostropheForThePlainOne) {
@@ -98,8 +98,8 @@ TEST(Driver, AnUnknownVerbThatARuleTakesIsConjugatedWithAMessage) {
   EXPECT_EQ(program.conjugate("parler"), Outcome::conjugated);
   EXPECT_EQ(program.box(0), "parle");
   EXPECT_EQ(program.notices(), Notices{Notice::conjugatedRegularly});
-  EXPECT_EQ(program.labels().lblGrupaWartość, "b.d.");
-  EXPECT_TRUE(program.auxiliaryBox().isEnabled);
+  EXPECT_EQ(program.information().group, Group::unknown);
+  EXPECT_TRUE(program.information().isAuxiliaryFree);
 }
 
 TEST(Driver, AVerbThatNoRuleTakesIsRefused) {
@@ -117,9 +117,9 @@ TEST(Driver, ARefusedVerbKeepsTheLabelsOfItsRecord) {
   TestProgram program;
   program.tellRecord("bla", "|4|2|1|2");
   program.conjugate("bla");
-  EXPECT_EQ(program.labels().lblGrupaWartość, "ułomny");
-  EXPECT_EQ(program.labels().lblPosiłkowyWartość, "être");
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.information().group, Group::defective);
+  EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::etre);
+  EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
 TEST(Driver, TheEmptyTextAndAPrefixAloneAreRefused) {
@@ -159,12 +159,12 @@ TEST(Driver, AUserVerbShowsNoDataButItsAuxiliary) {
   program.addUserVerb({.slots = {{96, "parler"}, {99, "parlé"}, {24, "*"}}, .auxiliary = kEtre});
   program.conjugate("parler");
   EXPECT_EQ(program.box(24), "suis parlé(e)");
-  EXPECT_EQ(program.labels().lblGrupaWartość, "b.d.");
-  EXPECT_EQ(program.labels().lblPrzechodniWartość, "b.d.");
-  EXPECT_EQ(program.labels().lblNieprzechodniWartość, "b.d.");
-  EXPECT_EQ(program.labels().lblPosiłkowyWartość, "être");
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
-  EXPECT_TRUE(program.auxiliaryBox().isEnabled);
+  EXPECT_EQ(program.information().group, Group::unknown);
+  EXPECT_EQ(program.information().transitive, Use::unknown);
+  EXPECT_EQ(program.information().intransitive, Use::unknown);
+  EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::etre);
+  EXPECT_EQ(program.auxiliary(), kEtre);
+  EXPECT_TRUE(program.information().isAuxiliaryFree);
 }
 
 TEST(Driver, AUserVerbEnteredPronominallyTakesEtreWhateverItsRecordSays) {
@@ -173,7 +173,7 @@ TEST(Driver, AUserVerbEnteredPronominallyTakesEtreWhateverItsRecordSays) {
   program.conjugate("se laver");
   EXPECT_EQ(program.box(0), "me lave");
   EXPECT_EQ(program.box(24), "me suis lavé(e)");
-  EXPECT_FALSE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
 TEST(Driver, AUserVerbIsNotImpersonal) {
@@ -323,7 +323,7 @@ TEST(Driver, AVerbMarkedPronominalByItsRecordIsConjugatedPronominally) {
   EXPECT_EQ(program.box(90), "absente-toi");
   EXPECT_EQ(program.box(93), " -- ");
   EXPECT_EQ(program.box(24), "me suis absenté(e)");
-  EXPECT_EQ(program.labels().lblPosiłkowyWartość, "être");
+  EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::etre);
   EXPECT_TRUE(program.state().shown.isPronominal);
   EXPECT_FALSE(program.state().flags.isPronominal) << "cleared after the command";
 }
@@ -355,7 +355,7 @@ TEST(Driver, EveryConjugationStartsWithAvoir) {
   program.conjugate("aller");
   program.tellRecord("blaguer", "");
   program.conjugate("blaguer");
-  EXPECT_TRUE(program.auxiliaryBox().isChecked);
+  EXPECT_EQ(program.auxiliary(), kAvoir);
   EXPECT_EQ(program.box(24), "ai blagué");
 }
 

@@ -11,67 +11,56 @@ struct Reading {
   VerbInformation information;
 
   explicit Reading(std::string_view record) { applyRecord(record, flags, information); }
-  [[nodiscard]] std::string_view group() const { return information.labels.lblGrupaWartość; }
-  [[nodiscard]] std::string_view transitive() const {
-    return information.labels.lblPrzechodniWartość;
-  }
-  [[nodiscard]] std::string_view intransitive() const {
-    return information.labels.lblNieprzechodniWartość;
-  }
-  [[nodiscard]] std::string_view auxiliary() const {
-    return information.labels.lblPosiłkowyWartość;
-  }
+  [[nodiscard]] Group group() const { return information.group; }
+  [[nodiscard]] Use transitive() const { return information.transitive; }
+  [[nodiscard]] Use intransitive() const { return information.intransitive; }
+  [[nodiscard]] KnownAuxiliary auxiliary() const { return information.auxiliary; }
 };
 
-TEST(VerbInformation, StartsWithoutDataAndTheBoxCheckedAndEnabled) {
+TEST(VerbInformation, StartsWithoutDataAndWithAFreeAuxiliaryAvoir) {
   const VerbInformation information;
-  EXPECT_EQ(information.labels.lblGrupaWartość, "b.d.");
-  EXPECT_EQ(information.labels.lblPrzechodniWartość, "b.d.");
-  EXPECT_EQ(information.labels.lblNieprzechodniWartość, "b.d.");
-  EXPECT_EQ(information.labels.lblPosiłkowyWartość, "b.d.");
-  EXPECT_EQ(information.labels.lblRządWartość, "b.d.");
-  EXPECT_TRUE(information.chkZAvoir.isChecked);
-  EXPECT_TRUE(information.chkZAvoir.isEnabled);
-  EXPECT_EQ(EngineFlags{}.auxiliary, 1);
+  EXPECT_EQ(information.group, Group::unknown);
+  EXPECT_EQ(information.transitive, Use::unknown);
+  EXPECT_EQ(information.intransitive, Use::unknown);
+  EXPECT_EQ(information.auxiliary, KnownAuxiliary::unknown);
+  EXPECT_TRUE(information.isAuxiliaryFree);
+  EXPECT_EQ(EngineFlags{}.auxiliary, kAvoir);
 }
 
-TEST(VerbInformation, GroupsHaveTheirNames) {
-  EXPECT_EQ(Reading("|1|1|1|1").group(), "pierwsza");
-  EXPECT_EQ(Reading("|2|1|1|1").group(), "druga");
-  EXPECT_EQ(Reading("|3|1|1|1").group(), "trzecia");
-  EXPECT_EQ(Reading("|4|1|1|1").group(), "ułomny");
+TEST(VerbInformation, AGroupIsItsCode) {
+  EXPECT_EQ(Reading("|1|1|1|1").group(), Group::first);
+  EXPECT_EQ(Reading("|2|1|1|1").group(), Group::second);
+  EXPECT_EQ(Reading("|3|1|1|1").group(), Group::third);
+  EXPECT_EQ(Reading("|4|1|1|1").group(), Group::defective);
 }
 
-TEST(VerbInformation, UsesHaveTheirNames) {
-  constexpr std::string_view kNames[] = {"tak", "nie", "tak, avoir", "tak, être"};
+TEST(VerbInformation, AUseIsItsCode) {
+  constexpr Use kUses[] = {Use::yes, Use::no, Use::withAvoir, Use::withEtre};
   for (int code = 1; code <= 4; ++code) {
     const std::string digit = std::to_string(code);
-    EXPECT_EQ(Reading("|1|" + digit + "|x|1").transitive(), kNames[code - 1]);
-    EXPECT_EQ(Reading("|1|x|" + digit + "|1").intransitive(), kNames[code - 1]);
+    EXPECT_EQ(Reading("|1|" + digit + "|x|1").transitive(), kUses[code - 1]);
+    EXPECT_EQ(Reading("|1|x|" + digit + "|1").intransitive(), kUses[code - 1]);
   }
 }
 
-TEST(VerbInformation, AvoirChecksAndDisablesTheBox) {
+TEST(VerbInformation, AvoirIsSetAndNotFree) {
   const Reading reading("|1|1|1|1");
-  EXPECT_EQ(reading.auxiliary(), "avoir");
-  EXPECT_TRUE(reading.information.chkZAvoir.isChecked);
-  EXPECT_FALSE(reading.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::avoir);
+  EXPECT_FALSE(reading.information.isAuxiliaryFree);
   EXPECT_EQ(reading.flags.auxiliary, kAvoir);
 }
 
-TEST(VerbInformation, EtreClearsAndDisablesTheBox) {
+TEST(VerbInformation, EtreIsSetAndNotFree) {
   const Reading reading("|3|2|1|2");
-  EXPECT_EQ(reading.auxiliary(), "être");
-  EXPECT_FALSE(reading.information.chkZAvoir.isChecked);
-  EXPECT_FALSE(reading.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre);
+  EXPECT_FALSE(reading.information.isAuxiliaryFree);
   EXPECT_EQ(reading.flags.auxiliary, kEtre);
 }
 
-TEST(VerbInformation, AvoirOrEtreChecksAndEnablesTheBox) {
+TEST(VerbInformation, OfAvoirAndEtreAvoirIsSetAndFree) {
   const Reading reading("|3|3|4|3");
-  EXPECT_EQ(reading.auxiliary(), "avoir lub être");
-  EXPECT_TRUE(reading.information.chkZAvoir.isChecked);
-  EXPECT_TRUE(reading.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::either);
+  EXPECT_TRUE(reading.information.isAuxiliaryFree);
   EXPECT_EQ(reading.flags.auxiliary, kAvoir);
 }
 
@@ -118,20 +107,19 @@ TEST(VerbInformation, TheFlagIsTheRecordsLastCharacter) {
 
 TEST(VerbInformation, AFreeTextDoesNotShiftTheFields) {
   const Reading reading("free text|2|2|1|2");
-  EXPECT_EQ(reading.group(), "druga");
-  EXPECT_EQ(reading.transitive(), "nie");
-  EXPECT_EQ(reading.auxiliary(), "être");
+  EXPECT_EQ(reading.group(), Group::second);
+  EXPECT_EQ(reading.transitive(), Use::no);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre);
 }
 
-TEST(VerbInformation, TheEmptyRecordShowsNoDataAndEnablesTheBox) {
+TEST(VerbInformation, TheEmptyRecordLeavesNothingKnownAndTheAuxiliaryFree) {
   Reading reading("|1|1|1|2");
   applyRecord("", reading.flags, reading.information);
-  EXPECT_EQ(reading.group(), "b.d.");
-  EXPECT_EQ(reading.transitive(), "b.d.");
-  EXPECT_EQ(reading.intransitive(), "b.d.");
-  EXPECT_EQ(reading.auxiliary(), "b.d.");
-  EXPECT_EQ(reading.information.labels.lblRządWartość, "b.d.");
-  EXPECT_TRUE(reading.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(reading.group(), Group::unknown);
+  EXPECT_EQ(reading.transitive(), Use::unknown);
+  EXPECT_EQ(reading.intransitive(), Use::unknown);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::unknown);
+  EXPECT_TRUE(reading.information.isAuxiliaryFree);
   EXPECT_EQ(reading.flags.auxiliary, kEtre) << "only the conjugate command sets it back";
 }
 
@@ -140,12 +128,12 @@ TEST(VerbInformation, UnknownCodesChangeNothing) {
        {"|5|5|5|4", "|0|0|0|0", "|x|x|x|x", "|3|11|12|13", "| |||", "|9|tak|nie|avoir"}) {
     Reading reading("|3|4|2|2");
     applyRecord(record, reading.flags, reading.information);
-    EXPECT_EQ(reading.group(), "trzecia") << record;
-    EXPECT_EQ(reading.transitive(), "tak, être") << record;
-    EXPECT_EQ(reading.intransitive(), "nie") << record;
-    EXPECT_EQ(reading.auxiliary(), "être") << record;
+    EXPECT_EQ(reading.group(), Group::third) << record;
+    EXPECT_EQ(reading.transitive(), Use::withEtre) << record;
+    EXPECT_EQ(reading.intransitive(), Use::no) << record;
+    EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre) << record;
     EXPECT_EQ(reading.flags.auxiliary, kEtre) << record;
-    EXPECT_FALSE(reading.information.chkZAvoir.isEnabled) << record;
+    EXPECT_FALSE(reading.information.isAuxiliaryFree) << record;
   }
 }
 
@@ -154,7 +142,7 @@ TEST(VerbInformation, MissingFieldsChangeNothing) {
        {"x", "|", "|1", "|1|", "|1|1", "|1|1|", "|1|1|1", "|1|1|1|"}) {
     Reading reading("|3|4|4|2");
     applyRecord(record, reading.flags, reading.information);
-    EXPECT_EQ(reading.auxiliary(), "être") << record;
+    EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre) << record;
     EXPECT_EQ(reading.flags.auxiliary, kEtre) << record;
     EXPECT_FALSE(reading.flags.isImpersonal) << record;
     EXPECT_FALSE(reading.flags.isPronominal) << record;
@@ -162,41 +150,39 @@ TEST(VerbInformation, MissingFieldsChangeNothing) {
 }
 
 TEST(VerbInformation, FieldsUpToTheMissingOnesAreShown) {
-  EXPECT_EQ(Reading("|2").group(), "druga");
-  EXPECT_EQ(Reading("|2|1|2").transitive(), "tak");
-  EXPECT_EQ(Reading("|2|1|2|").intransitive(), "nie");
+  EXPECT_EQ(Reading("|2").group(), Group::second);
+  EXPECT_EQ(Reading("|2|1|2").transitive(), Use::yes);
+  EXPECT_EQ(Reading("|2|1|2|").intransitive(), Use::no);
 }
 
 TEST(VerbInformation, TheSecondFieldBeginsThreeCharactersBehindTheFirstBar) {
   // A group of two characters shifts the reading: the second field then begins at its bar.
   const Reading reading("|12|1|2|2");
-  EXPECT_EQ(reading.group(), "pierwsza");
-  EXPECT_EQ(reading.transitive(), "b.d.");
-  EXPECT_EQ(reading.intransitive(), "tak");
+  EXPECT_EQ(reading.group(), Group::first);
+  EXPECT_EQ(reading.transitive(), Use::unknown);
+  EXPECT_EQ(reading.intransitive(), Use::yes);
 }
 
 TEST(VerbInformation, APronominalVerbIsNeitherTransitiveNorIntransitiveAndTakesEtre) {
   Reading reading("|1|1|1|3");
   applyPronominal(reading.flags, reading.information);
-  EXPECT_EQ(reading.transitive(), "nie");
-  EXPECT_EQ(reading.intransitive(), "nie");
-  EXPECT_EQ(reading.auxiliary(), "être");
-  EXPECT_FALSE(reading.information.chkZAvoir.isChecked);
-  EXPECT_TRUE(reading.information.chkZAvoir.isEnabled) << "stays as the record set it";
+  EXPECT_EQ(reading.transitive(), Use::no);
+  EXPECT_EQ(reading.intransitive(), Use::no);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre);
+  EXPECT_TRUE(reading.information.isAuxiliaryFree) << "stays as the record set it";
   EXPECT_EQ(reading.flags.auxiliary, kEtre);
-  EXPECT_EQ(reading.group(), "pierwsza");
+  EXPECT_EQ(reading.group(), Group::first);
 }
 
 TEST(VerbInformation, OfAStoredVerbOnlyTheAuxiliaryIsKnown) {
   Reading reading("|1|1|1|1");
   reading.flags.auxiliary = kEtre;
   applyStoredVerb(reading.flags, reading.information);
-  EXPECT_EQ(reading.group(), "b.d.");
-  EXPECT_EQ(reading.transitive(), "b.d.");
-  EXPECT_EQ(reading.intransitive(), "b.d.");
-  EXPECT_EQ(reading.auxiliary(), "être");
-  EXPECT_FALSE(reading.information.chkZAvoir.isChecked);
-  EXPECT_TRUE(reading.information.chkZAvoir.isEnabled);
+  EXPECT_EQ(reading.group(), Group::unknown);
+  EXPECT_EQ(reading.transitive(), Use::unknown);
+  EXPECT_EQ(reading.intransitive(), Use::unknown);
+  EXPECT_EQ(reading.auxiliary(), KnownAuxiliary::etre);
+  EXPECT_TRUE(reading.information.isAuxiliaryFree);
 }
 
 }  // namespace
