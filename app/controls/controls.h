@@ -15,12 +15,15 @@ class Controls {
   Controls(const Controls&) = delete;
   Controls& operator=(const Controls&) = delete;
 
-  // The widget at a position of the table: get<QCheckBox>(positionOf("chkZAvoir")). The caller
-  // names the class that belongs to the row's kind.
+  // The control of a position: get<QCheckBox>(positionOf("chkZAvoir")). A class that the control is
+  // not of does not compile.
   template <typename Widget>
-  [[nodiscard]] Widget& get(std::size_t position) const {
-    return *static_cast<Widget*>(widgets_[position]);
+  [[nodiscard]] Widget& get(ControlAt<Widget> control) const {
+    return *static_cast<Widget*>(widgets_[control.position()]);
   }
+
+  // The widget of a row; none for the window, shapes and lines.
+  [[nodiscard]] QWidget* widgetAt(std::size_t position) const { return widgets_[position]; }
 
   // The row that the widget was built from; none for any other widget.
   [[nodiscard]] const ControlRow* rowOf(const QWidget& widget) const;

@@ -6,7 +6,6 @@
 #include <QShortcut>
 
 #include "app/common/text.h"
-#include "app/controls/menu_table.h"
 
 namespace odmiennik::app {
 namespace {
@@ -38,7 +37,7 @@ void openWithKey(QMenuBar& bar) {
 
 void buildMainMenu(QMenuBar& bar) {
   QMenu* menu = nullptr;
-  for (const MenuRow& row : mainMenuRows()) {
+  for (const MenuRow& row : kMainMenu) {
     if (row.kind == MenuKind::menu)
       menu = addMenu(bar, row);
     else
@@ -47,10 +46,8 @@ void buildMainMenu(QMenuBar& bar) {
   openWithKey(bar);
 }
 
-QAction& menuItem(const QMenuBar& bar, std::string_view name) {
-  auto* action = bar.findChild<QAction*>(fromUtf8(name));
-  Q_ASSERT(action != nullptr);
-  return *action;
+QAction& menuItem(const QMenuBar& bar, MenuItemName name) {
+  return *bar.findChild<QAction*>(fromUtf8(name.text()));
 }
 
 }  // namespace odmiennik::app

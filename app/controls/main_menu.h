@@ -3,14 +3,15 @@
 
 #include <QAction>
 #include <QMenuBar>
-#include <string_view>
+
+#include "app/controls/menu_table.h"
 
 namespace odmiennik::app {
 
 // Fills `bar` from the menu table; menus and items carry their names as object names.
 void buildMainMenu(QMenuBar& bar);
 
-// The item of a name; asking for one that does not exist is a fault of the program.
-[[nodiscard]] QAction& menuItem(const QMenuBar& bar, std::string_view name);
+// The item of a name, which a misspelt one is not: menuItem(*menuBar(), "mnuPlikKoniec").
+[[nodiscard]] QAction& menuItem(const QMenuBar& bar, MenuItemName name);
 
 }  // namespace odmiennik::app

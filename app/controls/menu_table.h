@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string_view>
 
 namespace odmiennik::app {
@@ -21,6 +20,79 @@ struct MenuRow {
   std::string_view keys = {};
 };
 
-[[nodiscard]] std::span<const MenuRow> mainMenuRows();
+// deliberate: the verb commands are named after the menu in which they once stood, and one
+// separator is spelled "Lnia"; two menus share the access key C.
+inline constexpr MenuRow kMainMenu[] = {
+    {MenuKind::menu, "mnuPlik", "&Plik", MenuState::ready},
+    {MenuKind::item, "mnuPlikZapiszCzasownik", "&Zapisz Czasownik", MenuState::unavailable,
+     "Ctrl+S"},
+    {MenuKind::separator, "mnuPlikLinia1", ""},
+    {MenuKind::item, "mnuPlikDrukuj", "&Drukuj", MenuState::ready, "Ctrl+P"},
+    {MenuKind::item, "mnuPlikUstawieniaDrukarki", "&Ustawienia drukarki", MenuState::ready},
+    {MenuKind::separator, "mnuPlikLinia2", ""},
+    {MenuKind::item, "mnuPlikKoniec", "&Koniec", MenuState::ready, "Ctrl+Q"},
+
+    {MenuKind::menu, "mnuEdycja", "&Edycja", MenuState::ready},
+    {MenuKind::item, "mnuEdycjaTablica", "&Tablica znaków"},
+    {MenuKind::separator, "mnuEdycjaLinia3", ""},
+    {MenuKind::item, "mnuEdycjaCofnij", "&Cofnij", MenuState::unavailable, "Ctrl+Z"},
+    {MenuKind::separator, "mnuEdycjaLinia6", ""},
+    {MenuKind::item, "mnuEdycjaWytnij", "&Wytnij", MenuState::unavailable, "Ctrl+X"},
+    {MenuKind::item, "mnuEdycjaKopiuj", "&Kopiuj", MenuState::unavailable, "Ctrl+C"},
+    {MenuKind::item, "mnuEdycjaWklej", "Wkl&ej", MenuState::unavailable, "Ctrl+V"},
+    {MenuKind::item, "mnuEdycjaUsuń", "&Usuń", MenuState::unavailable, "Del"},
+    {MenuKind::separator, "mnuEdycjaLnia1", ""},
+    {MenuKind::item, "mnuEdycjaZaznaczWszystko", "&Zaznacz wszystko", MenuState::unavailable,
+     "Ctrl+A"},
+
+    {MenuKind::menu, "mnuCzasownik", "&Czasownik", MenuState::ready},
+    {MenuKind::item, "mnuEdycjaLista", "&Lista", MenuState::ready, "Ctrl+L"},
+    {MenuKind::separator, "mnuEdycjaLinia4", ""},
+    {MenuKind::item, "mnuEdycjaOdmień", "&Odmień", MenuState::ready, "Ctrl+O"},
+    {MenuKind::item, "mnuEdycjaNowyCzasownik", "&Nowy", MenuState::ready, "Ctrl+N"},
+    {MenuKind::item, "mnuEdycjaEdytujCzasownik", "E&dytuj", MenuState::ready, "F2"},
+    {MenuKind::item, "mnuEdycjaUsuńCzasownik", "U&suń", MenuState::ready},
+    {MenuKind::item, "mnuCzasownikPrzywróć", "P&rzywróć odmianę programu"},
+    {MenuKind::separator, "mnuEdycjaLinia5", ""},
+    {MenuKind::item, "mnuCzasownikInformacje", "&Informacje o czasowniku", MenuState::ready,
+     "Ctrl+I"},
+    {MenuKind::item, "mnuCzasownikBezokolicznik", "Pole &bezokolicznika", MenuState::ready,
+     "Ctrl+B"},
+    {MenuKind::checkableItem, "mnuCzasownikAutouzupełnianie", "&Autouzupełnianie",
+     MenuState::ready},
+    // deliberate: chosen, it does nothing.
+    {MenuKind::item, "mnuEdycjaWyszukaj", "&Wyszukaj", MenuState::ready},
+
+    {MenuKind::menu, "mnuWidok", "&Widok", MenuState::ready},
+    {MenuKind::checkableItem, "mnuWidokNaWierzchu", "&Zawsze na wierzchu", MenuState::ready},
+    {MenuKind::item, "mnuWidokKolory", "&Kolory", MenuState::ready},
+
+    {MenuKind::menu, "mnuPomoc", "Pomo&c", MenuState::ready},
+    {MenuKind::item, "mnuPomocTematy", "&Tematy pomocy", MenuState::ready, "F1"},
+    {MenuKind::item, "mnuPomocPoradaDnia", "&Porada dnia", MenuState::ready},
+    {MenuKind::item, "mnuPomocJak", "Jak odmienić czasownik?", MenuState::ready},
+    {MenuKind::separator, "mnuPomocLinia1", ""},
+    {MenuKind::item, "mnuPomocOProgramie", "&O programie...", MenuState::ready},
+};
+
+// The name of an item of the tree; any other text does not compile: MenuItemName("mnuPlikKoniec").
+class MenuItemName {
+ public:
+  consteval MenuItemName(const char* name) : name_(name) {
+    for (const MenuRow& row : kMainMenu)
+      if (row.name == name_ && isChosen(row.kind)) return;
+    noSuchMenuItem();
+  }
+
+  [[nodiscard]] constexpr std::string_view text() const { return name_; }
+
+ private:
+  static constexpr bool isChosen(MenuKind kind) {
+    return kind == MenuKind::item || kind == MenuKind::checkableItem;
+  }
+  static void noSuchMenuItem();  // not constexpr: reached, it is the error told
+
+  std::string_view name_;
+};
 
 }  // namespace odmiennik::app

@@ -30,9 +30,7 @@ EditedWindow::EditedWindow(MainWindow& window, WindowPointer& pointer,
   item("mnuPlikZapiszCzasownik").setEnabled(false);
 }
 
-QAction& EditedWindow::item(std::string_view name) const {
-  return menuItem(*window_.menuBar(), name);
-}
+QAction& EditedWindow::item(MenuItemName name) const { return menuItem(*window_.menuBar(), name); }
 
 std::string EditedWindow::entryText() const { return toFrench(window_.boxes().entry().text()); }
 

@@ -3,6 +3,7 @@
 
 #include <QAction>
 
+#include "app/controls/menu_table.h"
 #include "dictionary/edit_mode_runner.h"
 #include "dictionary/user_verbs.h"
 
@@ -33,7 +34,7 @@ class EditedWindow final : public dictionary::EditWindow {
   void focusForm(int slot) override;
 
  private:
-  [[nodiscard]] QAction& item(std::string_view name) const;
+  [[nodiscard]] QAction& item(MenuItemName name) const;
   // What a screen reader says when edit mode has been entered or left.
   [[nodiscard]] QString spokenState(bool isEditing) const;
 

@@ -28,7 +28,7 @@ Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVer
 // Queued, since a command may open a message box: whoever gave it (a screen reader, the menu) is
 // answered before the box waits.
 void Editing::connectCommands() {
-  const auto runs = [this](std::string_view name, auto command) {
+  const auto runs = [this](MenuItemName name, auto command) {
     connect(&menuItem(*window_.menuBar(), name), &QAction::triggered, this, command,
             Qt::QueuedConnection);
   };

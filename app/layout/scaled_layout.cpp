@@ -96,7 +96,7 @@ void ScaledLayout::apply(const LayoutControl& control, std::size_t position) {
   const TwipRect rect = rectOf(control, row.kind);
   if (isPainted(row.kind)) return surface_.setPlace(position, exactPlace(rect));
   const QSizeF factors = factorsOf(layout().design);
-  auto& widget = controls_.get<QWidget>(position);
+  QWidget& widget = *controls_.widgetAt(position);
   const QFont font = fontOf(row, control.fontSize, narrowness(factors));
   setFont(widget, row, font);
   QRect place = app::place(rect);

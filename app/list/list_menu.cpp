@@ -12,7 +12,7 @@ ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
                    dictionary::UserVerbsFile& userVerbs, dictionary::MainCommands& commands)
     : main_(main), prefix_(prefix), userVerbs_(userVerbs), commands_(commands) {
   using dictionary::ListPurpose;
-  const auto opens = [this](const char* item, ListPurpose purpose) {
+  const auto opens = [this](MenuItemName item, ListPurpose purpose) {
     QObject::connect(
         &menuItem(*main_.menuBar(), item), &QAction::triggered, &main_,
         [this, purpose] { open(purpose); }, Qt::QueuedConnection);

@@ -11,9 +11,9 @@ namespace {
 using dictionary::VerbLabels;
 
 struct ValueLabel {
-  std::size_t position;
-  std::size_t caption;
-  std::string_view VerbLabels::*value;
+  ControlAt<CaptionLabel> value;
+  ControlAt<CaptionLabel> caption;
+  std::string_view VerbLabels::*text;
 };
 constexpr ValueLabel kValueLabels[] = {
     {positionOf("lblGrupaWartość"), positionOf("lblGrupa"), &VerbLabels::group},
@@ -28,13 +28,13 @@ constexpr ValueLabel kValueLabels[] = {
 
 VerbInformationView::VerbInformationView(const Controls& controls) : controls_(controls) {
   for (const ValueLabel& label : kValueLabels)
-    controls_.get<QLabel>(label.caption).setBuddy(&controls_.get<QLabel>(label.position));
+    controls_.get(label.caption).setBuddy(&controls_.get(label.value));
 }
 
 void VerbInformationView::show(const engine::VerbInformation& information) const {
   const VerbLabels labels = dictionary::labelsOf(information);
   for (const ValueLabel& label : kValueLabels)
-    controls_.get<CaptionLabel>(label.position).showText(fromUtf8(labels.*label.value));
+    controls_.get(label.value).showText(fromUtf8(labels.*label.text));
 }
 
 }  // namespace odmiennik::app

@@ -12,16 +12,21 @@
 namespace odmiennik::app {
 namespace {
 
+// An item, when it may be chosen, and what it does.
 struct Item {
-  std::string_view name;
+  MenuItemName name;
   bool EditAvailability::*isAvailable;
+  void (*command)(QLineEdit& box);
 };
-constexpr Item kItems[] = {{"mnuEdycjaCofnij", &EditAvailability::canUndo},
-                           {"mnuEdycjaWytnij", &EditAvailability::canCut},
-                           {"mnuEdycjaKopiuj", &EditAvailability::canCopy},
-                           {"mnuEdycjaWklej", &EditAvailability::canPaste},
-                           {"mnuEdycjaUsuń", &EditAvailability::canDelete},
-                           {"mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll}};
+constexpr Item kItems[] = {
+    {"mnuEdycjaCofnij", &EditAvailability::canUndo, [](QLineEdit& box) { box.undo(); }},
+    {"mnuEdycjaWytnij", &EditAvailability::canCut, [](QLineEdit& box) { box.cut(); }},
+    {"mnuEdycjaKopiuj", &EditAvailability::canCopy, [](QLineEdit& box) { box.copy(); }},
+    {"mnuEdycjaWklej", &EditAvailability::canPaste, [](QLineEdit& box) { box.paste(); }},
+    {"mnuEdycjaUsuń", &EditAvailability::canDelete, [](QLineEdit& box) { box.del(); }},
+    {"mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll,
+     [](QLineEdit& box) { box.selectAll(); }},
+};
 
 // Files on the clipboard are no text, though they could be shown as one.
 bool isTextOnClipboard() {
@@ -33,13 +38,7 @@ bool isTextOnClipboard() {
 
 EditMenu::EditMenu(QMainWindow& window, const FormBoxes& boxes)
     : window_(window), menu_(*window.menuBar()->findChild<QMenu*>(QStringLiteral("mnuEdycja"))) {
-  connectItem("mnuEdycjaCofnij", &EditAvailability::canUndo, [](QLineEdit& box) { box.undo(); });
-  connectItem("mnuEdycjaWytnij", &EditAvailability::canCut, [](QLineEdit& box) { box.cut(); });
-  connectItem("mnuEdycjaKopiuj", &EditAvailability::canCopy, [](QLineEdit& box) { box.copy(); });
-  connectItem("mnuEdycjaWklej", &EditAvailability::canPaste, [](QLineEdit& box) { box.paste(); });
-  connectItem("mnuEdycjaUsuń", &EditAvailability::canDelete, [](QLineEdit& box) { box.del(); });
-  connectItem("mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll,
-              [](QLineEdit& box) { box.selectAll(); });
+  connectItems();
   followBoxes(boxes);
   connect(&menu_, &QMenu::aboutToShow, this, &EditMenu::clipboardChanged);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
@@ -49,14 +48,13 @@ EditMenu::EditMenu(QMainWindow& window, const FormBoxes& boxes)
   focusChanged(window_.focusWidget());
 }
 
-void EditMenu::connectItem(std::string_view name, bool EditAvailability::*isAvailable,
-                           Command command) {
-  connect(&menuItem(*window_.menuBar(), name), &QAction::triggered, this,
-          [this, isAvailable, command] {
-            isTextOnClipboard_ = isTextOnClipboard();
-            if (auto* box = qobject_cast<QLineEdit*>(active_); box && availability().*isAvailable)
-              command(*box);
-          });
+void EditMenu::connectItems() {
+  for (const Item& item : kItems)
+    connect(&menuItem(*window_.menuBar(), item.name), &QAction::triggered, this, [this, &item] {
+      isTextOnClipboard_ = isTextOnClipboard();
+      if (auto* box = qobject_cast<QLineEdit*>(active_); box && availability().*item.isAvailable)
+        item.command(*box);
+    });
 }
 
 // A text or selection that changes elsewhere says nothing of the active control.

@@ -27,9 +27,7 @@ class EditMenu final : public QObject {
   void refresh();
 
  private:
-  using Command = void (*)(QLineEdit& box);
-
-  void connectItem(std::string_view name, bool EditAvailability::*isAvailable, Command command);
+  void connectItems();
   void followBoxes(const FormBoxes& boxes);
   void showContextMenu(QLineEdit& box, QPoint onScreen);
   void focusChanged(QWidget* now);

@@ -1,6 +1,6 @@
 # Compiles SOURCE; fails unless the outcome is the one wanted (REASON empty: it compiles).
 execute_process(
-  COMMAND ${COMPILER} ${FLAGS} -I${INCLUDE} ${SOURCE}
+  COMMAND ${COMPILER} ${FLAGS} -I${INCLUDE} -I${DATA} ${SOURCE}
   RESULT_VARIABLE result
   OUTPUT_VARIABLE output
   ERROR_VARIABLE output)

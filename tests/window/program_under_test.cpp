@@ -40,7 +40,9 @@ QString ProgramUnderTest::label(const char* name) const {
 QCheckBox& ProgramUnderTest::auxiliary() const { return widget<QCheckBox>("chkZAvoir"); }
 
 QAction& ProgramUnderTest::item(const char* name) const {
-  return app::menuItem(*window.menuBar(), name);
+  auto* found = window.menuBar()->findChild<QAction*>(QString::fromUtf8(name));
+  if (found == nullptr) qFatal("no item %s", name);
+  return *found;
 }
 
 void ProgramUnderTest::type(const QString& text) const {

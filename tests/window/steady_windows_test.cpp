@@ -15,7 +15,7 @@ struct RunWithBoxes {
   RunWithBoxes() { program.start(); }
 
   // Chooses a menu item and waits for the window that it opens.
-  QPointer<QDialog> open(const char* item, const char* name) {
+  QPointer<QDialog> open(app::MenuItemName item, const char* name) {
     app::menuItem(*program.window().menuBar(), item).trigger();
     const auto find = [&] { return program.window().findChild<QDialog*>(QString::fromUtf8(name)); };
     if (!QTest::qWaitFor([&] { return find() != nullptr; })) qFatal("no window %s", name);

@@ -1,0 +1,4 @@
+// An item that the menu's table does not have.
+#include "app/controls/menu_table.h"
+
+constexpr odmiennik::app::MenuItemName kItem = "mnuPlikKonec";

@@ -1,0 +1,4 @@
+// A menu cannot be chosen, so it is no item.
+#include "app/controls/menu_table.h"
+
+constexpr odmiennik::app::MenuItemName kItem = "mnuPlik";
