@@ -12,18 +12,6 @@ bool wantsColours(const Console& console) {
   return console.isOnTerminal() && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
 }
 
-std::unique_ptr<Format> formatOf(const Options& options, const Console& console) {
-  switch (options.format) {
-    case OutputFormat::json:
-      return makeJsonFormat();
-    case OutputFormat::tsv:
-      return makeTsvFormat();
-    case OutputFormat::text:
-      break;
-  }
-  return makeTextFormat(wantsColours(console));
-}
-
 // The verb as a message names it: a line of ten thousand letters would hide the message.
 std::string nameOf(std::string_view infinitive) {
   constexpr std::size_t kLongestName = 60;
@@ -42,7 +30,7 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
       answerer_(userVerbs_, messages_,
                 {options.isEditing, options.auxiliary,
                  options.isInNorm ? engine::Variety::norm : engine::Variety::system}),
-      format_(formatOf(options, console)) {
+      format_(options.format->make(wantsColours(console))) {
   if (options.listsDepartures) departures_.emplace(userVerbs_, messages_);
 }
 

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "cli/answerer.h"
 
@@ -17,17 +18,29 @@ class Format {
   virtual void append(std::string& out, const Answer& answer) = 0;
 };
 
+// The formats, a row each: what --format calls it, and what makes it, in a file of its own in
+// cli/formats. The first one is the default.
+#define ODMIENNIK_FORMATS(ROW)                                                              \
+  ROW("text", makeTextFormat) /* a table that fits 80 columns; a refused verb has none */   \
+  ROW("tsv", makeTsvFormat)   /* a header, then one slot a line; a refused verb has none */ \
+  ROW("json", makeJsonFormat) /* one JSON object a line */
+
+#define ODMIENNIK_DECLARE(name, make) \
+  [[nodiscard]] std::unique_ptr<Format> make(bool isColoured = false);
+ODMIENNIK_FORMATS(ODMIENNIK_DECLARE)
+#undef ODMIENNIK_DECLARE
+
+struct FormatRow {
+  std::string_view name;
+  std::unique_ptr<Format> (*make)(bool isColoured);
+};
+
+#define ODMIENNIK_ROW(name, make) {name, make},
+inline constexpr FormatRow kFormats[] = {ODMIENNIK_FORMATS(ODMIENNIK_ROW)};
+#undef ODMIENNIK_ROW
+
 // Appends Windows-1252 text to a table that a person or a line-wise program reads, escaped as
 // dictionary/printable.h says: no form breaks a line or drives a terminal.
 void appendPrintable(std::string& out, std::string_view french);
-
-// One JSON object a line.
-[[nodiscard]] std::unique_ptr<Format> makeJsonFormat();
-
-// A header, then one slot a line; a refused verb has none.
-[[nodiscard]] std::unique_ptr<Format> makeTsvFormat();
-
-// A table that fits 80 columns; a refused verb has none.
-[[nodiscard]] std::unique_ptr<Format> makeTextFormat(bool isColoured);
 
 }  // namespace odmiennik::cli

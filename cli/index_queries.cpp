@@ -23,9 +23,9 @@ constexpr bool isUtf8Entry(int identifier) {
 
 }  // namespace
 
-bool appendVerbsOfLetter(std::string& out, char letter) {
-  const char lower =
-      letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+bool appendVerbsOfLetter(std::string& out, std::string_view letter) {
+  const char first = letter.front();
+  const char lower = first >= 'A' && first <= 'Z' ? static_cast<char>(first - 'A' + 'a') : first;
   const int count = dictionary::verbCount(lower);
   for (int k = 1; k <= count; ++k) appendLine(out, dictionary::verbOfLetter(lower, k));
   return count > 0;
@@ -44,7 +44,7 @@ bool appendRecord(std::string& out, std::string_view infinitive) {
   return appendLine(out, index.record(engine::lookupKey(french.text)));
 }
 
-bool appendStrings(std::string& out) {
+bool appendStrings(std::string& out, std::string_view) {
   for (int identifier = 1; identifier <= engine::text_id::kLast; ++identifier) {
     const std::string_view text = engine::textOf(identifier);
     if (text.empty()) continue;

@@ -8,8 +8,8 @@ namespace odmiennik::cli {
 
 // Each appends its answer, a line each in UTF-8, and returns whether there was any.
 
-// The verbs filed under a letter a to z, in the index's order.
-bool appendVerbsOfLetter(std::string& out, char letter);
+// The verbs filed under a letter a to z or A to Z, in the index's order.
+bool appendVerbsOfLetter(std::string& out, std::string_view letter);
 
 // The verb that completes `prefix` (UTF-8), compared letter for letter.
 bool appendCompletion(std::string& out, std::string_view prefix);
@@ -19,6 +19,6 @@ bool appendCompletion(std::string& out, std::string_view prefix);
 bool appendRecord(std::string& out, std::string_view infinitive);
 
 // Every entry of the string table, raw: identifier, TAB, text, in ascending order.
-bool appendStrings(std::string& out);
+bool appendStrings(std::string& out, std::string_view);
 
 }  // namespace odmiennik::cli

@@ -1,32 +1,40 @@
 // The command line as a table of options.
 #include "cli/options.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
 #include <utility>
 
-#include "cli/page.h"
+#include "cli/help.h"
+#include "cli/index_queries.h"
 #include "engine/flags.h"
 
 namespace odmiennik::cli {
 namespace {
 
-// Takes the value into the options; false for a value that the option does not know.
-using Apply = bool (*)(Options&, std::string_view);
+constexpr std::size_t kFormatNamesSize = [] {
+  std::size_t size = std::size(kFormats) - 1;
+  for (const FormatRow& row : kFormats) size += row.name.size();
+  return size;
+}();
 
-struct OptionRow {
-  std::string_view name;
-  std::string_view valueName;  // empty for an option without a value
-  Apply apply;
-  std::string_view help;
-};
+// "text|tsv|json"
+constexpr auto kFormatNames = [] {
+  std::array<char, kFormatNamesSize> names{};
+  auto end = names.begin();
+  for (const FormatRow& row : kFormats) {
+    if (end != names.begin()) *end++ = '|';
+    end = std::copy(row.name.begin(), row.name.end(), end);
+  }
+  return names;
+}();
 
 bool takeFormat(Options& options, std::string_view value) {
-  constexpr std::string_view kNames[] = {"text", "tsv", "json"};
-  for (int i = 0; i < 3; ++i) {
-    if (value != kNames[i]) continue;
-    options.format = static_cast<OutputFormat>(i);
-    return true;
-  }
-  return false;
+  const auto row = std::ranges::find(kFormats, value, &FormatRow::name);
+  if (row == std::end(kFormats)) return false;
+  options.format = row;
+  return true;
 }
 
 bool takeAuxiliary(Options& options, std::string_view value) {
@@ -44,37 +52,41 @@ bool takeFolder(Options& options, std::string_view value) {
   return !value.empty();
 }
 
-template <Task Wanted>
-bool takeTask(Options& options, std::string_view value) {
-  options.task = Wanted;
-  options.taskText = value;
+bool takeEditing(Options& options, std::string_view) { return options.isEditing = true; }
+
+template <Query Asked>
+bool ask(Options& options, std::string_view text) {
+  options.query = Asked;
+  options.queryText = text;
   return true;
 }
 
-bool takeLetter(Options& options, std::string_view value) {
+bool askForLetter(Options& options, std::string_view value) {
   const bool isLetter = value.size() == 1 && ((value[0] >= 'a' && value[0] <= 'z') ||
                                               (value[0] >= 'A' && value[0] <= 'Z'));
-  return isLetter && takeTask<Task::list>(options, value);
+  return isLetter && ask<appendVerbsOfLetter>(options, value);
 }
 
-bool takeEditing(Options& options, std::string_view) { return options.isEditing = true; }
 bool takeNorm(Options& options, std::string_view) { return options.isInNorm = true; }
 bool takeDepartures(Options& options, std::string_view) { return options.listsDepartures = true; }
 
 constexpr OptionRow kOptions[] = {
-    {"--format", "text|tsv|json", takeFormat, "postać wyniku (domyślnie text)"},
+    {"--format",
+     {kFormatNames.data(), kFormatNames.size()},
+     takeFormat,
+     "postać wyniku (domyślnie text)"},
     {"--folder", "KATALOG", takeFolder, "katalog programu z czasownikami użytkownika"},
     {"--auxiliary", "avoir|etre", takeAuxiliary,
      "przełącz potem czasownik posiłkowy czasów złożonych"},
     {"--edit", "", takeEditing, "odmień jak przy edycji czasownika"},
     {"--norm", "", takeNorm, "odmień według dzisiejszej normy"},
     {"--departures", "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
-    {"--list", "LITERA", takeLetter, "wypisz czasowniki spisu na tę literę (a-z)"},
-    {"--complete", "POCZĄTEK", takeTask<Task::complete>, "dokończ bezokolicznik według spisu"},
-    {"--record", "BEZOKOLICZNIK", takeTask<Task::record>, "wypisz dane czasownika ze spisu"},
-    {"--strings", "", takeTask<Task::strings>, "wypisz ponumerowane teksty programu"},
-    {"--help", "", takeTask<Task::help>, "wyświetl tę pomoc"},
-    {"--version", "", takeTask<Task::version>, "wyświetl wersję programu"},
+    {"--list", "LITERA", askForLetter, "wypisz czasowniki spisu na tę literę (a-z)"},
+    {"--complete", "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
+    {"--record", "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
+    {"--strings", "", ask<appendStrings>, "wypisz ponumerowane teksty programu"},
+    {"--help", "", ask<appendHelp>, "wyświetl tę pomoc"},
+    {"--version", "", ask<appendVersion>, "wyświetl wersję programu"},
 };
 
 const OptionRow* rowOf(std::string_view name) {
@@ -102,10 +114,10 @@ std::string takeOption(Options& options, std::span<const std::string>& rest) {
     value = rest.front();
     rest = rest.subspan(1);
   }
-  const Task before = options.task;
+  const Query before = options.query;
   if (!row->apply(options, value))
     return "niewłaściwa wartość " + quoted(value) + " opcji " + quoted(name) + ".";
-  if (before != Task::conjugation && options.task != before)
+  if (before != nullptr && options.query != before)
     return "opcja " + quoted(name) + " nie łączy się z poprzednimi.";
   return {};
 }
@@ -121,7 +133,7 @@ std::string faultOfChoice(const Options& options) {
       return "opcja " + quoted(name) + " nie łączy się z " + quoted(before) + ".";
     if (isGiven) before = name;
   }
-  const bool isShaped = options.format != OutputFormat::text || options.auxiliary;
+  const bool isShaped = options.format != &kFormats[0] || options.auxiliary;
   if (options.listsDepartures && isShaped)
     return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
   return {};
@@ -146,32 +158,12 @@ ParsedOptions parseOptions(std::span<const std::string> arguments) {
       areOptionsOver = true;
     arguments = arguments.subspan(1);
   }
-  if (parsed.error.empty() && options.task != Task::conjugation && !options.infinitives.empty())
+  if (parsed.error.empty() && options.query != nullptr && !options.infinitives.empty())
     parsed.error = "nadmiarowy argument " + quoted(options.infinitives.front()) + ".";
   if (parsed.error.empty()) parsed.error = faultOfChoice(options);
   return parsed;
 }
 
-std::string helpText() {
-  std::string text =
-      "Użycie: odmien [OPCJE] [BEZOKOLICZNIK…]\n"
-      "Odmienia francuskie czasowniki. Bez argumentów czyta je ze standardowego\n"
-      "wejścia, po jednym w wierszu; po znaku tabulacji może stać rekord danych\n"
-      "o czasowniku, który zastępuje dane ze spisu.\n\n";
-  Page page(text, false);
-  for (const OptionRow& row : kOptions) {
-    page.moveTo(2);
-    page.addUtf8(row.name);
-    if (!row.valueName.empty()) page.addUtf8(" ");
-    page.addUtf8(row.valueName);
-    page.moveTo(26);
-    page.addUtf8(row.help);
-    page.endLine();
-  }
-  text.append(
-      "\nKod zakończenia: 0 odmieniono wszystko, 1 nie odmieniono któregoś czasownika,\n"
-      "2 błędne użycie, 3 kłopot z plikiem.\n");
-  return text;
-}
+std::span<const OptionRow> optionRows() { return kOptions; }
 
 }  // namespace odmiennik::cli

@@ -8,17 +8,18 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/format.h"
+
 namespace odmiennik::cli {
 
-enum class OutputFormat { text, tsv, json };
-
-// What is asked for; everything but `conjugation` excludes infinitives.
-enum class Task { conjugation, help, version, strings, list, complete, record };
+// What is asked for in the place of a conjugation: appends the answer to what stands behind the
+// option ("a" of "--list a"), and says whether there is any.
+using Query = bool (*)(std::string& out, std::string_view text);
 
 struct Options {
-  Task task = Task::conjugation;
-  std::string_view taskText;  // the letter, the prefix or the infinitive of an index query
-  OutputFormat format = OutputFormat::text;
+  Query query = nullptr;       // excludes infinitives
+  std::string_view queryText;  // a letter, a prefix, an infinitive or nothing
+  const FormatRow* format = &kFormats[0];
   bool isEditing = false;
   bool isInNorm = false;         // today's norm in the place of the system's forms
   bool listsDepartures = false;  // only the forms in which the two differ
@@ -37,7 +38,17 @@ struct ParsedOptions {
 // everything is an infinitive. The views are those of `arguments`.
 [[nodiscard]] ParsedOptions parseOptions(std::span<const std::string> arguments);
 
-// The text of --help, Polish.
-[[nodiscard]] std::string helpText();
+// An option takes its value into the options; false for a value that it does not know.
+using Apply = bool (*)(Options&, std::string_view value);
+
+struct OptionRow {
+  std::string_view name;
+  std::string_view valueName;  // empty for an option without a value
+  Apply apply;
+  std::string_view help;  // Polish, one line
+};
+
+// All options, in the order in which --help lists them.
+[[nodiscard]] std::span<const OptionRow> optionRows();
 
 }  // namespace odmiennik::cli

@@ -41,21 +41,21 @@ TEST(index_queries, a_prefix_is_completed_letter_for_letter) {
 TEST(index_queries, a_letter_lists_its_accented_verbs_too) {
   std::string lower;
   std::string upper;
-  EXPECT_TRUE(appendVerbsOfLetter(lower, 'e'));
-  EXPECT_TRUE(appendVerbsOfLetter(upper, 'E'));
+  EXPECT_TRUE(appendVerbsOfLetter(lower, "e"));
+  EXPECT_TRUE(appendVerbsOfLetter(upper, "E"));
   EXPECT_EQ(lower, upper);
   EXPECT_NE(lower.find("\nêtre\n"), std::string::npos);
 }
 
 TEST(index_queries, all_letters_together_list_the_whole_index) {
   std::string all;
-  for (char letter = 'a'; letter <= 'z'; ++letter) appendVerbsOfLetter(all, letter);
+  for (char letter = 'a'; letter <= 'z'; ++letter) appendVerbsOfLetter(all, {&letter, 1});
   EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 7342);
 }
 
 TEST(index_queries, strings_are_raw_and_ascending) {
   std::string out;
-  EXPECT_TRUE(appendStrings(out));
+  EXPECT_TRUE(appendStrings(out, {}));
   EXPECT_TRUE(out.starts_with("1\tme \n2\tte \n3\tse \n"));
   EXPECT_NE(out.find("\n2041\taurainet\n"), std::string::npos);
   EXPECT_NE(out.find("\n1042\têtre\n"), std::string::npos);

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <regex>
+
+#include "cli/help.h"
 #include "cli/page.h"
 #include "engine/flags.h"
 
@@ -29,18 +33,18 @@ class options : public testing::Test {
 using Verbs = std::vector<std::string_view>;
 
 TEST_F(options, without_arguments_ask_for_text_from_standard_input) {
-  EXPECT_EQ(parse({}).task, Task::conjugation);
-  EXPECT_EQ(parse({}).format, OutputFormat::text);
+  EXPECT_EQ(parse({}).query, nullptr);
+  EXPECT_EQ(parse({}).format->name, "text");
   EXPECT_TRUE(parse({}).infinitives.empty());
 }
 
 TEST_F(options, may_stand_between_the_infinitives) {
   EXPECT_EQ(parse({"aller", "--format", "json", "venir"}).infinitives, (Verbs{"aller", "venir"}));
-  EXPECT_EQ(parsed_.options.format, OutputFormat::json);
+  EXPECT_EQ(parsed_.options.format->name, "json");
 }
 
 TEST_F(options, take_their_value_behind_an_equals_sign_too) {
-  EXPECT_EQ(parse({"--format=tsv"}).format, OutputFormat::tsv);
+  EXPECT_EQ(parse({"--format=tsv"}).format->name, "tsv");
   EXPECT_EQ(parse({"--folder=/a=b"}).folder, "/a=b");
 }
 
@@ -103,16 +107,45 @@ TEST_F(options, a_task_takes_no_infinitives) {
   EXPECT_EQ(errorOf({"--strings", "aller"}), "nadmiarowy argument „aller”.");
 }
 
+TEST_F(options, every_format_of_the_table_is_known) {
+  for (const FormatRow& row : kFormats)
+    EXPECT_EQ(parse({"--format", std::string(row.name)}).format, &row) << row.name;
+}
+
 TEST_F(options, help_names_every_option_and_fits_the_page) {
-  const std::string help = helpText();
-  for (const char* name : {"--format", "--folder", "--auxiliary", "--edit", "--list", "--complete",
-                           "--record", "--strings", "--help", "--version"})
-    EXPECT_NE(help.find(name), std::string::npos) << name;
+  std::string help;
+  appendHelp(help, {});
+  for (const OptionRow& row : optionRows())
+    EXPECT_NE(help.find("\n  " + std::string(row.name) + " "), std::string::npos) << row.name;
+  EXPECT_NE(help.find("--format text|tsv|json "), std::string::npos);
   for (std::size_t start = 0; start < help.size();) {
     const std::size_t end = help.find('\n', start);
     EXPECT_LE(letterCount(std::string_view(help).substr(start, end - start)), 80U);
     start = end + 1;
   }
+}
+
+// An option of the manual page as a line of --help: `.BR \-\-format " " text | tsv` is
+// "--format text|tsv".
+std::string plain(const std::string& line) {
+  std::string text =
+      std::regex_replace(line.substr(line.find(' ') + 1), std::regex(R"([\\"])"), "");
+  text = std::regex_replace(text, std::regex(R"( *\| *)"), "|");
+  return std::regex_replace(text, std::regex(" +"), " ");
+}
+
+TEST_F(options, are_those_of_the_manual_page_in_its_order) {
+  std::ifstream page(ODMIENNIK_SOURCE_DIR "/docs/odmien.1");
+  std::vector<std::string> described;
+  std::string before;
+  for (std::string line; std::getline(page, line); before = line)
+    if (before == ".TP" && line.find(" \\-\\-") != std::string::npos)
+      described.push_back(plain(line));
+  std::vector<std::string> known;
+  for (const OptionRow& row : optionRows())
+    known.push_back(std::string(row.name) + (row.valueName.empty() ? "" : " ") +
+                    std::string(row.valueName));
+  EXPECT_EQ(described, known);
 }
 
 }  // namespace

@@ -38,6 +38,6 @@ class TsvFormat final : public Format {
 
 }  // namespace
 
-std::unique_ptr<Format> makeTsvFormat() { return std::make_unique<TsvFormat>(); }
+std::unique_ptr<Format> makeTsvFormat(bool) { return std::make_unique<TsvFormat>(); }
 
 }  // namespace odmiennik::cli

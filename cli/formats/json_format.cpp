@@ -82,6 +82,6 @@ class JsonFormat final : public Format {
 
 }  // namespace
 
-std::unique_ptr<Format> makeJsonFormat() { return std::make_unique<JsonFormat>(); }
+std::unique_ptr<Format> makeJsonFormat(bool) { return std::make_unique<JsonFormat>(); }
 
 }  // namespace odmiennik::cli

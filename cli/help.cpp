@@ -1,0 +1,36 @@
+// The texts of --help and --version.
+#include "cli/help.h"
+
+#include "cli/options.h"
+#include "cli/page.h"
+
+namespace odmiennik::cli {
+
+bool appendHelp(std::string& out, std::string_view) {
+  out.append(
+      "Użycie: odmien [OPCJE] [BEZOKOLICZNIK…]\n"
+      "Odmienia francuskie czasowniki. Bez argumentów czyta je ze standardowego\n"
+      "wejścia, po jednym w wierszu; po znaku tabulacji może stać rekord danych\n"
+      "o czasowniku, który zastępuje dane ze spisu.\n\n");
+  Page page(out, false);
+  for (const OptionRow& row : optionRows()) {
+    page.moveTo(2);
+    page.addUtf8(row.name);
+    if (!row.valueName.empty()) page.addUtf8(" ");
+    page.addUtf8(row.valueName);
+    page.moveTo(26);
+    page.addUtf8(row.help);
+    page.endLine();
+  }
+  out.append(
+      "\nKod zakończenia: 0 odmieniono wszystko, 1 nie odmieniono któregoś czasownika,\n"
+      "2 błędne użycie, 3 kłopot z plikiem.\n");
+  return true;
+}
+
+bool appendVersion(std::string& out, std::string_view) {
+  out.append("odmien " ODMIENNIK_VERSION "\n");
+  return true;
+}
+
+}  // namespace odmiennik::cli
