@@ -4,11 +4,11 @@
 #include "app/common/look.h"
 #include "app/layout/screen_fit.h"
 #include "app/lifetime/developer_buttons.h"
-#include "dictionary/app_folder.h"
+#include "dictionary/program_folder.h"
 
 namespace odmiennik::app {
 
-Program::Program(const Surroundings& given)
+Program::Program(const Environment& given)
     : prefix_(dictionary::AppFolder(given.folder)),
       userVerbs_(prefix_, 0, given.messages, given.files),  // their number comes with the settings
       shell_(given.messages, [this] { settings_.ResetSettings(); }),
@@ -43,7 +43,7 @@ Program::Program(const Surroundings& given)
 Program::~Program() = default;
 
 // What one part needs of another that is made after it, or does not know.
-void Program::connectParts(const Surroundings& given) {
+void Program::connectParts(const Environment& given) {
   typing_.openHelpWith(help_.help());
   window_.scaling().setQuestion([given] {
     if (given.messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)

@@ -32,7 +32,7 @@ class Program {
  public:
   // What differs between the program itself and a test of it. `folder` keeps the user's verbs and
   // the settings; `end` ends the program at once.
-  struct Surroundings {
+  struct Environment {
     std::string folder;
     dictionary::MessageBoxes& messages;
     UserStore& store;
@@ -42,7 +42,7 @@ class Program {
     QStringList helpPlaces = helpFilePlaces();
     std::optional<std::string> verb = {};  // conjugated at the start, Windows-1252
   };
-  explicit Program(const Surroundings& surroundings);
+  explicit Program(const Environment& environment);
   ~Program();
 
   // Takes the steps of the start; called from the event loop.
@@ -58,7 +58,7 @@ class Program {
   [[nodiscard]] DemonstrationRunner& demonstration() { return demonstration_; }
 
  private:
-  void connectParts(const Surroundings& given);
+  void connectParts(const Environment& given);
   [[nodiscard]] HeadingColourPort headingColours();
   [[nodiscard]] LayoutPort layout();
 

@@ -19,7 +19,7 @@ void fillLongestLetter(benchmark::State& state) {
   ListControls controls(window);
   window.setVisible(state.range(0) != 0);
   QCoreApplication::processEvents();
-  dictionary::VerbList list;
+  VerbList list;
   for (auto _ : state) fillLetter(kLongestLetter, list, controls);
   if (controls.lstCzasowniki.count() != dictionary::verbCount(kLongestLetter))
     state.SkipWithError("the letter is not complete");

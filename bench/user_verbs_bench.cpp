@@ -6,7 +6,7 @@
 #include <fstream>
 #include <string>
 
-#include "dictionary/app_folder.h"
+#include "dictionary/program_folder.h"
 #include "dictionary/user_verbs.h"
 
 namespace odmiennik::dictionary {

@@ -1,7 +1,6 @@
 // The files of the program folder.
 #include "cli/program_files.h"
 
-#include "dictionary/app_folder.h"
 #include "dictionary/program_folder.h"
 #include "dictionary/settings.h"
 

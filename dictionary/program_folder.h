@@ -28,4 +28,10 @@ namespace odmiennik::dictionary {
 // not take it for a drive's root: "/home/ala//" -> "/home/ala", "/" -> "".
 [[nodiscard]] std::string_view withoutTrailingSeparators(std::string_view folder);
 
+// The folder without trailing blanks and with a separator of the system's own behind it:
+// AppFolder("/home/ala ") -> "/home/ala/".
+// deliberate: a folder that already ends in "/" or "\" gives the empty text, so that a program in a
+// drive's root names its files relative to the current folder.
+[[nodiscard]] std::string AppFolder(std::string_view folder);
+
 }  // namespace odmiennik::dictionary

@@ -42,7 +42,7 @@ bool isInterruption(const QEvent& event) {
 
 }  // namespace
 
-DemonstrationRunner::DemonstrationRunner(QMainWindow& window, dictionary::MainCommands& commands,
+DemonstrationRunner::DemonstrationRunner(QMainWindow& window, MainCommands& commands,
                                          ScreenPointer pointer)
     : QObject(&window),
       window_(window),

@@ -14,7 +14,7 @@
 #include "app/demonstration/demonstration_places.h"
 #include "app/demonstration/screen_pointer.h"
 #include "app/logic/demonstration_script.h"
-#include "dictionary/verb_list_commands.h"
+#include "app/logic/verb_list_commands.h"
 
 namespace odmiennik::app {
 
@@ -26,7 +26,7 @@ class DemonstrationRunner final : public QObject {
 
  public:
   // `commands` leave edit mode, which may ask to save; they outlive the runner, as does `window`.
-  DemonstrationRunner(QMainWindow& window, dictionary::MainCommands& commands,
+  DemonstrationRunner(QMainWindow& window, MainCommands& commands,
                       ScreenPointer pointer = systemPointer());
 
   // Begins the first (0) or the second (1) demonstration. Nothing begins while one is running, or
@@ -67,7 +67,7 @@ class DemonstrationRunner final : public QObject {
   [[nodiscard]] QLineEdit& entryBox() const;
 
   QMainWindow& window_;
-  dictionary::MainCommands& commands_;
+  MainCommands& commands_;
   ScreenPointer pointer_;
   DemonstrationPlaces places_;
   DemonstrationHand hand_;

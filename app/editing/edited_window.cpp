@@ -4,9 +4,9 @@
 #include "app/common/announcement.h"
 #include "app/common/text.h"
 #include "app/controls/main_menu.h"
+#include "app/logic/saving.h"
 #include "app/main_window/main_window.h"
 #include "app/main_window/window_pointer.h"
-#include "dictionary/saving.h"
 
 namespace odmiennik::app {
 namespace {
@@ -43,7 +43,7 @@ void EditedWindow::clearBoxes() {
   for (int slot = 0; slot < engine::kSlotCount; ++slot) window_.boxes()[slot].showForm(QString());
 }
 
-void EditedWindow::present(const dictionary::EditPresentation& presentation) {
+void EditedWindow::present(const EditPresentation& presentation) {
   window_.setEditing(presentation.isEditing);
   QAction& edit = item("mnuEdycjaEdytujCzasownik");
   const bool wasEditing = !edit.property(kTagProperty).toString().isEmpty();
@@ -81,7 +81,7 @@ dictionary::UserVerbRecord EditedWindow::record() const {
   std::array<std::string, engine::kSlotCount> texts;
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     texts[static_cast<std::size_t>(slot)] = toFrench(window_.boxes()[slot].text());
-  return dictionary::recordOfBoxes(texts, window_.auxiliary());
+  return recordOfBoxes(texts, window_.auxiliary());
 }
 
 bool EditedWindow::write(const dictionary::UserVerbRecord& record) {

@@ -4,7 +4,7 @@
 #include <QAction>
 
 #include "app/controls/menu_table.h"
-#include "dictionary/edit_mode_runner.h"
+#include "app/logic/edit_mode.h"
 #include "dictionary/user_verbs.h"
 
 namespace odmiennik::app {
@@ -15,14 +15,14 @@ class WindowPointer;
 // Name of the property that holds the marker of edit mode: "edit", or nothing.
 inline constexpr char kTagProperty[] = "Tag";
 
-class EditedWindow final : public dictionary::EditWindow {
+class EditedWindow final : public EditWindow {
  public:
   EditedWindow(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs);
 
   [[nodiscard]] std::string entryText() const override;
   void setEntryText(std::string_view text) override;
   void clearBoxes() override;
-  void present(const dictionary::EditPresentation& presentation) override;
+  void present(const EditPresentation& presentation) override;
   void showHourglass(bool isShown) override;
   std::string conjugate() override;
   std::string conjugateForEditing() override;

@@ -2,7 +2,6 @@
 #include "app/editing/editing.h"
 
 #include <QPushButton>
-#include <QScopedValueRollback>
 
 #include "app/common/text.h"
 #include "app/controls/main_menu.h"
@@ -10,14 +9,11 @@
 
 namespace odmiennik::app {
 
-using dictionary::EditCommand;
-
 Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs,
                  dictionary::MessageBoxes& messages)
     : window_(window),
       edited_(window, pointer, userVerbs),
-      messages_(messages),
-      mode_(window.windowTitle().toStdString()) {
+      mode_(window.windowTitle().toStdString(), edited_, messages) {
   connectCommands();
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);
@@ -54,10 +50,9 @@ void Editing::enterOrLeave() {
 }
 
 // A second command while the first one's message is on the screen does nothing.
-bool Editing::run(EditCommand command) {
-  if (isRunning_) return false;
-  const QScopedValueRollback<bool> running(isRunning_, true);
-  const bool isDone = dictionary::runEditCommand(command, mode_, edited_, messages_);
+bool Editing::run(bool (EditMode::*command)()) {
+  if (mode_.isBusy()) return false;
+  const bool isDone = (mode_.*command)();
   offerRestoring();
   return isDone;
 }
@@ -69,13 +64,13 @@ void Editing::offerRestoring() {
 }
 
 bool Editing::conjugate(std::string_view infinitive) {
-  if (isRunning_) return false;
+  if (mode_.isBusy()) return false;
   edited_.setEntryText(infinitive);
   return conjugate();
 }
 
 bool Editing::newVerb() {
-  const bool isStarted = run(EditCommand::newVerb);
+  const bool isStarted = run(&EditMode::newVerb);
   if (isStarted) window_.boxes().selectEntry();
   return isStarted;
 }

@@ -5,15 +5,15 @@
 #include <functional>
 
 #include "app/editing/edited_window.h"
-#include "dictionary/edit_mode.h"
-#include "dictionary/verb_list_commands.h"
+#include "app/logic/edit_mode.h"
+#include "app/logic/verb_list_commands.h"
 
 namespace odmiennik::app {
 
 // Every command asks first whether to save what is not saved. Each returns false when it stopped:
 // the save was refused or failed, or another command still waits for an answer; window and texts
 // are then as they were.
-class Editing final : public QObject, public dictionary::MainCommands {
+class Editing final : public QObject, public MainCommands {
   Q_OBJECT
 
  public:
@@ -23,19 +23,19 @@ class Editing final : public QObject, public dictionary::MainCommands {
   [[nodiscard]] bool isEditing() const override { return mode_.isEditing(); }
 
   // Conjugates the text of the entry box; edit mode is left.
-  bool conjugate() { return run(dictionary::EditCommand::conjugate); }
+  bool conjugate() { return run(&EditMode::conjugate); }
   bool conjugate(std::string_view infinitive) override;
 
   // Enters edit mode, or leaves it like conjugate().
-  bool edit() override { return run(dictionary::EditCommand::edit); }
+  bool edit() override { return run(&EditMode::edit); }
   bool newVerb() override;
   // Gives up the user's own forms of the shown verb for the program's, once the user agrees.
-  bool restore() { return run(dictionary::EditCommand::restore); }
+  bool restore() { return run(&EditMode::restore); }
 
-  bool save() { return run(dictionary::EditCommand::save); }
+  bool save() { return run(&EditMode::save); }
 
   // Asked when the window is to be closed, once the user has said that it may be.
-  [[nodiscard]] bool leaveForClosing() { return run(dictionary::EditCommand::close); }
+  [[nodiscard]] bool leaveForClosing() { return run(&EditMode::leaveForClosing); }
 
   // The window has not been closed after all.
   void stay() { mode_.stay(); }
@@ -47,16 +47,14 @@ class Editing final : public QObject, public dictionary::MainCommands {
  private:
   void connectCommands();
   void enterOrLeave();
-  bool run(dictionary::EditCommand command);
+  bool run(bool (EditMode::*command)());
   void boxChanged();
   void offerRestoring();
 
   MainWindow& window_;
   EditedWindow edited_;
-  dictionary::MessageBoxes& messages_;
-  dictionary::EditMode mode_;
+  EditMode mode_;
   std::function<bool()> print_;
-  bool isRunning_ = false;
 };
 
 }  // namespace odmiennik::app

@@ -6,7 +6,6 @@
 #include <QScopedValueRollback>
 #include <QSessionManager>
 #include <QWidget>
-#include <algorithm>
 #include <cstdio>
 
 #include "app/lifetime/settings_keeper.h"
@@ -71,33 +70,19 @@ bool Closing::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-CloseReason Closing::reason() const {
-  return isSessionEnding_ ? CloseReason::systemShutdown : CloseReason::closeBox;
-}
-
+// The save question comes after the exit question, while closing can still be cancelled.
 bool Closing::close() {
   if (hasEnded_) return true;
   if (isAsking_) return false;  // a second request behind the question of the first
   const QScopedValueRollback<bool> asking(isAsking_, true);
-  return std::ranges::all_of(closingSteps(reason(), noExitQuestion_),
-                             [this](ClosingStep step) { return run(step); });
-}
-
-bool Closing::run(ClosingStep step) {
-  switch (step) {
-    case ClosingStep::askToExit:
-      return messages_.show(MessageId::endProgram) == Button::yes;
-    case ClosingStep::askToSaveVerb:
-      return isSessionEnding_ || mayClose_();  // an ending session has asked before
-    case ClosingStep::saveSettings:
-      settings_.SaveSettings();
-      return true;
-    case ClosingStep::end:
-      hasEnded_ = true;
-      end_();
-      return true;
-  }
+  if (asksToExit() && messages_.show(MessageId::endProgram) != Button::yes) return false;
+  if (!isSessionEnding_ && !mayClose_()) return false;  // an ending session has asked before
+  settings_.SaveSettings();
+  hasEnded_ = true;
+  end_();
   return true;
 }
+
+bool Closing::asksToExit() const { return !isSessionEnding_ && !noExitQuestion_; }
 
 }  // namespace odmiennik::app

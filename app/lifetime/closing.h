@@ -4,7 +4,6 @@
 #include <QObject>
 #include <functional>
 
-#include "app/logic/shutdown.h"
 #include "dictionary/messages.h"
 
 class QSessionManager;
@@ -49,9 +48,8 @@ class Closing final : public QObject {
  private:
   void commit(QSessionManager& session);
   void stayInSession();
-  [[nodiscard]] CloseReason reason() const;
   [[nodiscard]] bool close();
-  [[nodiscard]] bool run(ClosingStep step);
+  [[nodiscard]] bool asksToExit() const;
 
   QWidget& window_;
   SettingsKeeper& settings_;

@@ -9,9 +9,9 @@ using dictionary::MessageId;
 using dictionary::SettingsRead;
 
 void SettingsKeeper::ReadSettings() {
-  dictionary::removeUnfinishedSettings(needs_.prefix, needs_.files);
+  dictionary::removeUnfinishedSettings(parts_.prefix, parts_.files);
   const auto read = [this] {
-    return dictionary::readSettingsFile(needs_.prefix, settings_, needs_.files);
+    return dictionary::readSettingsFile(parts_.prefix, settings_, parts_.files);
   };
   SettingsRead result = read();
   if (result == SettingsRead::missing) {
@@ -19,24 +19,24 @@ void SettingsKeeper::ReadSettings() {
     result = read();
   }
   isFileUnread_ = result == SettingsRead::unreadable;
-  needs_.userVerbs.startWith(settings_.userVerbCount);
+  parts_.userVerbs.startWith(settings_.userVerbCount);
   if (result == SettingsRead::read)
-    needs_.colours.applyTo({settings_.moodColour, settings_.tenseColour});
+    parts_.colours.applyTo({settings_.moodColour, settings_.tenseColour});
   else  // also where the file could not be created
-    needs_.messages.show(MessageId::settingsNotRead);
+    parts_.messages.show(MessageId::settingsNotRead);
 }
 
 void SettingsKeeper::WriteDefaultSettings() {
-  const auto [mood, tense] = needs_.colours.design();
+  const auto [mood, tense] = parts_.colours.design();
   write({.moodColour = mood, .tenseColour = tense});
 }
 
 // The colours come from the headings and not from what was read: whatever was applied since is
 // saved. Another program may have saved verbs that are to be counted.
 dictionary::Settings SettingsKeeper::current() {
-  needs_.userVerbs.lookAgain();
-  const auto [mood, tense] = needs_.colours.live();
-  return {.userVerbCount = needs_.userVerbs.count(),
+  parts_.userVerbs.lookAgain();
+  const auto [mood, tense] = parts_.colours.live();
+  return {.userVerbCount = parts_.userVerbs.count(),
           .moodColour = mood,
           .tenseColour = tense,
           .conjugationCount = settings_.conjugationCount,
@@ -44,17 +44,17 @@ dictionary::Settings SettingsKeeper::current() {
 }
 
 void SettingsKeeper::SaveSettings() {
-  if (!saveSilently()) needs_.messages.show(MessageId::settingsNotWritten);
+  if (!saveSilently()) parts_.messages.show(MessageId::settingsNotWritten);
 }
 
 bool SettingsKeeper::saveSilently() {
-  return !isFileUnread_ && dictionary::writeSettingsFile(needs_.prefix, current(), needs_.files);
+  return !isFileUnread_ && dictionary::writeSettingsFile(parts_.prefix, current(), parts_.files);
 }
 
 void SettingsKeeper::ResetSettings() {
-  if (needs_.messages.show(MessageId::settingsWillBeReset) != dictionary::Button::ok) return;
+  if (parts_.messages.show(MessageId::settingsWillBeReset) != dictionary::Button::ok) return;
   WriteDefaultSettings();
-  needs_.end();
+  parts_.end();
 }
 
 void SettingsKeeper::countConjugation() { countOne(settings_.conjugationCount); }
@@ -62,8 +62,8 @@ void SettingsKeeper::countConjugation() { countOne(settings_.conjugationCount); 
 void SettingsKeeper::countRun() { countOne(settings_.runCount); }
 
 void SettingsKeeper::write(const dictionary::Settings& settings) {
-  if (!dictionary::writeSettingsFile(needs_.prefix, settings, needs_.files))
-    needs_.messages.show(MessageId::settingsNotWritten);
+  if (!dictionary::writeSettingsFile(parts_.prefix, settings, parts_.files))
+    parts_.messages.show(MessageId::settingsNotWritten);
 }
 
 }  // namespace odmiennik::app

@@ -24,7 +24,7 @@ struct HeadingColourPort {
 class SettingsKeeper {
  public:
   // `end` ends the program at once, without asking and without saving.
-  struct Needs {
+  struct Parts {
     std::string prefix;  // of every file name
     dictionary::UserVerbsFile& userVerbs;
     HeadingColourPort colours;
@@ -32,7 +32,7 @@ class SettingsKeeper {
     std::function<void()> end;
     dictionary::FileSystem& files = dictionary::systemFiles();
   };
-  explicit SettingsKeeper(Needs needs) : needs_(std::move(needs)) {}
+  explicit SettingsKeeper(Parts parts) : parts_(std::move(parts)) {}
 
   // Reads the file, which is created first when there is none, applies its colours and gives the
   // user's verbs their number. Of a damaged file what stands before the damage is taken, and the
@@ -65,7 +65,7 @@ class SettingsKeeper {
   [[nodiscard]] dictionary::Settings current();
   void write(const dictionary::Settings& settings);
 
-  Needs needs_;
+  Parts parts_;
   dictionary::Settings settings_;
   bool isFileUnread_ = false;  // there is a file, and nobody knows what it holds
 };

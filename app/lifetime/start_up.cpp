@@ -16,87 +16,61 @@
 #include "dictionary/file_names.h"
 
 namespace odmiennik::app {
+
+// What asks or tells the user something may end the program, and then nothing follows.
 void StartUp::run() {
-  for (const StartUpStep step : kStartUpSteps)
-    if (!take(step) || needs_.closing.hasEnded()) return;
+  parts_.pointer.showHourglass();
+  showWindow();
+  if (!rescaleForScreen() || !goesOn()) return;
+  readSettings();
+  if (!goesOn()) return;
+  checkFirstStart();
+  if (!goesOn()) return;
+  parts_.conjugateGivenVerb();  // before the tip, which waits to be closed
+  if (!goesOn()) return;
+  parts_.tips.showAtStart();
+  if (!goesOn()) return;
+  parts_.settings.countRun();
+  parts_.pointer.showDefault();
 }
 
-bool StartUp::take(StartUpStep step) {
-  switch (step) {
-    case StartUpStep::showHourglass:
-      needs_.pointer.showHourglass();
-      break;
-    case StartUpStep::setHelpFile:
-      needs_.setHelpFile();
-      break;
-    case StartUpStep::loadCursors:
-      needs_.pointer.setDefault(arrowCursor());
-      showHandOverTopics(needs_.window.controls());
-      break;
-    case StartUpStep::takeDesignSize:
-      break;  // the layout is made with it
-    case StartUpStep::showEmptyPronouns:
-      needs_.window.showEmptyTable();
-      break;
-    case StartUpStep::findCharacterMap:
-      offerCharacterMap(menuItem(*needs_.window.menuBar(), "mnuEdycjaTablica"));
-      break;
-    case StartUpStep::showVersionInCaption:
-      showVersionInCaption();
-      break;
-    case StartUpStep::showWindow:
-      needs_.window.show();
-      break;
-    case StartUpStep::selectEntryWord:
-      needs_.window.selectEntryWord();
-      break;
-    case StartUpStep::rescaleForScreen:
-      return rescaleForScreen();
-    case StartUpStep::readSettings:
-      readSettings();
-      break;
-    case StartUpStep::checkFirstStart:
-      checkFirstStart();
-      break;
-    case StartUpStep::conjugateGivenVerb:
-      needs_.conjugateGivenVerb();
-      break;
-    case StartUpStep::showTipOfTheDay:
-      needs_.tips.showAtStart();
-      break;
-    case StartUpStep::countRun:
-      needs_.settings.countRun();
-      break;
-    case StartUpStep::showPointer:
-      needs_.pointer.showDefault();
-      break;
-  }
-  return true;
+bool StartUp::goesOn() const { return !parts_.closing.hasEnded(); }
+
+// It is seen with the caption and the pronouns that it keeps, in the size that it is designed for.
+void StartUp::showWindow() {
+  parts_.setHelpFile();
+  parts_.pointer.setDefault(arrowCursor());
+  showHandOverTopics(parts_.window.controls());
+  parts_.window.showEmptyTable();
+  offerCharacterMap(menuItem(*parts_.window.menuBar(), "mnuEdycjaTablica"));
+  showVersionInCaption();
+  parts_.window.show();
+  parts_.window.selectEntryWord();
 }
 
 void StartUp::showVersionInCaption() {
   const auto version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
-  needs_.window.setWindowTitle(fromUtf8(captionWithVersion(
+  parts_.window.setWindowTitle(fromUtf8(captionWithVersion(
       {version.majorVersion(), version.minorVersion(), version.microVersion()})));
 }
 
 bool StartUp::rescaleForScreen() {
-  return !isRescaledAtStart(needs_.layout.screenTwips()) || needs_.layout.rescale();
+  return !isRescaledAtStart(parts_.layout.screenTwips()) || parts_.layout.rescale();
 }
 
 // The count in the settings tells whether verbs are missing. Where the user's store cannot be read,
 // what follows goes by its defaults.
 void StartUp::readSettings() {
-  needs_.settings.ReadSettings();
-  if (!needs_.isUserStoreUsable())
-    needs_.messages.show(dictionary::MessageId::settingsNotRead);  // the user's own
-  needs_.userVerbs.recoverAfterCrash();
+  parts_.settings.ReadSettings();
+  if (!parts_.isUserStoreUsable())
+    parts_.messages.show(dictionary::MessageId::settingsNotRead);  // the user's own
+  parts_.userVerbs.recoverAfterCrash();
 }
 
 void StartUp::checkFirstStart() {
-  if (!dictionary::existingFile(needs_.prefix, kFirstStartMarker)) return;
-  needs_.messages.show(dictionary::MessageId::restartSystemFirst);
-  needs_.closing.closeWithoutQuestion();
+  if (!dictionary::existingFile(parts_.prefix, kFirstStartMarker)) return;
+  parts_.messages.show(dictionary::MessageId::restartSystemFirst);
+  parts_.closing.closeWithoutQuestion();
 }
 
 }  // namespace odmiennik::app

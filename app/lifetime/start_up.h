@@ -26,7 +26,7 @@ struct LayoutPort {
 
 class StartUp {
  public:
-  struct Needs {
+  struct Parts {
     std::string prefix;  // of the program's files
     MainWindow& window;
     WindowPointer& pointer;
@@ -40,20 +40,21 @@ class StartUp {
     std::function<void()> setHelpFile = [] {};         // tells the help where its file is
     std::function<void()> conjugateGivenVerb = [] {};  // the command line's, if there is one
   };
-  explicit StartUp(Needs needs) : needs_(std::move(needs)) {}
+  explicit StartUp(Parts parts) : parts_(std::move(parts)) {}
 
   // Takes all steps in their order; stops at one that ends the program. To be called from the event
   // loop, which is what the program is ended through.
   void run();
 
  private:
-  [[nodiscard]] bool take(StartUpStep step);
+  [[nodiscard]] bool goesOn() const;
+  void showWindow();
   void showVersionInCaption();
   [[nodiscard]] bool rescaleForScreen();
   void readSettings();
   void checkFirstStart();
 
-  Needs needs_;
+  Parts parts_;
 };
 
 }  // namespace odmiennik::app

@@ -60,7 +60,7 @@ ListControls::ListControls(QDialog& dialog)
 }
 
 void ListControls::furnish() {
-  for (const std::string_view item : dictionary::kListChoices) cmbLista.addItem(fromUtf8(item));
+  for (const std::string_view item : kListChoices) cmbLista.addItem(fromUtf8(item));
   lstCzasowniki.setAccessibleName(QStringLiteral("Czasowniki"));
   lstCzasowniki.setMinimumHeight(kListHeight);
   lstCzasowniki.setUniformItemSizes(true);  // a long list is laid out at once
@@ -120,7 +120,7 @@ void ListControls::layOut() {
 }
 
 // The place is that of the button's row; the hidden ones give theirs up.
-void ListControls::present(const dictionary::ListAppearance& appearance) {
+void ListControls::present(const ListAppearance& appearance) {
   window.setWindowTitle(fromUtf8(appearance.caption));
   buttons_.removeWidget(&cmdUsuń);
   buttons_.insertWidget(appearance.isDeleteMoved ? 0 : kPlaceOfUsuń, &cmdUsuń);
@@ -133,7 +133,7 @@ void ListControls::present(const dictionary::ListAppearance& appearance) {
   }
 }
 
-void ListControls::enable(const dictionary::ListEnabling& enabled) {
+void ListControls::enable(const ListEnabling& enabled) {
   lstCzasowniki.setEnabled(enabled.lstCzasowniki);
   cmdOdmień.setEnabled(enabled.cmdOdmień);
   cmdEdytuj.setEnabled(enabled.cmdEdytuj);
@@ -153,8 +153,7 @@ void ListControls::showHint(const QString& text) {
 
 void ListControls::growBar(int filled, int number) {
   const QRect room = shpStatusBar.contentsRect();
-  const QRect bar(room.topLeft(),
-                  QSize(dictionary::barWidth(filled, number, room.width()), room.height()));
+  const QRect bar(room.topLeft(), QSize(barWidth(filled, number, room.width()), room.height()));
   if (bar == shpNiebieska.geometry()) return;
   shpNiebieska.setGeometry(bar);
   shpNiebieska.repaint();

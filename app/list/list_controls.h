@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "app/list/verb_list_box.h"
-#include "dictionary/verb_list.h"
-#include "dictionary/verb_list_commands.h"
+#include "app/logic/verb_list.h"
+#include "app/logic/verb_list_commands.h"
 
 class QStackedLayout;
 
@@ -22,9 +22,9 @@ class ListControls {
   explicit ListControls(QDialog& window);
 
   // Caption, hidden buttons and the place of cmdUsuń.
-  void present(const dictionary::ListAppearance& appearance);
+  void present(const ListAppearance& appearance);
 
-  void enable(const dictionary::ListEnabling& enabled);
+  void enable(const ListEnabling& enabled);
 
   // Puts the label and the empty bar in the place of the list, and back.
   void showFilling(bool isFilling);

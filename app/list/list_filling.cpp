@@ -9,15 +9,14 @@
 
 namespace odmiennik::app {
 
-dictionary::UserVerbsFound findUserVerbs(const std::string& prefix,
-                                         dictionary::UserVerbsFile& userVerbs) {
+UserVerbsFound findUserVerbs(const std::string& prefix, dictionary::UserVerbsFile& userVerbs) {
   // A file that cannot be looked for is read all the same: the reader says what is wrong.
   const bool isPresent =
       dictionary::findFile(prefix, "Czasowniki.dat").presence != dictionary::Presence::notThere;
   return {isPresent, userVerbs.infinitives(), userVerbs.count()};
 }
 
-void fillLetter(char letter, dictionary::VerbList& list, ListControls& controls) {
+void fillLetter(char letter, VerbList& list, ListControls& controls) {
   controls.lstCzasowniki.clear();
   list.beginLetter();
   controls.enable(list.enabled());

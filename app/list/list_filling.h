@@ -4,17 +4,17 @@
 #include <string>
 
 #include "app/list/list_controls.h"
+#include "app/logic/verb_list.h"
 #include "dictionary/user_verbs.h"
-#include "dictionary/verb_list.h"
 
 namespace odmiennik::app {
 
 // The user's own verbs as they stand in the program's folder at this moment.
-[[nodiscard]] dictionary::UserVerbsFound findUserVerbs(const std::string& prefix,
-                                                       dictionary::UserVerbsFile& userVerbs);
+[[nodiscard]] UserVerbsFound findUserVerbs(const std::string& prefix,
+                                           dictionary::UserVerbsFile& userVerbs);
 
 // Fills the list with the verbs of a letter while the bar grows. The window is painted meanwhile;
 // what the user does waits until the list is there: fillLetter('a', list, controls).
-void fillLetter(char letter, dictionary::VerbList& list, ListControls& controls);
+void fillLetter(char letter, VerbList& list, ListControls& controls);
 
 }  // namespace odmiennik::app

@@ -9,9 +9,8 @@
 namespace odmiennik::app {
 
 ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
-                   dictionary::UserVerbsFile& userVerbs, dictionary::MainCommands& commands)
+                   dictionary::UserVerbsFile& userVerbs, MainCommands& commands)
     : main_(main), prefix_(prefix), userVerbs_(userVerbs), commands_(commands) {
-  using dictionary::ListPurpose;
   const auto opens = [this](MenuItemName item, ListPurpose purpose) {
     QObject::connect(
         &menuItem(*main_.menuBar(), item), &QAction::triggered, &main_,
@@ -24,7 +23,7 @@ ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
   });
 }
 
-void ListMenu::open(dictionary::ListPurpose purpose) {
+void ListMenu::open(ListPurpose purpose) {
   if (window_ == nullptr) {
     window_ = new ListWindow(prefix_, userVerbs_, commands_, &main_);
     window_->setAttribute(Qt::WA_DeleteOnClose);

@@ -14,15 +14,15 @@ namespace odmiennik::app {
 class ListMenu {
  public:
   ListMenu(QMainWindow& main, const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
-           dictionary::MainCommands& commands);
+           MainCommands& commands);
 
  private:
-  void open(dictionary::ListPurpose purpose);
+  void open(ListPurpose purpose);
 
   QMainWindow& main_;
   std::string prefix_;
   dictionary::UserVerbsFile& userVerbs_;
-  dictionary::MainCommands& commands_;
+  MainCommands& commands_;
   QPointer<ListWindow> window_;
 };
 

@@ -12,8 +12,6 @@
 
 namespace odmiennik::app {
 
-using dictionary::ListButton;
-
 namespace {
 
 // A pause after which the next key begins another verb; learners do not type fast.
@@ -22,7 +20,7 @@ constexpr qint64 kPauseMilliseconds = 1000;
 }  // namespace
 
 ListWindow::ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
-                       dictionary::MainCommands& main, QWidget* mainWindow)
+                       MainCommands& main, QWidget* mainWindow)
     : SteadyWindow(mainWindow),
       prefix_(prefix),
       userVerbs_(userVerbs),
@@ -56,9 +54,9 @@ void ListWindow::connectControls() {
   connect(&controls_.cmbLista, &QComboBox::activated, this, &ListWindow::chooseAgain);
 }
 
-void ListWindow::showFor(dictionary::ListPurpose purpose) {
+void ListWindow::showFor(ListPurpose purpose) {
   purpose_ = purpose;
-  controls_.present(dictionary::appearanceOf(purpose));
+  controls_.present(appearanceOf(purpose));
   if (!isVisible()) {
     const QSignalBlocker silent(controls_.cmbLista);
     controls_.cmbLista.setCurrentIndex(choice_ = 0);
@@ -91,7 +89,7 @@ void ListWindow::choose(int choice) {
   isChosenAnew_ = true;
   const QSignalBlocker silent(controls_.lstCzasowniki);
   if (choice > 0) {
-    fillLetter(dictionary::letterOfChoice(choice), list_, controls_);
+    fillLetter(letterOfChoice(choice), list_, controls_);
     showState();
   } else {
     list_.chooseUserVerbs(findUserVerbs(prefix_, userVerbs_));
@@ -112,7 +110,7 @@ void ListWindow::showState() {
   controls_.lstCzasowniki.setCurrentRow(selected ? static_cast<int>(*selected) : -1);
   controls_.lblIlośćCzasowników.setText(fromUtf8(list_.countLabel()));
   const bool isEmpty = list_.entries().empty();
-  controls_.showHint(isEmpty ? fromUtf8(dictionary::emptyListHint(purpose_, choice_)) : QString());
+  controls_.showHint(isEmpty ? fromUtf8(emptyListHint(purpose_, choice_)) : QString());
 }
 
 // The scroll bar keeps the place; the selected verb is chosen by the list.
@@ -136,7 +134,7 @@ void ListWindow::search(const QString& key) {
 void ListWindow::run(ListButton button) {
   if (list_.isFilling()) return;
   const std::string selected(list_.selectedVerb());
-  if (!dictionary::runListButton(button, selected, main_)) return;
+  if (!runListButton(button, selected, main_)) return;
   if (button == ListButton::cmdEdytuj || button == ListButton::cmdNowy)
     parentWidget()->activateWindow();
 }

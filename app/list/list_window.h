@@ -6,10 +6,10 @@
 
 #include "app/common/steady_window.h"
 #include "app/list/list_controls.h"
+#include "app/logic/verb_list.h"
+#include "app/logic/verb_list_commands.h"
+#include "app/logic/verb_search.h"
 #include "dictionary/user_verbs.h"
-#include "dictionary/verb_list.h"
-#include "dictionary/verb_list_commands.h"
-#include "dictionary/verb_search.h"
 
 namespace odmiennik::app {
 
@@ -20,12 +20,12 @@ class ListWindow final : public SteadyWindow<> {
 
  public:
   // `prefix` names the program's folder; `mainWindow` is the parent and stays usable.
-  ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
-             dictionary::MainCommands& main, QWidget* mainWindow);
+  ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs, MainCommands& main,
+             QWidget* mainWindow);
 
   // Shows the window, not modal, as the list or for deleting. One that was closed begins again with
   // the user's own verbs; where they are listed they are read anew.
-  void showFor(dictionary::ListPurpose purpose);
+  void showFor(ListPurpose purpose);
 
   // The user's verbs have been saved or deleted elsewhere: where they are listed, they are listed
   // anew, with choice and place as they were.
@@ -39,17 +39,17 @@ class ListWindow final : public SteadyWindow<> {
   void showEntries();
   void showState();
   void search(const QString& key);
-  void run(dictionary::ListButton button);
+  void run(ListButton button);
   void deleteSelected();
 
   std::string prefix_;
   dictionary::UserVerbsFile& userVerbs_;
-  dictionary::MainCommands& main_;
-  dictionary::VerbList list_;
+  MainCommands& main_;
+  VerbList list_;
   ListControls controls_;
-  dictionary::VerbSearch search_;
+  VerbSearch search_;
   QElapsedTimer sinceKey_;  // not yet valid before the first key
-  dictionary::ListPurpose purpose_ = dictionary::ListPurpose::list;
+  ListPurpose purpose_ = ListPurpose::list;
   int choice_ = 0;
   bool isChosenAnew_ = false;  // the choice has just become another one
   bool isDeleting_ = false;

@@ -3,8 +3,8 @@
 
 #include <limits>
 
-#include "dictionary/app_folder.h"
 #include "dictionary/messages.h"
+#include "dictionary/program_folder.h"
 
 namespace odmiennik::app {
 

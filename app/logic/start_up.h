@@ -1,48 +1,11 @@
-// The start of the program: its steps in order, and what they decide.
+// What the start of the program decides, and the names that it knows.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace odmiennik::app {
-
-enum class StartUpStep : std::uint8_t {
-  showHourglass,
-  setHelpFile,
-  loadCursors,  // the screen's, and the hand of the headings that open a help page
-  takeDesignSize,
-  showEmptyPronouns,
-  findCharacterMap,
-  showVersionInCaption,
-  showWindow,
-  selectEntryWord,
-  rescaleForScreen,
-  readSettings,
-  checkFirstStart,
-  conjugateGivenVerb,  // before the tip, which waits to be closed
-  showTipOfTheDay,
-  countRun,
-  showPointer,
-};
-
-inline constexpr std::array kStartUpSteps{StartUpStep::showHourglass,
-                                          StartUpStep::setHelpFile,
-                                          StartUpStep::loadCursors,
-                                          StartUpStep::takeDesignSize,
-                                          StartUpStep::showEmptyPronouns,
-                                          StartUpStep::findCharacterMap,
-                                          StartUpStep::showVersionInCaption,
-                                          StartUpStep::showWindow,
-                                          StartUpStep::selectEntryWord,
-                                          StartUpStep::rescaleForScreen,
-                                          StartUpStep::readSettings,
-                                          StartUpStep::checkFirstStart,
-                                          StartUpStep::conjugateGivenVerb,
-                                          StartUpStep::showTipOfTheDay,
-                                          StartUpStep::countRun,
-                                          StartUpStep::showPointer};
 
 // The word that the entry box starts with, selected.
 inline constexpr std::string_view kEntryWord = "infinitif";

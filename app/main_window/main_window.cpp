@@ -16,10 +16,10 @@
 namespace odmiennik::app {
 namespace {
 
-// What a conjugation changes before it is known what was typed: put back unless it is kept.
-class Restored {
+// What a conjugation changes before it is known what was typed: put back unless it is discarded.
+class ConjugationBackup {
  public:
-  explicit Restored(engine::Conjugation& conjugation)
+  explicit ConjugationBackup(engine::Conjugation& conjugation)
       : conjugation_(conjugation),
         flags_(conjugation.flags),
         information_(conjugation.information),
@@ -27,10 +27,10 @@ class Restored {
         storedInfinitive_(conjugation.storedInfinitive),
         source_(conjugation.source),
         model_(conjugation.model) {}
-  Restored(const Restored&) = delete;
-  Restored& operator=(const Restored&) = delete;
-  ~Restored() {
-    if (isKept_) return;
+  ConjugationBackup(const ConjugationBackup&) = delete;
+  ConjugationBackup& operator=(const ConjugationBackup&) = delete;
+  ~ConjugationBackup() {
+    if (isDiscarded_) return;
     conjugation_.flags = flags_;
     conjugation_.information = information_;
     conjugation_.forms[engine::slot::kInfinitive] = infinitive_;
@@ -39,7 +39,7 @@ class Restored {
     conjugation_.model = model_;
   }
 
-  void keep() { isKept_ = true; }
+  void discard() { isDiscarded_ = true; }
 
  private:
   engine::Conjugation& conjugation_;
@@ -49,7 +49,7 @@ class Restored {
   std::string storedInfinitive_;
   engine::Source source_;
   std::string_view model_;
-  bool isKept_ = false;
+  bool isDiscarded_ = false;
 };
 
 }  // namespace
@@ -113,10 +113,10 @@ void MainWindow::conjugate() {
   if (isConjugating_) return;
   const QScopedValueRollback<bool> conjugating(isConjugating_, true);
   const std::string typed = toFrench(boxes_.entry().text());
-  Restored restored(conjugation_);
+  ConjugationBackup backup(conjugation_);
   const engine::Outcome outcome = driver_.conjugate(conjugation_, typed);
   if (outcome == engine::Outcome::reset) return;
-  restored.keep();
+  backup.discard();
   emit conjugated();
   showConjugation();
   if (outcome == engine::Outcome::conjugated) announce(spokenInformation());
@@ -125,9 +125,9 @@ void MainWindow::conjugate() {
 
 void MainWindow::conjugateForEditing() {
   const std::string typed = toFrench(boxes_.entry().text());
-  Restored restored(conjugation_);
+  ConjugationBackup backup(conjugation_);
   if (driver_.conjugateForEditing(conjugation_, typed) == engine::Outcome::reset) return;
-  restored.keep();
+  backup.discard();
   showConjugation();
 }
 

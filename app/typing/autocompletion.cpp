@@ -20,12 +20,11 @@ void Autocompletion::invert() {
 
 void Autocompletion::complete() {
   const std::string typed = toFrench(entry_.text());
-  const dictionary::EntryBox box{
-      .text = typed,
-      .caret = static_cast<std::size_t>(entry_.cursorPosition()),
-      .selectionLength = static_cast<std::size_t>(entry_.selectedText().size()),
-      .isReadOnly = entry_.isReadOnly()};
-  const auto completed = dictionary::completedEntry(box, dictionary::completion);
+  const EntryBox box{.text = typed,
+                     .caret = static_cast<std::size_t>(entry_.cursorPosition()),
+                     .selectionLength = static_cast<std::size_t>(entry_.selectedText().size()),
+                     .isReadOnly = entry_.isReadOnly()};
+  const auto completed = completedEntry(box, dictionary::completion);
   if (!completed) return;
   entry_.setReadOnly(true);  // no key lands in the half-updated text
   entry_.showForm(fromFrench(completed->text));

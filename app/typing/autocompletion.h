@@ -5,7 +5,7 @@
 #include <QObject>
 
 #include "app/controls/form_box.h"
-#include "dictionary/entry_box.h"
+#include "app/logic/entry_box.h"
 
 namespace odmiennik::app {
 
@@ -32,7 +32,7 @@ class Autocompletion final : public QObject {
 
   FormBox& entry_;
   UserStore& store_;
-  dictionary::CompletionSwitch switch_;
+  CompletionSwitch switch_;
   bool isSuspended_ = false;
 };
 

@@ -11,9 +11,6 @@
 namespace odmiennik::app {
 namespace {
 
-using dictionary::KeyReaction;
-using dictionary::ReleasedKey;
-
 constexpr QKeySequence::StandardKey kKeysOfEveryBox[] = {
     QKeySequence::Copy,      QKeySequence::Cut,  QKeySequence::Paste,
     QKeySequence::SelectAll, QKeySequence::Undo, QKeySequence::Redo};
@@ -38,26 +35,26 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusOut) hint_.focusLeft();
   if (event->type() == QEvent::KeyPress) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    dictionary::KeyStroke stroke = strokeOf(key);
+    KeyStroke stroke = strokeOf(key);
     stroke.isShortcut = isShortcut(key);
     hint_.pressed(boxes_.slotOf(*watched), stroke);
     refused_.pressed(stroke.physicalKey);
   }
-  if (event->type() == QEvent::InputMethod) refused_.pressed(dictionary::kNoPhysicalKey);
+  if (event->type() == QEvent::InputMethod) refused_.pressed(kNoPhysicalKey);
   if (event->type() == QEvent::KeyRelease)
     released(boxes_.slotOf(*watched), static_cast<const QKeyEvent&>(*event));
   return false;
 }
 
 void BoxKeys::released(int slot, const QKeyEvent& event) {
-  const dictionary::KeyStroke stroke = strokeOf(event);
+  const KeyStroke stroke = strokeOf(event);
   const bool isHintKey = hint_.released(slot, stroke);
   if (event.isAutoRepeat()) return;
   const ReleasedKey key{.virtualKey = stroke.virtualKey,
                         .isLetterTyped = endsWithLetter(event.text()),
                         .isRefused = refused_.isRefused(stroke.physicalKey)};
-  switch (dictionary::reactionToKey(slot == engine::slot::kInfinitive, boxes_[slot].isReadOnly(),
-                                    completion_.isOn(), key, isHintKey)) {
+  switch (reactionToKey(slot == engine::slot::kInfinitive, boxes_[slot].isReadOnly(),
+                        completion_.isOn(), key, isHintKey)) {
     case KeyReaction::complete:
       return completion_.complete();
     case KeyReaction::hint:
@@ -70,8 +67,8 @@ void BoxKeys::released(int slot, const QKeyEvent& event) {
 // What a dead key or an input method has put into the entry box, which may have come without a key.
 void BoxKeys::committed(const QString& text) {
   const ReleasedKey key{.isLetterTyped = endsWithLetter(text),
-                        .isRefused = refused_.isRefused(dictionary::kNoPhysicalKey)};
-  if (completion_.isOn() && dictionary::completes(key)) completion_.complete();
+                        .isRefused = refused_.isRefused(kNoPhysicalKey)};
+  if (completion_.isOn() && completes(key)) completion_.complete();
 }
 
 // Queued: the key's event is over before the box waits for its answer.

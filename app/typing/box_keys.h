@@ -5,11 +5,11 @@
 #include <QObject>
 
 #include "app/help/help_opener.h"
+#include "app/logic/entry_box_hint.h"
+#include "app/logic/refused_keys.h"
 #include "app/main_window/form_boxes.h"
 #include "app/typing/autocompletion.h"
-#include "dictionary/entry_box_hint.h"
 #include "dictionary/messages.h"
-#include "dictionary/refused_keys.h"
 
 namespace odmiennik::app {
 
@@ -38,8 +38,8 @@ class BoxKeys final : public QObject {
   Autocompletion& completion_;
   dictionary::MessageBoxes& messages_;
   HelpOpener* help_ = nullptr;
-  dictionary::ReadOnlyBoxHint hint_;
-  dictionary::RefusedKeys refused_;
+  ReadOnlyBoxHint hint_;
+  RefusedKeys refused_;
   bool isHintOpen_ = false;
 };
 

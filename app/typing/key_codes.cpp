@@ -8,7 +8,7 @@
 namespace odmiennik::app {
 namespace {
 
-namespace vk = dictionary::virtual_key;
+namespace vk = virtual_key;
 
 constexpr int kFirstDigit = 48;
 constexpr int kLastDigit = 57;
@@ -128,8 +128,8 @@ int virtualKeyOf(const QKeyEvent& event) {
   return isPlaceKnown && isOfDigitRow(named) ? kOtherPunctuation : named;
 }
 
-dictionary::KeyStroke strokeOf(const QKeyEvent& event) {
-  dictionary::KeyStroke key;
+KeyStroke strokeOf(const QKeyEvent& event) {
+  KeyStroke key;
   key.physicalKey = event.nativeScanCode() != 0 ? event.nativeScanCode()
                                                 : static_cast<std::uint32_t>(event.key());
   key.virtualKey = virtualKeyOf(event);

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "dictionary/entry_box_hint.h"
+#include "app/logic/entry_box_hint.h"
 
 class QKeyEvent;
 
@@ -18,6 +18,6 @@ namespace odmiennik::app {
 [[nodiscard]] int virtualKeyOf(const QKeyEvent& event);
 
 // The event as the hint of the read-only boxes takes it; whether it is a shortcut is left open.
-[[nodiscard]] dictionary::KeyStroke strokeOf(const QKeyEvent& event);
+[[nodiscard]] KeyStroke strokeOf(const QKeyEvent& event);
 
 }  // namespace odmiennik::app

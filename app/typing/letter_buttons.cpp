@@ -3,8 +3,6 @@
 
 #include <QShortcut>
 
-#include "app/logic/letters.h"
-
 namespace odmiennik::app {
 
 LetterButtons::LetterButtons(const Controls& controls, CurrentBox& current) : current_(current) {
@@ -38,9 +36,10 @@ void LetterButtons::connectCheckBox(QCheckBox& box) {
 
 // deliberate: unticking the box raises the click once more, and it is that one which types.
 void LetterButtons::checkBoxClicked(QCheckBox& box, bool isTicked) {
-  const LetterClick click = letterBoxClicked(isTicked, current_.isReadOnly());
-  if (click.insertsLetter) current_.insert(box.text());
-  if (click.unticks) box.setChecked(false);
+  if (isTicked)
+    box.setChecked(false);
+  else if (!current_.isReadOnly())
+    current_.insert(box.text());
   current_.focus();
 }
 

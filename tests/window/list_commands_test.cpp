@@ -5,11 +5,7 @@
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
-namespace {
-
-using dictionary::ListPurpose;
-
-}  // namespace
+namespace {}  // namespace
 
 class ListCommandsSuite : public QObject {
   Q_OBJECT

@@ -198,11 +198,11 @@ void ListSuite::aLetterWithoutVerbsSaysSo() {
 
 void ListSuite::anEmptyListForDeletingSaysSo() {
   const ListUnderTest program({}, 0);
-  program.window.showFor(dictionary::ListPurpose::deletion);
+  program.window.showFor(ListPurpose::deletion);
   QVERIFY(program.hint().isVisible());
   QCOMPARE(program.hint().text(),
            "Nie masz jeszcze własnych czasowników, więc nie ma czego usuwać.");
-  program.window.showFor(dictionary::ListPurpose::list);
+  program.window.showFor(ListPurpose::list);
   QVERIFY(program.hint().text().contains("„Nowy”"));
 }
 

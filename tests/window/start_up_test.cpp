@@ -16,6 +16,7 @@ using Messages = std::vector<MessageId>;
 struct Layout {
   bool mayGoOn = true;
   QString steps;
+  std::function<void(ProgramRun&)> onVerb = [](ProgramRun&) {};
 };
 
 }  // namespace
@@ -39,6 +40,7 @@ class StartUpSuite : public QObject {
   void theTipIsNotShownWhenItIsSwitchedOff();
   void theLayoutIsNotRescaledOnAScreenOf800Pixels();
   void anyOtherScreenIsRescaledFor();
+  void theStepsComeInTheirOrder();
   void aStartEndedByTheResolutionReadsNoSettings();
   void theVerbOfTheCommandLineIsConjugatedAtTheStart();
   void anUnknownVerbOfTheCommandLineHasItsMessage();
@@ -66,7 +68,8 @@ class StartUpSuite : public QObject {
                                          layout.steps += ", rescaled";
                                          return layout.mayGoOn;
                                        }},
-                        .setHelpFile = [&layout] { layout.steps += "help file"; }});
+                        .setHelpFile = [&layout] { layout.steps += "help file"; },
+                        .conjugateGivenVerb = [&] { layout.onVerb(run); }});
     start.run();
   }
 };
@@ -187,6 +190,21 @@ void StartUpSuite::anyOtherScreenIsRescaledFor() {
   run(layout, 15360);
   QCOMPARE(layout.steps, "help file, rescaled");
   QVERIFY(home_->has("Werbolin.cfg"));
+}
+
+// The verb of the command line meets a window in its size, with the settings read, and no tip yet.
+void StartUpSuite::theStepsComeInTheirOrder() {
+  home_->write("Werbolin.cfg", "0\r\n1\r\n2\r\n7\r\n1112\r\n");
+  home_->store.setTipShownAtStart(true);
+  Layout layout;
+  ModalVisitor visitor([&](QDialog&) { layout.steps += ", tip"; });
+  layout.onVerb = [&](ProgramRun& run) {
+    QVERIFY(run.program.window().isVisible());
+    QVERIFY(run.program.window().windowTitle().startsWith("Odmiennik v."));
+    layout.steps += QStringLiteral(", verb, runs %1").arg(run.program.settings().runCount());
+  };
+  run(layout, 15360);
+  QCOMPARE(layout.steps, "help file, rescaled, verb, runs 1112, tip");
 }
 
 void StartUpSuite::aStartEndedByTheResolutionReadsNoSettings() {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "app/lifetime/settings_keeper.h"
-#include "dictionary/app_folder.h"
+#include "dictionary/program_folder.h"
 #include "dictionary/user_verbs.h"
 
 namespace odmiennik::attacks {

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "dictionary/app_folder.h"
 #include "dictionary/file_names.h"
+#include "dictionary/program_folder.h"
 #include "tests/support/test_program.h"
 
 namespace odmiennik::testing {

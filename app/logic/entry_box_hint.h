@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "dictionary/entry_box.h"
+#include "app/logic/entry_box.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // A key as it goes down or up in a box.
 struct KeyStroke {
@@ -49,4 +49,4 @@ enum class KeyReaction : std::uint8_t { none, complete, hint };
   return isReadOnly && isHintKey ? KeyReaction::hint : KeyReaction::none;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

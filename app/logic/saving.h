@@ -10,7 +10,7 @@
 #include "dictionary/user_record.h"
 #include "engine/slots.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // Whether the text of the infinitive's box (Windows-1252, as typed) may be saved: "aimer", " faire
 // ". deliberate: nothing is looked at but the last letter (r or e) behind which only blanks stand,
@@ -20,12 +20,12 @@ namespace odmiennik::dictionary {
 
 // The record of the 101 boxes' texts. A form that does not exist (" -- ") is saved as an empty one;
 // the boxes themselves are left alone, so that a write that fails has changed nothing.
-[[nodiscard]] UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
-                                           std::uint8_t auxiliary);
+[[nodiscard]] dictionary::UserVerbRecord recordOfBoxes(
+    std::span<const std::string, engine::kSlotCount> texts, std::uint8_t auxiliary);
 
 // The slot of the first form that holds a comma, with which the form would come back split and
 // those behind it one slot further. deliberate: not asked of slots 99 and 100, where the program
 // itself shows "dû, due".
-[[nodiscard]] std::optional<int> formWithComma(const UserVerbRecord& record);
+[[nodiscard]] std::optional<int> formWithComma(const dictionary::UserVerbRecord& record);
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

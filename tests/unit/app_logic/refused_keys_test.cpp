@@ -1,9 +1,9 @@
 // Keys whose letters a box has not taken.
-#include "dictionary/refused_keys.h"
+#include "app/logic/refused_keys.h"
 
 #include <gtest/gtest.h>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 TEST(refused_keys, a_refused_letter_marks_the_key_that_went_down_last) {
@@ -41,4 +41,4 @@ TEST(refused_keys, a_text_without_a_key_is_a_key_of_its_own) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

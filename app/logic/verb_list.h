@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // deliberate: a fixed number, the size of the general verb index, also behind the user's own verbs.
 inline constexpr int kListedVerbs = 7342;
@@ -114,4 +114,4 @@ class VerbList {
   return static_cast<int>(std::int64_t{fullWidth} * filled / number);
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

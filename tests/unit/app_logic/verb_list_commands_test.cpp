@@ -1,12 +1,12 @@
 // What the list's buttons ask of the main window.
-#include "dictionary/verb_list_commands.h"
+#include "app/logic/verb_list_commands.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using Diary = std::vector<std::string>;
@@ -82,4 +82,4 @@ TEST(list_window, opened_as_the_list_stands_as_designed) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

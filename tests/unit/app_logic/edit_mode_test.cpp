@@ -1,12 +1,12 @@
 // Entering and leaving edit mode, its captions and its saved flag.
 #include <gtest/gtest.h>
 
-#include "tests/unit/dictionary_logic/edit_window_fake.h"
+#include "tests/unit/app_logic/edit_window_fake.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
-using enum EditCommand;
+using dictionary::Button;
 using odmiennik::testing::EditWindowFake;
 using odmiennik::testing::french;
 using Diary = std::vector<std::string>;
@@ -17,39 +17,32 @@ TEST(edit_mode, a_window_just_opened_shows_its_version_and_the_first_caption) {
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik v.1.0.12");
   EXPECT_EQ(window.seen.menuCaption, "E&dytuj");
   EXPECT_FALSE(window.seen.isEditing);
-  EXPECT_EQ(window.mode.marker(), "");
+  EXPECT_FALSE(window.mode.isEditing());
 }
 
 TEST(edit_mode, edit_marks_it_and_unlocks_the_boxes) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  EXPECT_EQ(window.mode.marker(), "edit");
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  EXPECT_TRUE(window.mode.isEditing());
   EXPECT_TRUE(window.seen.isEditing);
   EXPECT_EQ(window.seen.menuCaption, "&Koniec edycji");
 }
 
 TEST(edit_mode, entering_conjugates_for_editing_under_the_hourglass) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   EXPECT_EQ(window.diary, (Diary{"hourglass", "edit aller", "pointer"}));
 }
 
 TEST(edit_mode, the_caption_quotes_the_infinitive_in_polish_encoding) {
   EditWindowFake window(french("être"));
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik - edycja \"être\"");
-}
-
-TEST(edit_mode, the_caption_takes_the_infinitive_of_slot_96_on_entering) {
-  EditMode mode("Odmiennik v.1.0.12");
-  (void)mode.begin(edit, "  Aller ");
-  mode.filled("aller");
-  EXPECT_EQ(mode.presentation().windowCaption, "Odmiennik - edycja \"aller\"");
 }
 
 TEST(edit_mode, the_caption_follows_the_infinitive_as_it_is_typed) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.type(96, "allers");
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik - edycja \"allers\"");
 }
@@ -62,63 +55,50 @@ TEST(edit_mode, typing_outside_edit_mode_leaves_the_caption) {
 
 TEST(edit_mode, edit_while_editing_leaves_and_conjugates) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.diary.clear();
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   EXPECT_EQ(window.diary, Diary{"conjugate aller"});
   EXPECT_FALSE(window.seen.isEditing);
 }
 
 TEST(edit_mode, once_left_the_caption_has_no_version_and_the_menu_its_other_caption) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  EXPECT_TRUE(window.give(conjugate));
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik");
   EXPECT_EQ(window.seen.menuCaption, "&Edytuj czasownik");
-  EXPECT_EQ(window.mode.marker(), "");
+  EXPECT_FALSE(window.mode.isEditing());
 }
 
 TEST(edit_mode, conjugate_outside_edit_mode_only_conjugates) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(conjugate));
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
   EXPECT_EQ(window.diary, Diary{"conjugate aller"});
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik v.1.0.12");
 }
 
-TEST(edit_mode, filling_the_boxes_counts_as_saved) {
-  EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  EXPECT_TRUE(window.mode.isSaved());
-}
-
-TEST(edit_mode, every_change_of_a_box_clears_the_saved_flag) {
-  EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  window.type(12, "allai");
-  EXPECT_FALSE(window.mode.isSaved());
-}
-
 TEST(edit_mode, leaving_without_a_change_asks_nothing) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  EXPECT_TRUE(window.give(conjugate));
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
   EXPECT_EQ(window.messages.shown, Texts{});
 }
 
 TEST(edit_mode, leaving_after_a_change_asks_once_and_names_the_verb) {
   EditWindowFake window(french("être"));
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.type(0, "sois");
-  EXPECT_TRUE(window.give(conjugate));
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
   EXPECT_EQ(window.messages.shown, Texts{"Zapisać edytowany czasownik - 'être'?"});
 }
 
 TEST(edit_mode, the_answer_no_gives_the_changes_up_and_conjugates) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.type(0, "alle");
   window.diary.clear();
-  EXPECT_TRUE(window.give(conjugate));
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
   EXPECT_EQ(window.diary, Diary{"conjugate aller"});
   EXPECT_FALSE(window.seen.isEditing);
 }
@@ -126,7 +106,7 @@ TEST(edit_mode, the_answer_no_gives_the_changes_up_and_conjugates) {
 TEST(edit_mode, new_verb_clears_the_boxes_and_keeps_the_infinitive_trimmed) {
   EditWindowFake window("  parler ");
   window.type(12, "parlai");
-  EXPECT_TRUE(window.give(newVerb));
+  EXPECT_TRUE(window.give(&EditMode::newVerb));
   EXPECT_EQ(window.texts[12], "");
   EXPECT_EQ(window.texts[96], "parler");
   EXPECT_TRUE(window.seen.isEditing);
@@ -134,16 +114,16 @@ TEST(edit_mode, new_verb_clears_the_boxes_and_keeps_the_infinitive_trimmed) {
 
 TEST(edit_mode, new_verb_enters_with_an_empty_infinitive) {
   EditWindowFake window("parler");
-  EXPECT_TRUE(window.give(newVerb));
+  EXPECT_TRUE(window.give(&EditMode::newVerb));
   EXPECT_EQ(window.diary, (Diary{"hourglass", "edit ", "pointer"}));
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik - edycja \"parler\"");
 }
 
 TEST(edit_mode, new_verb_while_editing_asks_about_unsaved_changes_first) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.type(96, "allier");
-  EXPECT_TRUE(window.give(newVerb));
+  EXPECT_TRUE(window.give(&EditMode::newVerb));
   EXPECT_EQ(window.messages.shown, Texts{"Zapisać edytowany czasownik - 'allier'?"});
   EXPECT_EQ(window.texts[96], "allier");
   EXPECT_TRUE(window.seen.isEditing);
@@ -151,20 +131,33 @@ TEST(edit_mode, new_verb_while_editing_asks_about_unsaved_changes_first) {
 
 TEST(edit_mode, new_verb_while_editing_without_changes_asks_nothing) {
   EditWindowFake window("aller");
-  EXPECT_TRUE(window.give(edit));
-  EXPECT_TRUE(window.give(newVerb));
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  EXPECT_TRUE(window.give(&EditMode::newVerb));
   EXPECT_EQ(window.messages.shown, Texts{});
-  EXPECT_EQ(window.mode.marker(), "edit");
+  EXPECT_TRUE(window.mode.isEditing());
 }
 
-TEST(edit_mode, no_command_starts_while_another_waits_for_its_answer) {
-  EditMode mode("Odmiennik");
-  (void)mode.begin(edit, "aller");
-  (void)mode.boxChanged("aller");
-  EXPECT_EQ(mode.begin(conjugate, "aller").progress, EditProgress::waiting);
-  const EditTurn second = mode.begin(newVerb, "aller");
-  EXPECT_EQ(second.progress, EditProgress::stopped);
-  EXPECT_TRUE(second.steps.empty());
+TEST(edit_mode, no_command_starts_while_another_asks) {
+  EditWindowFake window("aller");
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  window.type(0, "alle");
+  window.messages.whileShown = [&] {
+    EXPECT_TRUE(window.mode.isBusy());
+    for (const auto command : {&EditMode::edit, &EditMode::newVerb, &EditMode::conjugate,
+                               &EditMode::save, &EditMode::restore, &EditMode::leaveForClosing})
+      EXPECT_FALSE(window.give(command));
+  };
+  window.diary.clear();
+  EXPECT_TRUE(window.give(&EditMode::conjugate));
+  EXPECT_EQ(window.messages.shown.size(), 1U);
+  EXPECT_EQ(window.diary, Diary{"conjugate aller"});
+}
+
+TEST(edit_mode, the_caption_takes_the_infinitive_of_slot_96_on_entering) {
+  EditWindowFake window("  Aller ");
+  window.normalized = "aller";
+  EXPECT_TRUE(window.give(&EditMode::edit));
+  EXPECT_EQ(window.seen.windowCaption, "Odmiennik - edycja \"aller\"");
 }
 
 constexpr std::string_view kRestoreQuestion =
@@ -175,7 +168,7 @@ TEST(restoring, removes_the_record_and_conjugates_the_shown_verb_anew_on_yes) {
   window.shown = "se laver";
   window.stored = "laver";
   window.messages.answers = {Button::yes};
-  EXPECT_TRUE(window.give(restore));
+  EXPECT_TRUE(window.give(&EditMode::restore));
   EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
   EXPECT_EQ(window.diary, (Diary{"remove laver", "conjugate se laver"}));
 }
@@ -183,7 +176,7 @@ TEST(restoring, removes_the_record_and_conjugates_the_shown_verb_anew_on_yes) {
 TEST(restoring, does_nothing_on_no) {
   EditWindowFake window("laver");
   window.shown = window.stored = "laver";
-  EXPECT_FALSE(window.give(restore));
+  EXPECT_FALSE(window.give(&EditMode::restore));
   EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
   EXPECT_EQ(window.diary, Diary{});
 }
@@ -193,7 +186,7 @@ TEST(restoring, stops_where_the_record_cannot_be_removed) {
   window.shown = window.stored = "laver";
   window.canWrite = false;
   window.messages.answers = {Button::yes};
-  EXPECT_FALSE(window.give(restore));
+  EXPECT_FALSE(window.give(&EditMode::restore));
   EXPECT_EQ(window.diary, Diary{"remove laver"});
   EXPECT_EQ(window.entryText(), "fin");
 }
@@ -201,7 +194,7 @@ TEST(restoring, stops_where_the_record_cannot_be_removed) {
 TEST(restoring, asks_nothing_where_the_verb_is_not_the_users) {
   EditWindowFake window("laver");
   window.shown = "laver";
-  EXPECT_FALSE(window.give(restore));
+  EXPECT_FALSE(window.give(&EditMode::restore));
   EXPECT_EQ(window.messages.shown, Texts{});
   EXPECT_EQ(window.diary, Diary{});
 }
@@ -209,19 +202,13 @@ TEST(restoring, asks_nothing_where_the_verb_is_not_the_users) {
 TEST(restoring, does_nothing_while_a_verb_is_edited) {
   EditWindowFake window("laver");
   window.shown = window.stored = "laver";
-  EXPECT_TRUE(window.give(edit));
+  EXPECT_TRUE(window.give(&EditMode::edit));
   window.diary.clear();
-  EXPECT_FALSE(window.give(restore));
+  EXPECT_FALSE(window.give(&EditMode::restore));
   EXPECT_EQ(window.messages.shown, Texts{});
   EXPECT_EQ(window.diary, Diary{});
   EXPECT_TRUE(window.seen.isEditing);
 }
 
-TEST(edit_mode, an_answer_that_nobody_waits_for_changes_nothing) {
-  EditMode mode("Odmiennik");
-  EXPECT_EQ(mode.goOn(true, "aller").progress, EditProgress::stopped);
-  EXPECT_FALSE(mode.isEditing());
-}
-
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

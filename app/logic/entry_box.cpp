@@ -1,7 +1,7 @@
 // Completion of the infinitive.
-#include "dictionary/entry_box.h"
+#include "app/logic/entry_box.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 std::optional<CompletedEntry> completedEntry(const EntryBox& box, Completion completion) {
   const std::size_t typed = box.text.size();
@@ -12,4 +12,4 @@ std::optional<CompletedEntry> completedEntry(const EntryBox& box, Completion com
   return CompletedEntry{std::string(verb), typed, typed, verb.size() - typed};
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

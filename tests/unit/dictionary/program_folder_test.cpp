@@ -1,5 +1,5 @@
 // The prefix of file names.
-#include "dictionary/app_folder.h"
+#include "dictionary/program_folder.h"
 
 #include <gtest/gtest.h>
 

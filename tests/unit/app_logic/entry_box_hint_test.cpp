@@ -1,9 +1,9 @@
 // The hint that answers keys in read-only boxes.
-#include "dictionary/entry_box_hint.h"
+#include "app/logic/entry_box_hint.h"
 
 #include <gtest/gtest.h>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 constexpr KeyStroke kLetter{.physicalKey = 38, .virtualKey = 65};
@@ -128,4 +128,4 @@ TEST(reaction_to_a_key, is_nothing_in_an_editable_form_box) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -1,9 +1,9 @@
 // The buttons of the list window.
-#include "dictionary/verb_list_commands.h"
+#include "app/logic/verb_list_commands.h"
 
-#include "dictionary/verb_list.h"
+#include "app/logic/verb_list.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 bool conjugateSelected(std::string_view selected, MainCommands& main) {
@@ -32,4 +32,4 @@ std::string emptyListHint(ListPurpose purpose, int choice) {
          "przyciskiem „Nowy” i zapiszesz w głównym oknie klawiszami Ctrl+S.";
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

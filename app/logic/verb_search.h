@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // The letters of a French text without their accents, in lower case: "Éteindre" -> "eteindre",
 // "œuvrer" -> "oeuvrer".
@@ -27,4 +27,4 @@ class VerbSearch {
   std::string typed_;
 };
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -1,5 +1,5 @@
 // The coarse test of infinitives, and the record that is made of the boxes.
-#include "dictionary/saving.h"
+#include "app/logic/saving.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 #include "tests/support/test_program.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using odmiennik::testing::french;
@@ -47,7 +47,7 @@ TEST(infinitive_to_save, an_accented_letter_counts_once) {
 TEST(record_to_save, holds_every_box_and_the_auxiliary) {
   Boxes boxes;
   for (std::size_t slot = 0; slot < boxes.size(); ++slot) boxes[slot] = std::to_string(slot);
-  const UserVerbRecord record = recordOfBoxes(boxes, engine::kEtre);
+  const dictionary::UserVerbRecord record = recordOfBoxes(boxes, engine::kEtre);
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     EXPECT_EQ(record.forms[slot], std::to_string(slot));
   EXPECT_EQ(record.auxiliary, engine::kEtre);
@@ -64,13 +64,13 @@ TEST(record_to_save, only_the_exact_mark_stands_for_a_missing_form) {
   Boxes boxes;
   boxes[7] = "--";
   boxes[8] = " --";
-  const UserVerbRecord record = recordOfBoxes(boxes, engine::kAvoir);
+  const dictionary::UserVerbRecord record = recordOfBoxes(boxes, engine::kAvoir);
   EXPECT_EQ(record.forms[7], "--");
   EXPECT_EQ(record.forms[8], " --");
 }
 
 TEST(comma_in_a_form, is_found_in_the_first_form_that_has_one) {
-  UserVerbRecord record;
+  dictionary::UserVerbRecord record;
   EXPECT_EQ(formWithComma(record), std::nullopt);
   record.forms[98] = "payant,paiant";
   EXPECT_EQ(formWithComma(record), 98);
@@ -79,11 +79,11 @@ TEST(comma_in_a_form, is_found_in_the_first_form_that_has_one) {
 }
 
 TEST(comma_in_a_form, deliberate_is_not_looked_for_in_the_last_two) {
-  UserVerbRecord record;
+  dictionary::UserVerbRecord record;
   record.forms[99] = french("dû, due");
   record.forms[100] = french("ayant dû, due");
   EXPECT_EQ(formWithComma(record), std::nullopt);
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

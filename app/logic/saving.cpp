@@ -1,9 +1,9 @@
 // What is saved of an edited verb.
-#include "dictionary/saving.h"
+#include "app/logic/saving.h"
 
 #include "engine/normalization.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 constexpr std::size_t kShortestInfinitive = 3;
@@ -16,9 +16,9 @@ bool isInfinitive(std::string_view boxText) {
   return infinitive.back() == 'r' || infinitive.back() == 'e';
 }
 
-UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
-                             std::uint8_t auxiliary) {
-  UserVerbRecord record;
+dictionary::UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> texts,
+                                         std::uint8_t auxiliary) {
+  dictionary::UserVerbRecord record;
   record.auxiliary = auxiliary;
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
     const std::string& text = texts[static_cast<std::size_t>(slot)];
@@ -27,10 +27,10 @@ UserVerbRecord recordOfBoxes(std::span<const std::string, engine::kSlotCount> te
   return record;
 }
 
-std::optional<int> formWithComma(const UserVerbRecord& record) {
+std::optional<int> formWithComma(const dictionary::UserVerbRecord& record) {
   for (int slot = 0; slot < engine::slot::kPastParticiple; ++slot)
     if (record.forms[slot].find(',') != std::string::npos) return slot;
   return std::nullopt;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // A text that comes without a key, from an input method, counts as this one.
 inline constexpr std::uint32_t kNoPhysicalKey = 0;
@@ -32,4 +32,4 @@ class RefusedKeys {
   std::vector<std::uint32_t> refused_;
 };
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

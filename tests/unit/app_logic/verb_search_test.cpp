@@ -1,12 +1,12 @@
 // Typing into the list of verbs.
-#include "dictionary/verb_search.h"
+#include "app/logic/verb_search.h"
 
 #include <gtest/gtest.h>
 
 #include "dictionary/verb_index.h"
 #include "engine/french.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using namespace engine::literals;
@@ -28,7 +28,8 @@ std::optional<std::size_t> typed(std::string_view word, const Entries& entries,
 
 Entries verbsOf(char letter) {
   Entries verbs;
-  for (int k = 1; k <= verbCount(letter); ++k) verbs.emplace_back(verbOfLetter(letter, k));
+  for (int k = 1; k <= dictionary::verbCount(letter); ++k)
+    verbs.emplace_back(dictionary::verbOfLetter(letter, k));
   return verbs;
 }
 
@@ -81,4 +82,4 @@ TEST(verb_search, takes_a_key_without_a_french_letter_for_none) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

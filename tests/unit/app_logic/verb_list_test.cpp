@@ -1,11 +1,11 @@
 // What stands in the verb list and what is enabled.
-#include "dictionary/verb_list.h"
+#include "app/logic/verb_list.h"
 
 #include <gtest/gtest.h>
 
 #include "dictionary/verb_index.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using Entries = std::vector<std::string>;
@@ -171,7 +171,8 @@ TEST(list_choices, are_the_users_verbs_and_26_letters) {
 
 TEST(list_choices, all_letters_together_hold_the_number_behind_the_slash) {
   int verbs = 0;
-  for (int choice = 1; choice <= 26; ++choice) verbs += verbCount(letterOfChoice(choice));
+  for (int choice = 1; choice <= 26; ++choice)
+    verbs += dictionary::verbCount(letterOfChoice(choice));
   EXPECT_EQ(verbs, kListedVerbs);
 }
 
@@ -189,4 +190,4 @@ TEST(growing_bar, stays_empty_for_a_letter_without_verbs) { EXPECT_EQ(barWidth(0
 TEST(growing_bar, does_not_overflow) { EXPECT_EQ(barWidth(7342, 7342, 2000000000), 2000000000); }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -1,19 +1,19 @@
 // Completion in the entry box.
-#include "dictionary/entry_box.h"
+#include "app/logic/entry_box.h"
 
 #include <gtest/gtest.h>
 
 #include "dictionary/verb_index.h"
 #include "tests/support/test_program.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using odmiennik::testing::french;
 
 // The text as typed, the caret behind it.
 std::optional<CompletedEntry> typed(std::string_view text) {
-  return completedEntry({.text = text, .caret = text.size()}, &completion);
+  return completedEntry({.text = text, .caret = text.size()}, &dictionary::completion);
 }
 
 bool completesCode(int code) { return completes(ReleasedKey{.virtualKey = code}); }
@@ -46,7 +46,7 @@ TEST(completing_keys, include_a_letter_that_arrives_without_a_key) {
 TEST(completion_in_the_entry_box, selects_the_tail_that_nobody_typed) {
   const auto entry = typed("all");
   ASSERT_TRUE(entry);
-  EXPECT_EQ(entry->text, std::string(completion("all")));
+  EXPECT_EQ(entry->text, std::string(dictionary::completion("all")));
   EXPECT_TRUE(entry->text.starts_with("all"));
   EXPECT_EQ(entry->caret, 3U);
   EXPECT_EQ(entry->selectionStart, 3U);
@@ -70,16 +70,18 @@ TEST(completion_in_the_entry_box, leaves_an_empty_text_and_a_whole_verb) {
 }
 
 TEST(completion_in_the_entry_box, needs_the_caret_at_the_end) {
-  EXPECT_FALSE(completedEntry({.text = "all", .caret = 2}, &completion));
-  EXPECT_FALSE(completedEntry({.text = "all", .caret = 0}, &completion));
+  EXPECT_FALSE(completedEntry({.text = "all", .caret = 2}, &dictionary::completion));
+  EXPECT_FALSE(completedEntry({.text = "all", .caret = 0}, &dictionary::completion));
 }
 
 TEST(completion_in_the_entry_box, leaves_a_selection_alone) {
-  EXPECT_FALSE(completedEntry({.text = "all", .caret = 3, .selectionLength = 2}, &completion));
+  EXPECT_FALSE(
+      completedEntry({.text = "all", .caret = 3, .selectionLength = 2}, &dictionary::completion));
 }
 
 TEST(completion_in_the_entry_box, happens_in_no_locked_box) {
-  EXPECT_FALSE(completedEntry({.text = "all", .caret = 3, .isReadOnly = true}, &completion));
+  EXPECT_FALSE(
+      completedEntry({.text = "all", .caret = 3, .isReadOnly = true}, &dictionary::completion));
 }
 
 TEST(completion_in_the_entry_box, deleting_the_suggestion_does_not_bring_it_back) {
@@ -98,4 +100,4 @@ TEST(completion_switch, is_inverted_and_kept_as_a_number) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -1,9 +1,9 @@
 // The verb list.
-#include "dictionary/verb_list.h"
+#include "app/logic/verb_list.h"
 
 #include <algorithm>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 void VerbList::loadUserVerbs(UserVerbsFound found) {
   isFilling_ = false;
@@ -76,4 +76,4 @@ std::string VerbList::countLabel() const {
   return std::to_string(entries_.size()) + '/' + std::to_string(kListedVerbs);
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -1,10 +1,10 @@
 // The hint of the read-only boxes.
-#include "dictionary/entry_box_hint.h"
+#include "app/logic/entry_box_hint.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 namespace vk = virtual_key;
@@ -42,4 +42,4 @@ bool ReadOnlyBoxHint::released(int box, const KeyStroke& key) {
   return isDown;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // The commands of the main window that the list drives. Each returns false when it stopped because
 // an edited verb could not be saved.
@@ -46,4 +46,4 @@ struct ListAppearance {
 // `choice` is the item of cmbLista.
 [[nodiscard]] std::string emptyListHint(ListPurpose purpose, int choice);
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 
 // Windows virtual-key codes of keys that the boxes tell apart.
 namespace virtual_key {
@@ -88,4 +88,4 @@ class CompletionSwitch {
   bool isOn_;
 };
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app

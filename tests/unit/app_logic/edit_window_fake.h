@@ -3,12 +3,13 @@
 
 #include <array>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "app/logic/edit_mode.h"
+#include "app/logic/saving.h"
 #include "data/messages.h"
-#include "dictionary/edit_mode_runner.h"
-#include "dictionary/saving.h"
 #include "engine/slots.h"
 #include "tests/support/test_program.h"
 
@@ -19,29 +20,28 @@ namespace odmiennik::testing {
 struct MessagesFake final : dictionary::MessageBoxes {
   dictionary::Button show(dictionary::MessageId id, std::string_view argument) override {
     shown.push_back(dictionary::messageText(id, argument));
+    whileShown();
     if (answers.empty()) return dictionary::Button::no;
     const dictionary::Button answer = answers.front();
     answers.pop_front();
     return answer;
   }
   std::deque<dictionary::Button> answers;
+  std::function<void()> whileShown = [] {};  // what is done before the answer
   std::vector<std::string> shown;
 };
 
 // Like the main window: a change of a text, whoever makes it, is told to edit mode.
-class EditWindowFake final : public dictionary::EditWindow {
+class EditWindowFake final : public app::EditWindow {
  public:
   using Texts = std::array<std::string, engine::kSlotCount>;
 
   explicit EditWindowFake(std::string_view infinitive) {
-    setText(engine::slot::kInfinitive, infinitive);
-    mode.filled(infinitive);
+    texts[engine::slot::kInfinitive] = infinitive;
   }
 
   // Gives a command as the user does, from the menu, a button or the list.
-  bool give(dictionary::EditCommand command) {
-    return runEditCommand(command, mode, *this, messages);
-  }
+  bool give(bool (app::EditMode::*command)()) { return (mode.*command)(); }
   void type(int slot, std::string_view text) { setText(slot, text); }
 
   [[nodiscard]] std::string entryText() const override { return texts[engine::slot::kInfinitive]; }
@@ -49,14 +49,14 @@ class EditWindowFake final : public dictionary::EditWindow {
   void clearBoxes() override {
     for (int slot = 0; slot < engine::kSlotCount; ++slot) setText(slot, "");
   }
-  void present(const dictionary::EditPresentation& presentation) override { seen = presentation; }
+  void present(const app::EditPresentation& presentation) override { seen = presentation; }
   void showHourglass(bool isShown) override {
     diary.emplace_back(isShown ? "hourglass" : "pointer");
   }
   std::string conjugate() override { return fill("conjugate "); }
   std::string conjugateForEditing() override { return fill("edit "); }
   dictionary::UserVerbRecord record() const override {
-    return dictionary::recordOfBoxes(texts, engine::kAvoir);
+    return app::recordOfBoxes(texts, engine::kAvoir);
   }
   bool write(const dictionary::UserVerbRecord& /*record*/) override {
     diary.push_back("write " + entryText());
@@ -70,13 +70,14 @@ class EditWindowFake final : public dictionary::EditWindow {
   }
   void focusForm(int slot) override { diary.push_back("focus " + std::to_string(slot)); }
 
-  dictionary::EditMode mode{"Odmiennik v.1.0.12"};
   MessagesFake messages;
+  app::EditMode mode{"Odmiennik v.1.0.12", *this, messages};
   Texts texts;
-  dictionary::EditPresentation seen = mode.presentation();
+  app::EditPresentation seen = mode.presentation();
   std::vector<std::string> diary;
   bool canWrite = true;
   std::string shown, stored;  // infinitives
+  std::string normalized;     // slot 96 where it is not what was typed
 
  private:
   void setText(int slot, std::string_view text) {
@@ -88,7 +89,7 @@ class EditWindowFake final : public dictionary::EditWindow {
   std::string fill(const std::string& how) {
     diary.push_back(how + entryText());
     setText(0, "form of " + entryText());
-    return entryText();
+    return normalized.empty() ? entryText() : normalized;
   }
 };
 

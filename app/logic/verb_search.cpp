@@ -1,11 +1,11 @@
 // Typing into the list.
-#include "dictionary/verb_search.h"
+#include "app/logic/verb_search.h"
 
 #include "engine/french.h"
 #include "engine/initial_letter.h"
 #include "engine/normalization.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::app {
 namespace {
 
 using namespace engine::literals;
@@ -56,4 +56,4 @@ std::optional<std::size_t> VerbSearch::type(std::string_view key, bool isContinu
   return firstFrom(next, typed_.substr(0, 1), entries);
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::app
