@@ -71,7 +71,7 @@ void compareVerbs(const VerbSnapshot& golden, const VerbSnapshot& now, Differenc
                         now.boxes[slot]);
 }
 
-TEST(GoldenIndex, EveryVerbHasTheBoxesOfTheSnapshot) {
+TEST(golden_index, every_verb_has_the_boxes_of_the_snapshot) {
   const std::vector<VerbSnapshot> verbs = conjugateIndex();
   if (isUpdatingGolden()) {
     const IndexSnapshot snapshot = encode(verbs);
@@ -87,27 +87,27 @@ TEST(GoldenIndex, EveryVerbHasTheBoxesOfTheSnapshot) {
                                     << "ODMIENNIK_UPDATE_GOLDEN=1 and review the difference";
 }
 
-TEST(GoldenIndex, TheSnapshotOfTheVerbsIsTheFileItself) {
+TEST(golden_index, the_snapshot_of_the_verbs_is_the_file_itself) {
   const IndexSnapshot snapshot = encode(conjugateIndex());
   EXPECT_TRUE(patternsFile(snapshot) == readGolden(kPatterns)) << "a pattern that no verb has";
   EXPECT_TRUE(verbsFile(snapshot) == readGolden(kVerbs)) << "a line written by hand";
 }
 
-TEST(GoldenIndex, HasAll7342VerbsInLittleSpace) {
+TEST(golden_index, has_all_7342_verbs_in_little_space) {
   const std::string patterns = readGolden(kPatterns);
   const std::string verbs = readGolden(kVerbs);
   EXPECT_EQ(readFiles(patterns, verbs).verbs.size(), 7342U);
   EXPECT_LT(patterns.size() + verbs.size(), 500'000U);
 }
 
-TEST(GoldenIndex, EveryVerbConjugates) {
+TEST(golden_index, every_verb_conjugates) {
   std::vector<std::string> refused;
   for (const VerbSnapshot& verb : conjugateIndex())
     if (verb.origin == "none") refused.push_back(verb.infinitive);
   EXPECT_EQ(refused, std::vector<std::string>{});
 }
 
-TEST(GoldenIndex, NoVerbKeepsAPlaceholder) {
+TEST(golden_index, no_verb_keeps_a_placeholder) {
   for (const VerbSnapshot& verb : conjugateIndex())
     for (std::size_t slot = 0; slot < verb.boxes.size(); ++slot)
       EXPECT_EQ(verb.boxes[slot].find('*'), std::string::npos)

@@ -49,7 +49,7 @@ std::string blocksByRule(const std::vector<std::string_view>& infinitives) {
   return blocks;
 }
 
-TEST(GoldenModels, FirstGroup) {
+TEST(golden_models, first_group) {
   expectGolden(
       "first_group.txt",
       blocksByRule({"parler",    "rapiécer",   "dérapiécer", "envoyer",  "renvoyer", "fouiller",
@@ -61,12 +61,12 @@ TEST(GoldenModels, FirstGroup) {
           blockByRule("arriver", kEtre));
 }
 
-TEST(GoldenModels, SecondGroup) {
+TEST(golden_models, second_group) {
   expectGolden("second_group.txt",
                blocksByRule({"finir", "choisir", "amuïr", "haïr"}) + blockByRule("finir", kEtre));
 }
 
-TEST(GoldenModels, ThirdGroup) {
+TEST(golden_models, third_group) {
   expectGolden(
       "third_group.txt",
       blocksByRule({"bouillir",  "cueillir", "pourvoir", "tressaillir", "asseoir",   "émouvoir",
@@ -84,7 +84,7 @@ TEST(GoldenModels, ThirdGroup) {
           blockByRule("dissoudre", kEtre));
 }
 
-TEST(GoldenBuiltinVerbs, AreCompletedWithBothAuxiliaries) {
+TEST(golden_builtin_verbs, are_completed_with_both_auxiliaries) {
   namespace text_id = engine::text_id;
   std::string blocks;
   for (int entry = 1; entry <= dictionary::builtinVerbCount(); ++entry) {

@@ -52,7 +52,7 @@ void expectEnds(const std::string& verb, const TestProgram& program, int slot,
     EXPECT_TRUE(endsInOneOf(form, ends)) << verb << ", slot " << slot << ": " << form;
 }
 
-TEST(EveryVerbInTheNorm, has_no_vowel_twice_by_accident) {
+TEST(every_verb_in_the_norm, has_no_vowel_twice_by_accident) {
   forEveryVerb([](const std::string& verb, const TestProgram& program) {
     for (int slot = 0; slot < engine::kSlotCount; ++slot) {
       const std::string form = program.box(slot);
@@ -68,7 +68,7 @@ TEST(EveryVerbInTheNorm, has_no_vowel_twice_by_accident) {
   });
 }
 
-TEST(EveryVerbInTheNorm, has_nous_in_ons_or_mes) {
+TEST(every_verb_in_the_norm, has_nous_in_ons_or_mes) {
   forEveryVerb([](const std::string& verb, const TestProgram& program) {
     for (const int tense : {6, 18, 48, 54, 72}) expectEnds(verb, program, tense + 3, {"ons"});
     expectEnds(verb, program, 3, {"ons", "sommes"});
@@ -76,7 +76,7 @@ TEST(EveryVerbInTheNorm, has_nous_in_ons_or_mes) {
   });
 }
 
-TEST(EveryVerbInTheNorm, has_vous_in_ez_or_tes) {
+TEST(every_verb_in_the_norm, has_vous_in_ez_or_tes) {
   forEveryVerb([](const std::string& verb, const TestProgram& program) {
     for (const int tense : {6, 18, 48, 54, 72}) expectEnds(verb, program, tense + 4, {"ez"});
     expectEnds(verb, program, 4, {"ez", "êtes", "faites", "dites"});
@@ -84,13 +84,13 @@ TEST(EveryVerbInTheNorm, has_vous_in_ez_or_tes) {
   });
 }
 
-TEST(EveryVerbInTheNorm, has_ils_in_nt) {
+TEST(every_verb_in_the_norm, has_ils_in_nt) {
   forEveryVerb([](const std::string& verb, const TestProgram& program) {
     for (const int tense : kSimpleTenses) expectEnds(verb, program, tense + 5, {"nt"});
   });
 }
 
-TEST(EveryVerbInTheNorm, has_a_participle_of_a_known_end) {
+TEST(every_verb_in_the_norm, has_a_participle_of_a_known_end) {
   forEveryVerb([](const std::string& verb, const TestProgram& program) {
     expectEnds(verb, program, 99,
                {"é", "i", "ï", "u", "û", "s", "t", "ée", "ie", "ue", "te", "se"});
@@ -99,7 +99,7 @@ TEST(EveryVerbInTheNorm, has_a_participle_of_a_known_end) {
 }
 
 // nous and vous of the subjonctif are those of the imparfait, but for the verbs that grammars name.
-TEST(EveryVerbInTheNorm, has_nous_and_vous_of_the_subjonctif_as_in_the_imparfait) {
+TEST(every_verb_in_the_norm, has_nous_and_vous_of_the_subjonctif_as_in_the_imparfait) {
   const std::vector<std::string> kOwnSubjunctive{"être",    "avoir", "faire",  "savoir",
                                                  "pouvoir", "seoir", "vouloir"};
   forEveryVerb([&](const std::string& verb, const TestProgram& program) {

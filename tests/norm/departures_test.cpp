@@ -35,7 +35,7 @@ bool isWouldHave(int slot, const std::string& system, std::string norm) {
   return system == norm.replace(end, 8, "aurainet");
 }
 
-TEST(Departures, of_the_index_are_the_golden_ones) {
+TEST(departures, of_the_index_are_the_golden_ones) {
   TestProgram system, inNorm;
   inNorm.followNorm();
   std::string departures;

@@ -33,7 +33,7 @@ std::vector<Expected> formsOf(std::string_view text) {
   return forms;
 }
 
-TEST(FormsOfTheNorm, are_those_written_by_hand) {
+TEST(forms_of_the_norm, are_those_written_by_hand) {
   std::ifstream file(ODMIENNIK_SOURCE_DIR "/tests/norm/forms.txt");
   TestProgram program;
   program.followNorm();
@@ -52,7 +52,7 @@ TEST(FormsOfTheNorm, are_those_written_by_hand) {
   EXPECT_GE(count, 200);
 }
 
-TEST(FormsOfTheNorm, the_caption_above_falloir_is_spelt_as_today) {
+TEST(forms_of_the_norm, the_caption_above_falloir_is_spelt_as_today) {
   TestProgram program;
   program.followNorm();
   program.conjugate("falloir");
@@ -60,7 +60,7 @@ TEST(FormsOfTheNorm, the_caption_above_falloir_is_spelt_as_today) {
   EXPECT_EQ(program.caption(1), "Il ne croyait pas que ...");
 }
 
-TEST(FormsOfTheNorm, the_pronoun_je_elides_before_oe_and_stays_before_a_spoken_y) {
+TEST(forms_of_the_norm, the_pronoun_je_elides_before_oe_and_stays_before_a_spoken_y) {
   TestProgram program;
   program.followNorm();
   program.conjugate("œuvrer");
@@ -71,7 +71,7 @@ TEST(FormsOfTheNorm, the_pronoun_je_elides_before_oe_and_stays_before_a_spoken_y
   EXPECT_EQ(program.pronoun(0), "j'") << "before a consonant y is a vowel";
 }
 
-TEST(FormsOfTheNorm, the_own_verb_wins) {
+TEST(forms_of_the_norm, the_own_verb_wins) {
   TestProgram program;
   program.followNorm();
   program.addUserVerb({.slots = {{2, "lir"}, {96, "lire"}}});
@@ -79,7 +79,7 @@ TEST(FormsOfTheNorm, the_own_verb_wins) {
   EXPECT_EQ(program.box(2), "lir");
 }
 
-TEST(FormsOfTheNorm, an_own_verb_with_an_adverb_is_shown_as_it_is_stored) {
+TEST(forms_of_the_norm, an_own_verb_with_an_adverb_is_shown_as_it_is_stored) {
   TestProgram program;
   program.followNorm();
   program.addUserVerb({.slots = {{0, "m'en vais"}, {96, "s'en aller"}}, .auxiliary = 0});
@@ -87,7 +87,7 @@ TEST(FormsOfTheNorm, an_own_verb_with_an_adverb_is_shown_as_it_is_stored) {
   EXPECT_EQ(program.box(0), "m'en vais");
 }
 
-TEST(FormsOfTheNorm, the_other_auxiliary_keeps_the_norm) {
+TEST(forms_of_the_norm, the_other_auxiliary_keeps_the_norm) {
   TestProgram program;
   program.followNorm();
   program.conjugate("monter");
@@ -96,14 +96,14 @@ TEST(FormsOfTheNorm, the_other_auxiliary_keeps_the_norm) {
   EXPECT_EQ(program.box(83), "auraient monté");
 }
 
-TEST(FormsOfTheNorm, while_a_verb_is_edited_the_forms_are_the_systems) {
+TEST(forms_of_the_norm, while_a_verb_is_edited_the_forms_are_the_systems) {
   TestProgram program;
   program.followNorm();
   program.edit("lire");
   EXPECT_EQ(program.box(2), "lir");
 }
 
-TEST(FormsOfTheNorm, a_verb_after_another_begins_anew) {
+TEST(forms_of_the_norm, a_verb_after_another_begins_anew) {
   TestProgram program;
   program.followNorm();
   program.conjugate("s'en aller");

@@ -118,7 +118,7 @@ std::set<std::string> reasonsInTheCode() {
   return reasons;
 }
 
-TEST(FaultySources, every_reason_of_the_compiler_is_shown_by_a_file) {
+TEST(faulty_sources, every_reason_of_the_compiler_is_shown_by_a_file) {
   std::string heads;
   for (const fs::path& file : brokenSources()) heads += firstLine(file) + "\n";
   heads += "1: cannot be read\n";  // a source that is not there has a test of its own
@@ -128,7 +128,7 @@ TEST(FaultySources, every_reason_of_the_compiler_is_shown_by_a_file) {
     EXPECT_NE(heads.find(reason), std::string::npos) << "no file in tests/broken/data: " << reason;
 }
 
-TEST(FaultySources, a_source_that_is_not_there_is_named) {
+TEST(faulty_sources, a_source_that_is_not_there_is_named) {
   const Answer answer = compile("window", "data/no_such_file.txt");
   EXPECT_EQ(answer.text, "data/no_such_file.txt:1: cannot be read\n");
   EXPECT_EQ(answer.status, 1);

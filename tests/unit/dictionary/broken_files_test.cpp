@@ -31,7 +31,7 @@ std::map<std::string, std::string> brokenFiles(const std::string& folder) {
   return contents;
 }
 
-TEST(BrokenUserVerbs, AreReportedOnceAndTheOtherRecordsAreFound) {
+TEST(broken_user_verbs, are_reported_once_and_the_other_records_are_found) {
   const auto files = brokenFiles("user_verbs");
   ASSERT_GE(files.size(), 13U);
   for (const auto& [damage, content] : files) {
@@ -49,7 +49,7 @@ TEST(BrokenUserVerbs, AreReportedOnceAndTheOtherRecordsAreFound) {
   }
 }
 
-TEST(BrokenUserVerbs, KeepTheirDamagedLineThroughASaveAndADelete) {
+TEST(broken_user_verbs, keep_their_damaged_line_through_a_save_and_a_delete) {
   for (const auto& [damage, content] : brokenFiles("user_verbs")) {
     const ProgramFolder folder;
     RecordedMessages messages;
@@ -61,7 +61,7 @@ TEST(BrokenUserVerbs, KeepTheirDamagedLineThroughASaveAndADelete) {
   }
 }
 
-TEST(BrokenSettings, AreReadUpToTheDamage) {
+TEST(broken_settings, are_read_up_to_the_damage) {
   const std::map<std::string, int> goodFields{{"empty", 0},
                                               {"one_line_only", 1},
                                               {"four_lines_only", 4},

@@ -125,7 +125,7 @@ bool isVerb(const Source& source) {
   return source.infinitive != "autor" && source.infinitive != "pozdrowienia";
 }
 
-TEST(BuiltinVerbsCompleted, HaveExactlyTheFormsThatTheirSourceDeclares) {
+TEST(builtin_verbs_completed, have_exactly_the_forms_that_their_source_declares) {
   const auto sources = readSources();
   ASSERT_EQ(sources.size(), 84U);
   for (const Source& source : sources) {
@@ -137,7 +137,7 @@ TEST(BuiltinVerbsCompleted, HaveExactlyTheFormsThatTheirSourceDeclares) {
   }
 }
 
-TEST(BuiltinVerbsCompleted, HaveNoPlaceholderLeftWithEitherAuxiliary) {
+TEST(builtin_verbs_completed, have_no_placeholder_left_with_either_auxiliary) {
   for (const Source& source : readSources())
     for (const std::uint8_t auxiliary : {engine::kEtre, engine::kAvoir}) {
       const engine::FormTable forms = completed(source, auxiliary);
@@ -146,7 +146,7 @@ TEST(BuiltinVerbsCompleted, HaveNoPlaceholderLeftWithEitherAuxiliary) {
     }
 }
 
-TEST(BuiltinVerbsCompleted, LackFormsOnlyWhereTheSourceSaysWhy) {
+TEST(builtin_verbs_completed, lack_forms_only_where_the_source_says_why) {
   int defective = 0;
   for (const Source& source : readSources()) {
     EXPECT_EQ(source.has != "tout", source.isExplained && source.has != "tout")
@@ -157,7 +157,7 @@ TEST(BuiltinVerbsCompleted, LackFormsOnlyWhereTheSourceSaysWhy) {
 }
 
 // The window shows both: the group, and the forms that are missing.
-TEST(BuiltinVerbsCompleted, AreDefectiveInTheIndexJustWhereFormsAreMissing) {
+TEST(builtin_verbs_completed, are_defective_in_the_index_just_where_forms_are_missing) {
   GeneralVerbIndex index;
   for (const Source& source : readSources()) {
     if (!isVerb(source)) continue;

@@ -39,7 +39,7 @@ constexpr int kFlag = 101;
 
 std::string_view entryOf(int verb, int slot) { return textOf(4000 + 102 * (verb - 1) + slot); }
 
-TEST(BuiltinVerbs, Are84InTheirOrder) {
+TEST(builtin_verbs, are_84_in_their_order) {
   ASSERT_EQ(std::size(kInfinitives), 84U);
   EXPECT_EQ(builtinVerbCount(), 84);
   EXPECT_EQ(textOf(3000), "84");
@@ -47,17 +47,17 @@ TEST(BuiltinVerbs, Are84InTheirOrder) {
     EXPECT_EQ(engine::toUtf8(textOf(3000 + verb)), kInfinitives[verb - 1]) << verb;
 }
 
-TEST(BuiltinVerbs, HaveTheirInfinitiveInSlot96) {
+TEST(builtin_verbs, have_their_infinitive_in_slot_96) {
   for (int verb = 1; verb <= 84; ++verb)
     EXPECT_EQ(entryOf(verb, engine::slot::kInfinitive), textOf(3000 + verb)) << verb;
 }
 
-TEST(BuiltinVerbs, AreStoredWithoutAnEmptyText) {
+TEST(builtin_verbs, are_stored_without_an_empty_text) {
   for (int identifier = 4000; identifier <= 12567; ++identifier)
     ASSERT_FALSE(textOf(identifier).empty()) << identifier;
 }
 
-TEST(BuiltinVerbs, HaveTheFlagZeroWhereTheAuxiliaryIsEtre) {
+TEST(builtin_verbs, have_the_flag_zero_where_the_auxiliary_is_etre) {
   const std::set<std::string> withEtre{"aller",     "advenir",      "mourir",     "naître",
                                        "échoir",    "contrefoutre", "s'ensuivre", "renaître",
                                        "bienvenir", "issir"};
@@ -70,7 +70,7 @@ TEST(BuiltinVerbs, HaveTheFlagZeroWhereTheAuxiliaryIsEtre) {
   EXPECT_EQ(withAvoir, 74);
 }
 
-TEST(BuiltinVerbs, AreLoadedWithEmptyFormsForMissingOnes) {
+TEST(builtin_verbs, are_loaded_with_empty_forms_for_missing_ones) {
   engine::FormTable forms;
   forms[0] = "left over";
   ASSERT_TRUE(BuiltinVerbTable().load("advenir", forms));
@@ -78,20 +78,20 @@ TEST(BuiltinVerbs, AreLoadedWithEmptyFormsForMissingOnes) {
   EXPECT_EQ(forms[2], "advient");
 }
 
-TEST(BuiltinVerbs, KeepAPlaceholder) {
+TEST(builtin_verbs, keep_a_placeholder) {
   engine::FormTable forms;
   ASSERT_TRUE(BuiltinVerbTable().load("aller", forms));
   EXPECT_EQ(forms[6], "*");
 }
 
-TEST(BuiltinVerbs, AreFoundWithoutTheirReflexivePrefix) {
+TEST(builtin_verbs, are_found_without_their_reflexive_prefix) {
   engine::FormTable forms;
   ASSERT_TRUE(BuiltinVerbTable().load("ensuivre", forms));
   EXPECT_EQ(forms[96], "s'ensuivre");
   EXPECT_FALSE(BuiltinVerbTable().load("s'ensuivre", forms));
 }
 
-TEST(BuiltinVerbs, AreFoundByEveryKey) {
+TEST(builtin_verbs, are_found_by_every_key) {
   const BuiltinVerbTable table;
   engine::FormTable forms;
   for (const std::string_view infinitive : kInfinitives) {
@@ -101,19 +101,19 @@ TEST(BuiltinVerbs, AreFoundByEveryKey) {
   }
 }
 
-TEST(BuiltinVerbs, HoldNothingElse) {
+TEST(builtin_verbs, hold_nothing_else) {
   engine::FormTable forms;
   for (const char* key : {"", "parler", "Aller", "alle", "aller "})
     EXPECT_FALSE(BuiltinVerbTable().load(key, forms)) << key;
 }
 
-TEST(StringTable, HoldsAsManyTipsAsItSays) {
+TEST(string_table, holds_as_many_tips_as_it_says) {
   EXPECT_EQ(textOf(40), "21");
   for (int identifier = 41; identifier <= 61; ++identifier)
     EXPECT_TRUE(textOf(identifier).ends_with('?')) << identifier;
 }
 
-TEST(StringTable, HasTextsInItsRangesAndNowhereElse) {
+TEST(string_table, has_texts_in_its_ranges_and_nowhere_else) {
   constexpr std::pair<int, int> kRanges[] = {{1, 15},      {20, 27},     {40, 61},     {1000, 1043},
                                              {2000, 2043}, {3000, 3084}, {4000, 12567}};
   for (int identifier = -100; identifier < 20'000; ++identifier) {
@@ -125,7 +125,7 @@ TEST(StringTable, HasTextsInItsRangesAndNowhereElse) {
 }
 
 // deliberate: the stored misspelling of "auraient"
-TEST(StringTable, HoldsAurainetUnder2041) { EXPECT_EQ(textOf(2041), "aurainet"); }
+TEST(string_table, holds_aurainet_under_2041) { EXPECT_EQ(textOf(2041), "aurainet"); }
 
 }  // namespace
 }  // namespace odmiennik::dictionary

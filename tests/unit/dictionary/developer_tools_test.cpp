@@ -28,7 +28,7 @@ class ResourceScript : public ::testing::Test {
   ProgramFolder folder_;
 };
 
-TEST_F(ResourceScript, BeginsWithTheCountAndTheInfinitivesInTheSecondPrintZone) {
+TEST_F(ResourceScript, begins_with_the_count_and_the_infinitives_in_the_second_print_zone) {
   folder_.write("Czasowniki.dat", linesOf({"aller", "être", "avoir"}));
   ASSERT_TRUE(build(2));
   EXPECT_TRUE(
@@ -38,7 +38,7 @@ TEST_F(ResourceScript, BeginsWithTheCountAndTheInfinitivesInTheSecondPrintZone) 
                                   "4000          \"@\"\r\n")));
 }
 
-TEST_F(ResourceScript, Has102EntriesAVerb) {
+TEST_F(ResourceScript, has_102_entries_a_verb) {
   UserVerbRecord second = verb("aller", {{0, "vais"}, {100, "*"}});
   second.auxiliary = engine::kEtre;
   folder_.write("Czasowniki.dat", lineOf("avoir") + recordLine(second));
@@ -52,7 +52,7 @@ TEST_F(ResourceScript, Has102EntriesAVerb) {
   EXPECT_TRUE(text.ends_with("4203          \"0\"\r\n"));
 }
 
-TEST_F(ResourceScript, IsNotWrittenWhenRecordsAreMissingOrDamaged) {
+TEST_F(ResourceScript, is_not_written_when_records_are_missing_or_damaged) {
   EXPECT_FALSE(build(1));
   folder_.write("Czasowniki.dat", lineOf("aller"));
   EXPECT_FALSE(build(2));
@@ -62,7 +62,7 @@ TEST_F(ResourceScript, IsNotWrittenWhenRecordsAreMissingOrDamaged) {
 }
 
 #ifndef _WIN32
-TEST_F(ResourceScript, GoesToTheProgramFolder) {
+TEST_F(ResourceScript, goes_to_the_program_folder) {
   EXPECT_EQ(resourceScriptPath(folder_.prefix()), folder_.path() / "odmiana.rc");
 }
 #endif
@@ -74,7 +74,7 @@ class JoinedTexts : public ::testing::Test {
   ProgramFolder folder_;
 };
 
-TEST_F(JoinedTexts, HoldTheEvenNumbersInOrder) {
+TEST_F(JoinedTexts, hold_the_even_numbers_in_order) {
   folder_.write("teksty/196.txt", "first");
   folder_.write("teksty/197.txt", "odd");
   folder_.write("teksty/198.TXT", "\xE9t\xE9\n\nend\r");
@@ -85,26 +85,26 @@ TEST_F(JoinedTexts, HoldTheEvenNumbersInOrder) {
   EXPECT_EQ(folder_.read("teksty/Połącz.txt"), "first\r\n\xE9t\xE9\r\n\r\nend\r\nlast\r\n");
 }
 
-TEST_F(JoinedTexts, AreEmptyWithoutAnyText) {
+TEST_F(JoinedTexts, are_empty_without_any_text) {
   folder_.write("teksty/Połącz.txt", "from last time");
   ASSERT_TRUE(joinTextFiles(folder_.prefix()));
   EXPECT_EQ(folder_.read("teksty/Połącz.txt"), "");
 }
 
-TEST_F(JoinedTexts, NeedTheirFolder) {
+TEST_F(JoinedTexts, need_their_folder) {
   fs::remove(folder_.path() / "teksty");
   EXPECT_FALSE(joinTextFiles(folder_.prefix()));
   EXPECT_EQ(folder_.names(), Texts{});
 }
 
-TEST_F(JoinedTexts, AreNotTouchedWhenATextCannotBeRead) {
+TEST_F(JoinedTexts, are_not_touched_when_a_text_cannot_be_read) {
   folder_.write("teksty/Połącz.txt", "from last time");
   fs::create_directory(folder_.path() / "teksty" / "200.txt");
   EXPECT_FALSE(joinTextFiles(folder_.prefix()));
   EXPECT_EQ(folder_.read("teksty/Połącz.txt"), "from last time");
 }
 
-TEST_F(JoinedTexts, KeepAVeryLongLineWhole) {
+TEST_F(JoinedTexts, keep_a_very_long_line_whole) {
   for (const std::size_t length : {17 * 65'536, 3'000'000}) {
     const std::string line(length, 'x');
     folder_.write("teksty/200.txt", line);

@@ -52,21 +52,21 @@ Texts linesOfText(const std::string& text, std::size_t step) {
   return lines;
 }
 
-TEST(FileLines, EndInCarriageReturnAndLineFeedOrOneOfThem) {
+TEST(file_lines, end_in_carriage_return_and_line_feed_or_one_of_them) {
   for (const std::size_t step : {1, 2, 3, 100})
     EXPECT_EQ(linesOfText("a\r\nb\nc\r\r\nd\re", step),
               (Texts{"a|\r\n", "b|\n", "c|\r", "|\r\n", "d|\r", "e|"}))
         << step;
 }
 
-TEST(FileLines, AnEmptyFileHasNoLine) { EXPECT_EQ(linesOfText("", 100), Texts{}); }
+TEST(file_lines, an_empty_file_has_no_line) { EXPECT_EQ(linesOfText("", 100), Texts{}); }
 
-TEST(FileLines, ALineEndAtTheFilesEndBeginsNoFurtherLine) {
+TEST(file_lines, a_line_end_at_the_files_end_begins_no_further_line) {
   EXPECT_EQ(linesOfText("a\r\n", 100), Texts{"a|\r\n"});
   EXPECT_EQ(linesOfText("a\r", 100), Texts{"a|\r"});
 }
 
-TEST(FileLines, ManyLinesComeThroughOneBuffer) {
+TEST(file_lines, many_lines_come_through_one_buffer) {
   std::string text;
   Texts expected;
   for (int number = 0; number < 300'000; ++number) {
@@ -76,14 +76,14 @@ TEST(FileLines, ManyLinesComeThroughOneBuffer) {
   EXPECT_EQ(linesOfText(text, 70'000), expected);
 }
 
-TEST(FileLines, TheLongestLineComesWhole) {
+TEST(file_lines, the_longest_line_comes_whole) {
   const std::string longest(kLongestLine, 'x');
   for (const std::size_t step : {65'536, 65'535})
     for (const char* end : {"\r\n", "\r", "\n", ""})
       EXPECT_TRUE(linesOfText(longest + end, step) == Texts{longest + "|" + end}) << step;
 }
 
-TEST(FileLines, ALongerLineComesInPiecesThatMakeItUp) {
+TEST(file_lines, a_longer_line_comes_in_pieces_that_make_it_up) {
   const std::string text = std::string(3 * kLongestLine, 'x') + "\r\nnext\r\n";
   TextInput file(text, 65'536);
   LineReader reader(file);
@@ -98,7 +98,7 @@ TEST(FileLines, ALongerLineComesInPiecesThatMakeItUp) {
   EXPECT_EQ(cuts, 2);
 }
 
-TEST(FileLines, AFailedReadIsNoEndOfFile) {
+TEST(file_lines, a_failed_read_is_no_end_of_file) {
   FailingInput file;
   LineReader reader(file);
   Line line;

@@ -13,26 +13,28 @@ using odmiennik::testing::french;
 
 std::string meant(std::string_view typed) { return engine::toUtf8(otherSpelling(french(typed))); }
 
-TEST(OtherSpelling, FindsAVerbWrittenWithoutItsAccents) {
+TEST(other_spelling, finds_a_verb_written_without_its_accents) {
   EXPECT_EQ(meant("etre"), "être");
   EXPECT_EQ(meant("connaitre"), "connaître");
   EXPECT_EQ(meant("paraitre"), "paraître");
   EXPECT_EQ(meant("oeuvrer"), "œuvrer");
 }
 
-TEST(OtherSpelling, FindsAVerbWrittenWithTheWrongAccents) { EXPECT_EQ(meant("ètre"), "être"); }
+TEST(other_spelling, finds_a_verb_written_with_the_wrong_accents) {
+  EXPECT_EQ(meant("ètre"), "être");
+}
 
-TEST(OtherSpelling, FindsTheTraditionalSpellingBehindThatOf1990) {
+TEST(other_spelling, finds_the_traditional_spelling_behind_that_of_1990) {
   EXPECT_EQ(meant("assoir"), "asseoir");
   EXPECT_EQ(meant("sursoir"), "surseoir");
 }
 
-TEST(OtherSpelling, KeepsTheReflexivePrefixThatWasTyped) {
+TEST(other_spelling, keeps_the_reflexive_prefix_that_was_typed) {
   EXPECT_EQ(meant(" S’Assoir "), "s'asseoir");
   EXPECT_EQ(meant("se connaitre"), "se connaître");
 }
 
-TEST(OtherSpelling, IsNoneOfAVerbThatIsSpelledRightOrUnknown) {
+TEST(other_spelling, is_none_of_a_verb_that_is_spelled_right_or_unknown) {
   for (const char* typed : {"être", "aimer", "", "se ", "x", "zzzoir", "oir", "'", "123"})
     EXPECT_EQ(meant(typed), "") << typed;
 }

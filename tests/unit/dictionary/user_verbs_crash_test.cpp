@@ -45,7 +45,7 @@ class UserVerbsCrash : public ::testing::Test {
   RecordedMessages messages_;
 };
 
-TEST_F(UserVerbsCrash, ASaveLeavesTheOldFileOrTheNewOne) {
+TEST_F(UserVerbsCrash, a_save_leaves_the_old_file_or_the_new_one) {
   const std::string before = linesOf({"aimer", "finir"});
   const std::string after = before + lineOf("rendre");
   bool hasFailed = true;
@@ -66,7 +66,7 @@ TEST_F(UserVerbsCrash, ASaveLeavesTheOldFileOrTheNewOne) {
   EXPECT_FALSE(hasFailed);
 }
 
-TEST_F(UserVerbsCrash, ASaveThatDropsRecordsNeverIsWithoutThem) {
+TEST_F(UserVerbsCrash, a_save_that_drops_records_never_is_without_them) {
   const std::string before = linesOf({"aimer", "finir"});
   bool hasFailed = true;
   int step = 0;
@@ -83,7 +83,7 @@ TEST_F(UserVerbsCrash, ASaveThatDropsRecordsNeverIsWithoutThem) {
   EXPECT_FALSE(hasFailed);
 }
 
-TEST_F(UserVerbsCrash, ADeleteLeavesTheOldFileOrTheNewOne) {
+TEST_F(UserVerbsCrash, a_delete_leaves_the_old_file_or_the_new_one) {
   const std::string before = linesOf({"aimer", "finir"});
   bool hasFailed = true;
   int step = 0;
@@ -101,7 +101,7 @@ TEST_F(UserVerbsCrash, ADeleteLeavesTheOldFileOrTheNewOne) {
   EXPECT_EQ(folder_.read("Czas.dat"), before);
 }
 
-TEST_F(UserVerbsCrash, ASecondDeleteAfterAFailedOneEndsAsDescribed) {
+TEST_F(UserVerbsCrash, a_second_delete_after_a_failed_one_ends_as_described) {
   const std::string before = linesOf({"aimer", "finir"});
   bool hasFailed = true;
   for (int step = 0; hasFailed && step < kMoreStepsThanAnyTakes; ++step) {
@@ -119,7 +119,7 @@ TEST_F(UserVerbsCrash, ASecondDeleteAfterAFailedOneEndsAsDescribed) {
   EXPECT_FALSE(hasFailed);
 }
 
-TEST_F(UserVerbsCrash, AStepThatFailsOnceIsNotForgotten) {
+TEST_F(UserVerbsCrash, a_step_that_fails_once_is_not_forgotten) {
   const std::string before = lineOf("aimer", {{0, std::string(200'000, 'a')}}) +
                              lineOf("finir", {{0, std::string(200'000, 'f')}});
   bool hasFailed = true;
@@ -135,7 +135,7 @@ TEST_F(UserVerbsCrash, AStepThatFailsOnceIsNotForgotten) {
   EXPECT_FALSE(hasFailed);
 }
 
-TEST_F(UserVerbsCrash, AFileThatCannotBeReadToItsEndIsNeverReplaced) {
+TEST_F(UserVerbsCrash, a_file_that_cannot_be_read_to_its_end_is_never_replaced) {
   const std::string before = linesOf({"aimer", "finir", "rendre"});
   startWith(before, {});
   FaultyFiles files(kMoreStepsThanAnyTakes);
@@ -150,7 +150,7 @@ TEST_F(UserVerbsCrash, AFileThatCannotBeReadToItsEndIsNeverReplaced) {
 }
 
 // Swapped in before it is on the disk, the new content could be lost together with the old.
-TEST_F(UserVerbsCrash, NewContentIsOnTheDiskBeforeItIsSwappedIn) {
+TEST_F(UserVerbsCrash, new_content_is_on_the_disk_before_it_is_swapped_in) {
   startWith(linesOf({"aimer", "finir"}), {});
   FaultyFiles files(kMoreStepsThanAnyTakes);
   UserVerbsFile verbs(folder_.prefix(), 2, messages_, files);
@@ -158,7 +158,7 @@ TEST_F(UserVerbsCrash, NewContentIsOnTheDiskBeforeItIsSwappedIn) {
   EXPECT_EQ(files.taken(), (Texts{"create", "write", "finish", "moveOver", "syncFolder"}));
 }
 
-TEST_F(UserVerbsCrash, ContentThatDoesNotReachTheDiskIsNotSwappedIn) {
+TEST_F(UserVerbsCrash, content_that_does_not_reach_the_disk_is_not_swapped_in) {
   startWith(lineOf("aimer"), {});
   constexpr int kStepsBeforeFinish = 2;
   FaultyFiles files(kStepsBeforeFinish, Afterwards::allSucceeds);
@@ -168,7 +168,7 @@ TEST_F(UserVerbsCrash, ContentThatDoesNotReachTheDiskIsNotSwappedIn) {
   EXPECT_EQ(this->verbs(), lineOf("aimer"));
 }
 
-TEST_F(UserVerbsCrash, TheOldContentHasItsSecondNameBeforeTheNewIsSwappedIn) {
+TEST_F(UserVerbsCrash, the_old_content_has_its_second_name_before_the_new_is_swapped_in) {
   startWith(linesOf({"aimer", "finir"}), {});
   FaultyFiles files(kMoreStepsThanAnyTakes);
   UserVerbsFile verbs(folder_.prefix(), 2, messages_, files);
@@ -177,33 +177,33 @@ TEST_F(UserVerbsCrash, TheOldContentHasItsSecondNameBeforeTheNewIsSwappedIn) {
             (Texts{"create", "write", "finish", "keepAs", "syncFolder", "moveOver", "syncFolder"}));
 }
 
-TEST_F(UserVerbsCrash, AStartPutsBackThePreviousContentWhenTheFileIsMissing) {
+TEST_F(UserVerbsCrash, a_start_puts_back_the_previous_content_when_the_file_is_missing) {
   folder_.write("czas.DAT", lineOf("aimer"));
   restart(1);
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
   EXPECT_EQ(verbs(), lineOf("aimer"));
 }
 
-TEST_F(UserVerbsCrash, AStartWithCountZeroPutsNothingBack) {
+TEST_F(UserVerbsCrash, a_start_with_count_zero_puts_nothing_back) {
   folder_.write("Czas.dat", lineOf("aimer"));
   restart(0);
   EXPECT_EQ(folder_.names(), Texts{"Czas.dat"});
 }
 
-TEST_F(UserVerbsCrash, AStartLeavesAnExistingFileAlone) {
+TEST_F(UserVerbsCrash, a_start_leaves_an_existing_file_alone) {
   startWith(lineOf("aimer"), "older");
   restart(1);
   EXPECT_EQ(verbs(), lineOf("aimer"));
   EXPECT_EQ(folder_.read("Czas.dat"), "older");
 }
 
-TEST_F(UserVerbsCrash, AStartWithNothingToPutBackIsSilent) {
+TEST_F(UserVerbsCrash, a_start_with_nothing_to_put_back_is_silent) {
   restart(5);
   EXPECT_EQ(folder_.names(), Texts{});
   EXPECT_EQ(messages_.texts, Texts{});
 }
 
-TEST_F(UserVerbsCrash, AStartThatCannotPutBackSaysSo) {
+TEST_F(UserVerbsCrash, a_start_that_cannot_put_back_says_so) {
   folder_.write("Czas.dat", lineOf("aimer"));
   FaultyFiles files(0);
   UserVerbsFile(folder_.prefix(), 1, messages_, files).recoverAfterCrash();
@@ -212,7 +212,7 @@ TEST_F(UserVerbsCrash, AStartThatCannotPutBackSaysSo) {
   EXPECT_EQ(folder_.names(), Texts{"Czas.dat"});
 }
 
-TEST_F(UserVerbsCrash, ACountOneTooSmallAfterACrashIgnoresTheLastVerbThatTheListShows) {
+TEST_F(UserVerbsCrash, a_count_one_too_small_after_a_crash_ignores_the_last_verb_that_the_list_shows) {
   UserVerbsFile crashed(folder_.prefix(), 0, messages_);
   crashed.save(verb("aimer"));
   crashed.save(verb("finir"));
@@ -224,7 +224,7 @@ TEST_F(UserVerbsCrash, ACountOneTooSmallAfterACrashIgnoresTheLastVerbThatTheList
   EXPECT_EQ(restarted.infinitives(), (Texts{"aimer", "finir"}));
 }
 
-TEST_F(UserVerbsCrash, ACountOneTooLargeAfterACrashFindsEveryVerb) {
+TEST_F(UserVerbsCrash, a_count_one_too_large_after_a_crash_finds_every_verb) {
   startWith(linesOf({"aimer", "finir"}), {});
   UserVerbsFile(folder_.prefix(), 2, messages_).remove("aimer");
   UserVerbsFile restarted(folder_.prefix(), 2, messages_);

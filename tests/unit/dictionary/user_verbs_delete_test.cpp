@@ -25,7 +25,7 @@ class UserVerbsDelete : public ::testing::Test {
   RecordedMessages messages_;
 };
 
-TEST_F(UserVerbsDelete, RemovesTheVerbAndLeavesThePreviousContentBehind) {
+TEST_F(UserVerbsDelete, removes_the_verb_and_leaves_the_previous_content_behind) {
   const std::string before = linesOf({"aimer", "finir", "rendre"});
   writeVerbs(before);
   UserVerbsFile verbs = open(3);
@@ -36,7 +36,7 @@ TEST_F(UserVerbsDelete, RemovesTheVerbAndLeavesThePreviousContentBehind) {
   EXPECT_EQ(folder_.names(), (Texts{"Czas.dat", "Czasowniki.dat"}));
 }
 
-TEST_F(UserVerbsDelete, AVerbThatOccursTwiceLosesBothLinesAndLowersTheCountOnce) {
+TEST_F(UserVerbsDelete, a_verb_that_occurs_twice_loses_both_lines_and_lowers_the_count_once) {
   writeVerbs(linesOf({"aimer", "finir", "aimer"}));
   UserVerbsFile verbs = open(3);
   EXPECT_EQ(verbs.remove("aimer"), DeleteResult::deleted);
@@ -44,7 +44,7 @@ TEST_F(UserVerbsDelete, AVerbThatOccursTwiceLosesBothLinesAndLowersTheCountOnce)
   EXPECT_EQ(this->verbs(), lineOf("finir"));
 }
 
-TEST_F(UserVerbsDelete, GoesByTheFilesEndWhateverTheCount) {
+TEST_F(UserVerbsDelete, goes_by_the_files_end_whatever_the_count) {
   for (const std::int32_t count : {0, 1, 2, 3, 7}) {
     writeVerbs(linesOf({"aimer", "finir", "rendre"}));
     UserVerbsFile verbs = open(count);
@@ -55,13 +55,13 @@ TEST_F(UserVerbsDelete, GoesByTheFilesEndWhateverTheCount) {
   }
 }
 
-TEST_F(UserVerbsDelete, OfTheLastVerbLeavesAnEmptyFile) {
+TEST_F(UserVerbsDelete, of_the_last_verb_leaves_an_empty_file) {
   writeVerbs(lineOf("aimer"));
   EXPECT_EQ(open(1).remove("aimer"), DeleteResult::deleted);
   EXPECT_EQ(verbs(), "");
 }
 
-TEST_F(UserVerbsDelete, ThatFindsNoRecordChangesNothing) {
+TEST_F(UserVerbsDelete, that_finds_no_record_changes_nothing) {
   const std::string before = "\"quoted\"\n" + lineOf("aimer");
   writeVerbs(before);
   folder_.write("Czas.dat", "older");
@@ -72,14 +72,14 @@ TEST_F(UserVerbsDelete, ThatFindsNoRecordChangesNothing) {
   EXPECT_EQ(folder_.read("Czas.dat"), "older");
 }
 
-TEST_F(UserVerbsDelete, WithoutAFileFindsNothing) {
+TEST_F(UserVerbsDelete, without_a_file_finds_nothing) {
   UserVerbsFile verbs = open(1);
   EXPECT_EQ(verbs.remove("aimer"), DeleteResult::notFound);
   EXPECT_EQ(folder_.names(), Texts{});
   EXPECT_EQ(messages_.texts, Texts{});
 }
 
-TEST_F(UserVerbsDelete, ReplacesThePreviousContentOfAnEarlierDelete) {
+TEST_F(UserVerbsDelete, replaces_the_previous_content_of_an_earlier_delete) {
   writeVerbs(linesOf({"aimer", "finir", "rendre"}));
   UserVerbsFile verbs = open(3);
   verbs.remove("aimer");
@@ -88,14 +88,14 @@ TEST_F(UserVerbsDelete, ReplacesThePreviousContentOfAnEarlierDelete) {
   EXPECT_EQ(this->verbs(), lineOf("rendre"));
 }
 
-TEST_F(UserVerbsDelete, CopiesDamagedLinesByteForByte) {
+TEST_F(UserVerbsDelete, copies_damaged_lines_byte_for_byte) {
   writeVerbs("rubbish\n" + linesOf({"aimer", "finir"}) + "more rubbish");
   EXPECT_EQ(open(4).remove("aimer"), DeleteResult::deleted);
   EXPECT_EQ(verbs(), "rubbish\n" + lineOf("finir") + "more rubbish");
   EXPECT_EQ(messages_.texts, Texts{"Plik czasowników użytkownika jest uszkodzony (czasownik 1)."});
 }
 
-TEST_F(UserVerbsDelete, FailsBeforeAnythingChangesWhenThePreviousContentHasNoPlace) {
+TEST_F(UserVerbsDelete, fails_before_anything_changes_when_the_previous_content_has_no_place) {
   const std::string before = linesOf({"aimer", "finir"});
   writeVerbs(before);
   fs::create_directories(folder_.path() / "Czas.dat" / "full");

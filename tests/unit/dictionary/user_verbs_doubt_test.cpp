@@ -36,7 +36,7 @@ class UserVerbsInDoubt : public ::testing::Test {
   FaultyFiles files_{kNoFaultySteps};
 };
 
-TEST_F(UserVerbsInDoubt, ASaveReplacesNothingThatItCouldNotLookAt) {
+TEST_F(UserVerbsInDoubt, a_save_replaces_nothing_that_it_could_not_look_at) {
   const std::string before = linesOf({"aimer", "finir"});
   for (const char* question : kQuestions)
     for (const int times : {1, 2, 100}) {
@@ -51,7 +51,7 @@ TEST_F(UserVerbsInDoubt, ASaveReplacesNothingThatItCouldNotLookAt) {
     }
 }
 
-TEST_F(UserVerbsInDoubt, ASaveMakesNoSecondFileBesideOneOfAnotherSpelling) {
+TEST_F(UserVerbsInDoubt, a_save_makes_no_second_file_beside_one_of_another_spelling) {
   write("CZASOWNIKI.DAT", lineOf("aimer"));
   files_.leaveUnanswered("names", 1);
   EXPECT_EQ(open(1).save(verb("finir")), SaveResult::failed);
@@ -60,14 +60,14 @@ TEST_F(UserVerbsInDoubt, ASaveMakesNoSecondFileBesideOneOfAnotherSpelling) {
   EXPECT_EQ(folder_.read("CZASOWNIKI.DAT"), lineOf("aimer"));
 }
 
-TEST_F(UserVerbsInDoubt, AFileThatCannotBeLookedForIsUnreadableAndNotMissing) {
+TEST_F(UserVerbsInDoubt, a_file_that_cannot_be_looked_for_is_unreadable_and_not_missing) {
   write("Czasowniki.dat", lineOf("aimer"));
   files_.leaveUnanswered("presence", 100);
   EXPECT_EQ(open(1).infinitives(), Texts{});
   EXPECT_EQ(messages_.texts, Texts{kUnreadable});
 }
 
-TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatItCouldNotLookFor) {
+TEST_F(UserVerbsInDoubt, a_start_puts_nothing_back_over_a_file_that_it_could_not_look_for) {
   write("Czasowniki.dat", lineOf("aimer"));
   write("Czas.dat", "older");
   for (const char* question : {"presence", "names"}) {
@@ -79,7 +79,7 @@ TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatItCouldNotLookFor) {
   }
 }
 
-TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatHasComeMeanwhile) {
+TEST_F(UserVerbsInDoubt, a_start_puts_nothing_back_over_a_file_that_has_come_meanwhile) {
   write("Czas.dat", "older");
   files_.beforeMoving([this] { write("Czasowniki.dat", lineOf("aimer")); });
   open(1).recoverAfterCrash();
@@ -87,14 +87,14 @@ TEST_F(UserVerbsInDoubt, AStartPutsNothingBackOverAFileThatHasComeMeanwhile) {
   EXPECT_EQ(messages_.texts, Texts{kNotRestored});
 }
 
-TEST_F(UserVerbsInDoubt, AFirstSaveReplacesNoFileThatHasComeMeanwhile) {
+TEST_F(UserVerbsInDoubt, a_first_save_replaces_no_file_that_has_come_meanwhile) {
   files_.beforeMoving([this] { write("Czasowniki.dat", lineOf("aimer")); });
   EXPECT_EQ(open(0).save(verb("finir")), SaveResult::failed);
   EXPECT_EQ(verbs(), lineOf("aimer"));
   EXPECT_EQ(messages_.texts, Texts{kNotSaved});
 }
 
-TEST_F(UserVerbsInDoubt, SettingsThatCannotBeLookedForAreNotMissing) {
+TEST_F(UserVerbsInDoubt, settings_that_cannot_be_looked_for_are_not_missing) {
   write("WERBOLIN.CFG", settingsText({.userVerbCount = 7}));
   Settings settings;
   for (const char* question : {"presence", "names"}) {
@@ -107,7 +107,7 @@ TEST_F(UserVerbsInDoubt, SettingsThatCannotBeLookedForAreNotMissing) {
   EXPECT_EQ(folder_.names(), Texts{"WERBOLIN.CFG"});
 }
 
-TEST_F(UserVerbsInDoubt, WhatAKilledExitLeftOfTheSettingsGoesAtTheNextStart) {
+TEST_F(UserVerbsInDoubt, what_a_killed_exit_left_of_the_settings_goes_at_the_next_start) {
   write("Werbolin.cfg", settingsText({}));
   write("Werbolin.cfg.new", "half");
   removeUnfinishedSettings(folder_.prefix());
@@ -123,7 +123,7 @@ class TwoPrograms : public UserVerbsInDoubt {
   std::uint8_t storedAux_ = 0;
 };
 
-TEST_F(TwoPrograms, NoticeEachOthersSaves) {
+TEST_F(TwoPrograms, notice_each_others_saves) {
   UserVerbsFile first = open(0), second = open(0);
   first.recoverAfterCrash();
   second.recoverAfterCrash();
@@ -138,7 +138,7 @@ TEST_F(TwoPrograms, NoticeEachOthersSaves) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(TwoPrograms, NoticeEachOthersDeletes) {
+TEST_F(TwoPrograms, notice_each_others_deletes) {
   write("Czasowniki.dat", linesOf({"aimer", "finir"}));
   UserVerbsFile first = open(2), second = open(2);
   first.recoverAfterCrash();
@@ -165,7 +165,7 @@ class ActingInput final : public InputFile {
   std::function<void()>& act_;
 };
 
-TEST_F(TwoPrograms, AChangeBetweenReadingAndSwappingIsReadAnewAndMerged) {
+TEST_F(TwoPrograms, a_change_between_reading_and_swapping_is_read_anew_and_merged) {
   write("Czasowniki.dat", lineOf("aimer"));
   std::function<void()> act = [this] { write("Czasowniki.dat", linesOf({"aimer", "finir"})); };
   files_.wrapInputs([&act](std::unique_ptr<InputFile> file) {
@@ -177,7 +177,7 @@ TEST_F(TwoPrograms, AChangeBetweenReadingAndSwappingIsReadAnewAndMerged) {
   EXPECT_EQ(verbs.count(), 3);
 }
 
-TEST_F(TwoPrograms, AFolderThatAnotherProgramKeepsIsNotWrittenTo) {
+TEST_F(TwoPrograms, a_folder_that_another_program_keeps_is_not_written_to) {
   write("Czasowniki.dat", lineOf("aimer"));
   files_.leaveUnanswered("lock", 1);
   EXPECT_EQ(open(1).save(verb("finir")), SaveResult::failed);

@@ -39,14 +39,14 @@ class UserVerbsInTheDriver : public ::testing::Test {
   engine::Conjugation conjugation_;
 };
 
-TEST_F(UserVerbsInTheDriver, AUserVerbWinsOverTheBuiltInOne) {
+TEST_F(UserVerbsInTheDriver, a_user_verb_wins_over_the_built_in_one) {
   EXPECT_EQ(slot("avoir", 0), "ai");
   verbs_.save(verb("avoir", {{0, "hai"}}));
   EXPECT_EQ(slot("avoir", 0), "hai");
   EXPECT_EQ(conjugation_.source, engine::Source::user);
 }
 
-TEST_F(UserVerbsInTheDriver, AParticipleWithACommaSpoilsNeitherRulesNorTheNextVerb) {
+TEST_F(UserVerbsInTheDriver, a_participle_with_a_comma_spoils_neither_rules_nor_the_next_verb) {
   verbs_.save(verb("devoir", {{0, "dois"}, {24, "*"}, {99, "dû, due"}, {100, "ayant dû"}}));
   verbs_.save(verb("tartempionner", {{0, "tartempionne"}, {99, "tartempionné"}}));
   EXPECT_EQ(slot("parler", 0), "parle");
@@ -55,7 +55,7 @@ TEST_F(UserVerbsInTheDriver, AParticipleWithACommaSpoilsNeitherRulesNorTheNextVe
   EXPECT_EQ(slot("devoir", 24), "ai dû");
 }
 
-TEST_F(UserVerbsInTheDriver, ADeletedVerbIsConjugatedByRuleAgain) {
+TEST_F(UserVerbsInTheDriver, a_deleted_verb_is_conjugated_by_rule_again) {
   verbs_.save(verb("parler", {{0, "parloue"}}));
   EXPECT_EQ(slot("parler", 0), "parloue");
   verbs_.remove("parler");

@@ -28,7 +28,7 @@ class UserVerbsSave : public ::testing::Test {
   RecordedMessages messages_;
 };
 
-TEST_F(UserVerbsSave, CreatesTheFile) {
+TEST_F(UserVerbsSave, creates_the_file) {
   UserVerbsFile verbs = open(0);
   EXPECT_EQ(verbs.save(verb("aimer")), SaveResult::appended);
   EXPECT_EQ(verbs.count(), 1);
@@ -36,7 +36,7 @@ TEST_F(UserVerbsSave, CreatesTheFile) {
   EXPECT_EQ(this->verbs(), lineOf("aimer"));
 }
 
-TEST_F(UserVerbsSave, AppendsANewVerbAndCountsIt) {
+TEST_F(UserVerbsSave, appends_a_new_verb_and_counts_it) {
   writeVerbs(linesOf({"aimer", "finir"}));
   UserVerbsFile verbs = open(2);
   EXPECT_EQ(verbs.save(verb("rendre")), SaveResult::appended);
@@ -44,7 +44,7 @@ TEST_F(UserVerbsSave, AppendsANewVerbAndCountsIt) {
   EXPECT_EQ(this->verbs(), linesOf({"aimer", "finir", "rendre"}));
 }
 
-TEST_F(UserVerbsSave, ReplacesAKnownVerbInPlace) {
+TEST_F(UserVerbsSave, replaces_a_known_verb_in_place) {
   writeVerbs(linesOf({"aimer", "finir", "rendre"}));
   UserVerbsFile verbs = open(3);
   EXPECT_EQ(verbs.save(verb("finir", {{0, "finis"}})), SaveResult::replaced);
@@ -53,7 +53,7 @@ TEST_F(UserVerbsSave, ReplacesAKnownVerbInPlace) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsSave, TwiceWithoutChangeGivesTheSameFileAndCount) {
+TEST_F(UserVerbsSave, twice_without_change_gives_the_same_file_and_count) {
   UserVerbsFile verbs = open(0);
   verbs.save(verb("aimer"));
   const std::string once = this->verbs();
@@ -62,21 +62,21 @@ TEST_F(UserVerbsSave, TwiceWithoutChangeGivesTheSameFileAndCount) {
   EXPECT_EQ(verbs.count(), 1);
 }
 
-TEST_F(UserVerbsSave, ReplacesEveryRecordOfTheVerb) {
+TEST_F(UserVerbsSave, replaces_every_record_of_the_verb) {
   writeVerbs(linesOf({"aimer", "finir", "aimer"}));
   open(3).save(verb("aimer", {{0, "aime"}}));
   const std::string aimer = lineOf("aimer", {{0, "aime"}});
   EXPECT_EQ(verbs(), aimer + lineOf("finir") + aimer);
 }
 
-TEST_F(UserVerbsSave, TakesInfinitivesThatDifferByCapitalsForOneVerb) {
+TEST_F(UserVerbsSave, takes_infinitives_that_differ_by_capitals_for_one_verb) {
   writeVerbs(linesOf({"Aimer", "se laver"}));
   EXPECT_EQ(open(2).save(verb(" Aimer ")), SaveResult::replaced);
   EXPECT_EQ(open(2).save(verb("aimer")), SaveResult::replaced);
   EXPECT_EQ(verbs(), linesOf({"aimer", "se laver"}));
 }
 
-TEST_F(UserVerbsSave, TakesAVerbWithAndWithoutPrefixForTwo) {
+TEST_F(UserVerbsSave, takes_a_verb_with_and_without_prefix_for_two) {
   writeVerbs(linesOf({"se laver"}));
   EXPECT_EQ(open(1).save(verb("laver")), SaveResult::appended);
   EXPECT_EQ(verbs(), linesOf({"se laver", "laver"}));
@@ -87,14 +87,14 @@ std::string lineWith(std::string_view infinitive) {
   return std::string(96, ',') + french(infinitive) + std::string(5, ',') + " 1\r\n";
 }
 
-TEST_F(UserVerbsSave, WritesAReflexivePrefixInLowerCaseAndItsApostropheAsTheStraightOne) {
+TEST_F(UserVerbsSave, writes_a_reflexive_prefix_in_lower_case_and_its_apostrophe_as_the_straight_one) {
   UserVerbsFile verbs = open(0);
   verbs.save(verb(" Se zyzer "));
   verbs.save(verb("S’Habiller"));
   EXPECT_EQ(this->verbs(), lineWith("se zyzer") + lineWith("s'Habiller"));
 }
 
-TEST_F(UserVerbsSave, HoweverThePrefixIsTypedThereIsOneRecord) {
+TEST_F(UserVerbsSave, however_the_prefix_is_typed_there_is_one_record) {
   writeVerbs(lineWith("Se zyzer"));
   UserVerbsFile verbs = open(1);
   for (const char* typed : {"se zyzer", "SE zyzer", "Se Zyzer", "se zyzer"})
@@ -103,27 +103,27 @@ TEST_F(UserVerbsSave, HoweverThePrefixIsTypedThereIsOneRecord) {
   EXPECT_EQ(verbs.count(), 1);
 }
 
-TEST_F(UserVerbsSave, WritesCopiedRecordsInTheWritersFormat) {
+TEST_F(UserVerbsSave, writes_copied_records_in_the_writers_format) {
   const std::string foreign = "\"a\" , b" + std::string(95, ',') + "finir" + std::string(5, ',');
   writeVerbs(foreign + "1\n");
   open(1).save(verb("aimer"));
   EXPECT_EQ(verbs(), lineOf("finir", {{0, "a"}, {1, "b"}}) + lineOf("aimer"));
 }
 
-TEST_F(UserVerbsSave, RemovesThePreviousContentThatADeleteLeft) {
+TEST_F(UserVerbsSave, removes_the_previous_content_that_a_delete_left) {
   writeVerbs(lineOf("aimer"));
   folder_.write("CZAS.DAT", "old");
   open(1).save(verb("finir"));
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsSave, KeepsTheSpellingOfTheFileThatIsThere) {
+TEST_F(UserVerbsSave, keeps_the_spelling_of_the_file_that_is_there) {
   folder_.write("czasowniki.DAT", lineOf("aimer"));
   open(1).save(verb("finir"));
   EXPECT_EQ(folder_.names(), Texts{"czasowniki.DAT"});
 }
 
-TEST_F(UserVerbsSave, WithACountTooSmallDropsTheRestAndKeepsTheFileAsItWas) {
+TEST_F(UserVerbsSave, with_a_count_too_small_drops_the_rest_and_keeps_the_file_as_it_was) {
   const std::string before = linesOf({"aimer", "finir", "rendre"});
   writeVerbs(before);
   UserVerbsFile verbs = open(2);
@@ -133,7 +133,7 @@ TEST_F(UserVerbsSave, WithACountTooSmallDropsTheRestAndKeepsTheFileAsItWas) {
   EXPECT_EQ(folder_.read("Czasowniki.bak"), before);
 }
 
-TEST_F(UserVerbsSave, WithCountZeroCopiesNoOldRecordAndKeepsTheFileAsItWas) {
+TEST_F(UserVerbsSave, with_count_zero_copies_no_old_record_and_keeps_the_file_as_it_was) {
   writeVerbs(linesOf({"aimer", "finir"}));
   UserVerbsFile verbs = open(0);
   EXPECT_EQ(verbs.save(verb("aimer")), SaveResult::appended);
@@ -142,7 +142,7 @@ TEST_F(UserVerbsSave, WithCountZeroCopiesNoOldRecordAndKeepsTheFileAsItWas) {
   EXPECT_EQ(folder_.read("Czasowniki.bak"), linesOf({"aimer", "finir"}));
 }
 
-TEST_F(UserVerbsSave, NeverOverwritesAnEarlierCopy) {
+TEST_F(UserVerbsSave, never_overwrites_an_earlier_copy) {
   writeVerbs(linesOf({"aimer", "finir"}));
   folder_.write("czasowniki.BAK", "first");
   folder_.write("Czasowniki.bak2", "second");
@@ -152,7 +152,7 @@ TEST_F(UserVerbsSave, NeverOverwritesAnEarlierCopy) {
   EXPECT_EQ(folder_.read("Czasowniki.bak3"), linesOf({"aimer", "finir"}));
 }
 
-TEST_F(UserVerbsSave, WithACountTooLargeCopiesWhatThereIs) {
+TEST_F(UserVerbsSave, with_a_count_too_large_copies_what_there_is) {
   writeVerbs(linesOf({"aimer", "finir"}));
   UserVerbsFile verbs = open(3);
   EXPECT_EQ(verbs.save(verb("courir")), SaveResult::appended);
@@ -162,7 +162,7 @@ TEST_F(UserVerbsSave, WithACountTooLargeCopiesWhatThereIs) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsSave, AtEveryCountLosesNothing) {
+TEST_F(UserVerbsSave, at_every_count_loses_nothing) {
   const std::vector<std::string_view> all{"aimer", "finir", "rendre"};
   for (std::int32_t count = 0; count <= 5; ++count) {
     writeVerbs(linesOf(all));
@@ -177,19 +177,19 @@ TEST_F(UserVerbsSave, AtEveryCountLosesNothing) {
   }
 }
 
-TEST_F(UserVerbsSave, TheCountStaysAtItsLargestValue) {
+TEST_F(UserVerbsSave, the_count_stays_at_its_largest_value) {
   UserVerbsFile verbs = open(2'147'483'647);
   EXPECT_EQ(verbs.save(verb("aimer")), SaveResult::appended);
   EXPECT_EQ(verbs.count(), 2'147'483'647);
 }
 
-TEST_F(UserVerbsSave, ANegativeCountIsNone) {
+TEST_F(UserVerbsSave, a_negative_count_is_none) {
   UserVerbsFile verbs = open(-7);
   verbs.save(verb("aimer"));
   EXPECT_EQ(verbs.count(), 1);
 }
 
-TEST_F(UserVerbsSave, CopiesDamagedLinesByteForByte) {
+TEST_F(UserVerbsSave, copies_damaged_lines_byte_for_byte) {
   const std::string damaged = " \"rub , bish\" ,\0 \x81\n";
   writeVerbs(lineOf("aimer") + damaged + "\r" + lineOf("finir"));
   open(4).save(verb("courir"));
@@ -197,20 +197,20 @@ TEST_F(UserVerbsSave, CopiesDamagedLinesByteForByte) {
   EXPECT_EQ(messages_.texts, Texts{"Plik czasowników użytkownika jest uszkodzony (czasownik 2)."});
 }
 
-TEST_F(UserVerbsSave, EndsADamagedLastLineBeforeItAppends) {
+TEST_F(UserVerbsSave, ends_a_damaged_last_line_before_it_appends) {
   writeVerbs(lineOf("aimer") + "rubbish");
   open(2).save(verb("courir"));
   EXPECT_EQ(verbs(), lineOf("aimer") + "rubbish\r\n" + lineOf("courir"));
 }
 
-TEST_F(UserVerbsSave, LeavesADamagedLastLineAsItIsWhenNothingFollows) {
+TEST_F(UserVerbsSave, leaves_a_damaged_last_line_as_it_is_when_nothing_follows) {
   writeVerbs(lineOf("aimer") + "rubbish");
   open(2).save(verb("aimer", {{0, "aime"}}));
   EXPECT_EQ(verbs(), lineOf("aimer", {{0, "aime"}}) + "rubbish");
 }
 
 // The lengths end with a piece that is read at once, in its middle, and behind it.
-TEST_F(UserVerbsSave, CopiesALineLongerThanOneMegabyteWhole) {
+TEST_F(UserVerbsSave, copies_a_line_longer_than_one_megabyte_whole) {
   for (const std::size_t length : {17 * 65'536 - 1, 17 * 65'536, 17 * 65'536 + 1, 5'000'000}) {
     const std::string damaged(length, 'x');
     writeVerbs(damaged + "\r\n" + lineOf("aimer") + damaged);
@@ -220,7 +220,7 @@ TEST_F(UserVerbsSave, CopiesALineLongerThanOneMegabyteWhole) {
   }
 }
 
-TEST_F(UserVerbsSave, DevoirWithACommaInItsParticipleSpoilsNoOtherVerb) {
+TEST_F(UserVerbsSave, devoir_with_a_comma_in_its_participle_spoils_no_other_verb) {
   UserVerbsFile verbs = open(0);
   verbs.save(verb("devoir", {{0, "dois"}, {99, "dû, due"}, {100, "ayant dû"}}));
   verbs.save(verb("parler", {{0, "parle"}, {100, "ayant parlé"}}));

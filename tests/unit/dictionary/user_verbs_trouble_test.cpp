@@ -58,7 +58,7 @@ class UserVerbsTrouble : public ::testing::Test {
   RecordedMessages messages_;
 };
 
-TEST_F(UserVerbsTrouble, AReadOnlyFolderKeepsItsFileAndTheUserIsTold) {
+TEST_F(UserVerbsTrouble, a_read_only_folder_keeps_its_file_and_the_user_is_told) {
   const std::string before = linesOf({"aimer", "finir"});
   writeVerbs(before);
   fs::permissions(folder_.path(), fs::perms(0555));
@@ -68,7 +68,7 @@ TEST_F(UserVerbsTrouble, AReadOnlyFolderKeepsItsFileAndTheUserIsTold) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsTrouble, AReadOnlyFileIsKeptAndTheUserIsTold) {
+TEST_F(UserVerbsTrouble, a_read_only_file_is_kept_and_the_user_is_told) {
   const std::string before = linesOf({"aimer", "finir"});
   writeVerbs(before);
   fs::permissions(folder_.path(), fs::perms(0777));
@@ -78,7 +78,7 @@ TEST_F(UserVerbsTrouble, AReadOnlyFileIsKeptAndTheUserIsTold) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsTrouble, AFileWithoutRightToReadIsReportedAndNeverReplaced) {
+TEST_F(UserVerbsTrouble, a_file_without_right_to_read_is_reported_and_never_replaced) {
   const std::string before = linesOf({"aimer", "finir"});
   writeVerbs(before);
   fs::permissions(folder_.path(), fs::perms(0777));
@@ -97,7 +97,7 @@ TEST_F(UserVerbsTrouble, AFileWithoutRightToReadIsReportedAndNeverReplaced) {
   EXPECT_EQ(folder_.read("Czasowniki.dat"), before);
 }
 
-TEST_F(UserVerbsTrouble, AFullDiskKeepsTheOldFileAndTheUserIsTold) {
+TEST_F(UserVerbsTrouble, a_full_disk_keeps_the_old_file_and_the_user_is_told) {
   const std::string before = linesOf({"aimer", "finir"});
   writeVerbs(before);
   EXPECT_TRUE(holdsInChild([&] {
@@ -108,33 +108,33 @@ TEST_F(UserVerbsTrouble, AFullDiskKeepsTheOldFileAndTheUserIsTold) {
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsTrouble, AMissingFolderIsReportedByASave) {
+TEST_F(UserVerbsTrouble, a_missing_folder_is_reported_by_a_save) {
   UserVerbsFile verbs(folder_.prefix() + "none/", 0, messages_);
   EXPECT_EQ(verbs.save(verb("aimer")), SaveResult::failed);
   EXPECT_EQ(verbs.count(), 0);
   EXPECT_EQ(messages_.texts, Texts{kNotSaved});
 }
 
-TEST_F(UserVerbsTrouble, ADirectoryInThePlaceOfTheNewFileIsNoObstacle) {
+TEST_F(UserVerbsTrouble, a_directory_in_the_place_of_the_new_file_is_no_obstacle) {
   fs::create_directory(folder_.path() / "Czasowniki.dat.new");
   EXPECT_EQ(open(0).save(verb("aimer")), SaveResult::appended);
   EXPECT_EQ(folder_.read("Czasowniki.dat"), lineOf("aimer"));
 }
 
-TEST_F(UserVerbsTrouble, ADirectoryInThePlaceOfTheFileIsReportedByASave) {
+TEST_F(UserVerbsTrouble, a_directory_in_the_place_of_the_file_is_reported_by_a_save) {
   fs::create_directory(folder_.path() / "Czasowniki.dat");
   EXPECT_EQ(open(0).save(verb("aimer")), SaveResult::failed);
   EXPECT_EQ(messages_.texts, Texts{kNotSaved});
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsTrouble, APipeInThePlaceOfTheFileIsNotWaitedFor) {
+TEST_F(UserVerbsTrouble, a_pipe_in_the_place_of_the_file_is_not_waited_for) {
   ASSERT_EQ(::mkfifo((folder_.path() / "Czasowniki.dat").c_str(), 0600), 0);
   EXPECT_EQ(open(1).infinitives(), Texts{});
   EXPECT_EQ(messages_.texts, Texts{"Nie można odczytać pliku czasowników użytkownika."});
 }
 
-TEST_F(UserVerbsTrouble, ALinkStaysALinkToTheFileThatIsRewritten) {
+TEST_F(UserVerbsTrouble, a_link_stays_a_link_to_the_file_that_is_rewritten) {
   const ProgramFolder elsewhere;
   const std::string before = linesOf({"aimer", "finir"});
   elsewhere.write("verbs", before);
@@ -145,7 +145,7 @@ TEST_F(UserVerbsTrouble, ALinkStaysALinkToTheFileThatIsRewritten) {
   EXPECT_EQ(folder_.read("Czas.dat"), before);
 }
 
-TEST_F(UserVerbsTrouble, TheNewFileHasThePermissionsOfTheOld) {
+TEST_F(UserVerbsTrouble, the_new_file_has_the_permissions_of_the_old) {
   writeVerbs(lineOf("aimer"));
   fs::permissions(folder_.path() / "Czasowniki.dat", fs::perms(0640));
   EXPECT_EQ(open(1).save(verb("finir")), SaveResult::appended);
@@ -164,7 +164,7 @@ bool takesLittleMemory(UserVerbsFile& verbs) {
   return !isFound && after.ru_maxrss - before.ru_maxrss < kLimit;
 }
 
-TEST_F(UserVerbsTrouble, AGigabyteWithoutLineEndIsDamageInLittleMemory) {
+TEST_F(UserVerbsTrouble, a_gigabyte_without_line_end_is_damage_in_little_memory) {
   constexpr std::uintmax_t kGigabyte = std::uintmax_t{1} << 30;
   writeVerbs("");
   fs::resize_file(folder_.path() / "Czasowniki.dat", kGigabyte);
@@ -176,7 +176,7 @@ TEST_F(UserVerbsTrouble, AGigabyteWithoutLineEndIsDamageInLittleMemory) {
 }
 
 // Copied, it would fill the disk.
-TEST_F(UserVerbsTrouble, FourGigabytesWithoutLineEndAreRefusedByASaveRatherThanCopied) {
+TEST_F(UserVerbsTrouble, four_gigabytes_without_line_end_are_refused_by_a_save_rather_than_copied) {
   constexpr std::uintmax_t kFourGigabytes = std::uintmax_t{1} << 32;
   writeVerbs("");
   fs::resize_file(folder_.path() / "Czasowniki.dat", kFourGigabytes);
@@ -185,7 +185,7 @@ TEST_F(UserVerbsTrouble, FourGigabytesWithoutLineEndAreRefusedByASaveRatherThanC
   EXPECT_EQ(folder_.names(), Texts{"Czasowniki.dat"});
 }
 
-TEST_F(UserVerbsTrouble, BinaryRubbishIsDamageInLittleMemory) {
+TEST_F(UserVerbsTrouble, binary_rubbish_is_damage_in_little_memory) {
   std::string rubbish(50'000'000, '\0');
   std::uint32_t state = 1;
   for (char& byte : rubbish) byte = static_cast<char>((state = state * 1664525 + 1013904223) >> 24);

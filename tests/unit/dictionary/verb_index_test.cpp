@@ -21,19 +21,19 @@ std::string completed(std::string_view prefix) {
   return engine::toUtf8(completion(french(prefix)));
 }
 
-TEST(VerbIndex, KnowsTheRecordOfAVerb) {
+TEST(verb_index, knows_the_record_of_a_verb) {
   EXPECT_EQ(record("laver"), "|1|1|2|1");
   EXPECT_EQ(record("être"), "|3|2|1|1");
   EXPECT_EQ(record("œuvrer"), "|1|2|1|1");
 }
 
-TEST(VerbIndex, KnowsNothingOfAnythingElse) {
+TEST(verb_index, knows_nothing_of_anything_else) {
   for (const char* text : {"", "lave", "Laver", "laver ", "se laver", "etre", "zzz", "resetuj"})
     EXPECT_EQ(record(text), "") << text;
   EXPECT_EQ(record(std::string(10'000, 'a')), "");
 }
 
-TEST(VerbIndex, Holds7342VerbsFiledUnderTheUnaccentedFirstLetter) {
+TEST(verb_index, holds_7342_verbs_filed_under_the_unaccented_first_letter) {
   constexpr int kCounts[] = {526, 329, 742, 1026, 818, 265, 202, 106, 215, 52, 7, 132, 307,
                              70,  97,  526, 22,   942, 450, 314, 16,  152, 1,  0, 4,   21};
   int sum = 0;
@@ -45,12 +45,12 @@ TEST(VerbIndex, Holds7342VerbsFiledUnderTheUnaccentedFirstLetter) {
   EXPECT_EQ(verbCount(), 7342);
 }
 
-TEST(VerbIndex, HasNoVerbsUnderAnotherCharacter) {
+TEST(verb_index, has_no_verbs_under_another_character) {
   for (const char letter : {'A', ' ', '\0', '`', '{', '\xE9', '\x9C'})
     EXPECT_EQ(verbCount(letter), 0);
 }
 
-TEST(VerbIndex, FilesTheLigatureUnderO) {
+TEST(verb_index, files_the_ligature_under_o) {
   std::vector<std::string> found;
   for (int k = 1; k <= verbCount('o'); ++k)
     if (verbOfLetter('o', k).starts_with('\x9C'))
@@ -58,13 +58,13 @@ TEST(VerbIndex, FilesTheLigatureUnderO) {
   EXPECT_EQ(found, (std::vector<std::string>{"œilletonner", "œuvrer"}));
 }
 
-TEST(VerbIndex, FilesAccentedLettersAmongTheOthers) {
+TEST(verb_index, files_accented_letters_among_the_others) {
   int accented = 0;
   for (int k = 1; k <= verbCount('e'); ++k) accented += !verbOfLetter('e', k).starts_with('e');
   EXPECT_GT(accented, 100);
 }
 
-TEST(VerbIndex, TheLettersVerbsInARowAreTheWholeIndex) {
+TEST(verb_index, the_letters_verbs_in_a_row_are_the_whole_index) {
   int position = 0;
   for (char letter = 'a'; letter <= 'z'; ++letter)
     for (int k = 1; k <= verbCount(letter); ++k, ++position)
@@ -74,25 +74,25 @@ TEST(VerbIndex, TheLettersVerbsInARowAreTheWholeIndex) {
   EXPECT_EQ(verbAt(7341), "zyeuter");
 }
 
-TEST(VerbIndex, EveryVerbHasARecordOfItsOwnName) {
+TEST(verb_index, every_verb_has_a_record_of_its_own_name) {
   GeneralVerbIndex index;
   for (int position = 0; position < verbCount(); ++position)
     ASSERT_GE(index.record(verbAt(position)).size(), 8U) << position;
 }
 
-TEST(VerbIndex, CompletesToTheVerbItself) {
+TEST(verb_index, completes_to_the_verb_itself) {
   EXPECT_EQ(completed("parler"), "parler");
   EXPECT_EQ(completed("être"), "être");
 }
 
-TEST(VerbIndex, CompletesToTheFirstVerbInItsOrder) {
+TEST(verb_index, completes_to_the_first_verb_in_its_order) {
   EXPECT_EQ(completed("all"), "allaiter");
   EXPECT_EQ(completed("parl"), "parlementer");
   EXPECT_EQ(completed("é"), "ébahir");
   EXPECT_EQ(completed("œ"), "œilletonner");
 }
 
-TEST(VerbIndex, CompletesNothingThatNoVerbBeginsWith) {
+TEST(verb_index, completes_nothing_that_no_verb_begins_with) {
   for (const char* prefix : {"", "etre", "oe", "Parl", " parl", "parlerait", "se "})
     EXPECT_EQ(completed(prefix), "") << prefix;
 }
@@ -110,7 +110,7 @@ class SpecialVerbs : public ::testing::TestWithParam<const char*> {
   }
 };
 
-TEST_P(SpecialVerbs, HaveTheirRecords) {
+TEST_P(SpecialVerbs, have_their_records) {
   const auto verbs = lines(GetParam());
   ASSERT_GE(verbs.size(), 17U);
   for (const std::string& line : verbs) {
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(Lists, SpecialVerbs,
                                            "impersonal", "pronominal"),
                          [](const auto& list) { return std::string(list.param); });
 
-TEST_F(SpecialVerbs, WithAMuteHHaveNoMark) {
+TEST_F(SpecialVerbs, with_a_mute_h_have_no_mark) {
   const auto verbs = lines("h_muet");
   ASSERT_EQ(verbs.size(), 50U);
   for (const std::string& verb : verbs) EXPECT_TRUE(record(verb).starts_with('|')) << verb;

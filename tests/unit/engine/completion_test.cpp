@@ -23,20 +23,20 @@ FormTable storedPrendre() {
   return forms;
 }
 
-TEST(Completion, FillsEveryPlaceholder) {
+TEST(completion, fills_every_placeholder) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_NE(forms[slot], "*") << slot;
 }
 
-TEST(Completion, TakesTheImperfectFromNous) {
+TEST(completion, takes_the_imperfect_from_nous) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[6], "prenais");
   EXPECT_EQ(forms[11], "prenaient");
 }
 
-TEST(Completion, DropsTheFinalEOfTheInfinitiveInTheFuture) {
+TEST(completion, drops_the_final_e_of_the_infinitive_in_the_future) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[18], "prendrai");
@@ -46,13 +46,13 @@ TEST(Completion, DropsTheFinalEOfTheInfinitiveInTheFuture) {
   EXPECT_EQ(forms[18], "partirai");
 }
 
-TEST(Completion, DerivesTheConditionalFromTheCompletedFuture) {
+TEST(completion, derives_the_conditional_from_the_completed_future) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[77], "prendraient");
 }
 
-TEST(Completion, DerivesTheSubjunctiveFromTheCompletedImperfect) {
+TEST(completion, derives_the_subjunctive_from_the_completed_imperfect) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[48], "prenne");
@@ -60,7 +60,7 @@ TEST(Completion, DerivesTheSubjunctiveFromTheCompletedImperfect) {
   EXPECT_EQ(forms[52], "preniez");
 }
 
-TEST(Completion, DerivesTheImperfectSubjunctiveFromTheCompletedPastHistoric) {
+TEST(completion, derives_the_imperfect_subjunctive_from_the_completed_past_historic) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[12], "prendis");
@@ -68,7 +68,7 @@ TEST(Completion, DerivesTheImperfectSubjunctiveFromTheCompletedPastHistoric) {
   EXPECT_EQ(toUtf8(forms[56]), "prendît");
 }
 
-TEST(Completion, DerivesImperativeAndPresentParticiple) {
+TEST(completion, derives_imperative_and_present_participle) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[90], "prends");
@@ -76,14 +76,14 @@ TEST(Completion, DerivesImperativeAndPresentParticiple) {
   EXPECT_EQ(forms[98], "prenant");
 }
 
-TEST(Completion, TakesAEndingsForAnInfinitiveInEr) {
+TEST(completion, takes_a_endings_for_an_infinitive_in_er) {
   FormTable forms = storedPrendre();
   forms[slot::kInfinitive] = "parler";
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[12], "parlai");
 }
 
-TEST(Completion, ATextInSlotSixKeepsTheWholeImperfect) {
+TEST(completion, a_text_in_slot_six_keeps_the_whole_imperfect) {
   FormTable forms = storedPrendre();
   forms[6] = "own";
   completeStoredVerb(forms, kAvoir);
@@ -91,7 +91,7 @@ TEST(Completion, ATextInSlotSixKeepsTheWholeImperfect) {
   for (int slot = 7; slot < 12; ++slot) EXPECT_EQ(forms[slot], "*") << slot;
 }
 
-TEST(Completion, OnlyTheFirstSlotOfATenseCounts) {
+TEST(completion, only_the_first_slot_of_a_tense_counts) {
   for (const int first : {6, 12, 18, 48, 54, 72}) {
     FormTable forms = storedPrendre();
     forms[first] = "own text";
@@ -100,7 +100,7 @@ TEST(Completion, OnlyTheFirstSlotOfATenseCounts) {
   }
 }
 
-TEST(Completion, APlaceholderInTheFirstSlotRewritesTheWholeTense) {
+TEST(completion, a_placeholder_in_the_first_slot_rewrites_the_whole_tense) {
   FormTable forms = storedPrendre();
   forms[7] = forms[8] = "own";
   completeStoredVerb(forms, kAvoir);
@@ -108,7 +108,7 @@ TEST(Completion, APlaceholderInTheFirstSlotRewritesTheWholeTense) {
   EXPECT_EQ(forms[8], "prenait");
 }
 
-TEST(Completion, AnOwnImperativeIsKept) {
+TEST(completion, an_own_imperative_is_kept) {
   FormTable forms = storedPrendre();
   forms[90] = "own";
   completeStoredVerb(forms, kAvoir);
@@ -116,7 +116,7 @@ TEST(Completion, AnOwnImperativeIsKept) {
   EXPECT_EQ(forms[91], "*");
 }
 
-TEST(Completion, CompoundSlotsAreLookedAtOneByOne) {
+TEST(completion, compound_slots_are_looked_at_one_by_one) {
   FormTable forms = storedPrendre();
   forms[24] = "own";
   forms[30] = "";
@@ -127,14 +127,14 @@ TEST(Completion, CompoundSlotsAreLookedAtOneByOne) {
   EXPECT_EQ(forms[31], "avais pris");
 }
 
-TEST(Completion, AlwaysReplacesAPlaceholderInSlots97And100) {
+TEST(completion, always_replaces_a_placeholder_in_slots_97_and_100) {
   FormTable forms = storedPrendre();
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[97], "avoir pris");
   EXPECT_EQ(forms[100], "ayant pris");
 }
 
-TEST(Completion, KeepsARealTextInSlots97And100) {
+TEST(completion, keeps_a_real_text_in_slots_97_and_100) {
   FormTable forms = storedPrendre();
   forms[97] = "own infinitive";
   forms[100] = "own participle";
@@ -143,7 +143,7 @@ TEST(Completion, KeepsARealTextInSlots97And100) {
   EXPECT_EQ(forms[100], "own participle");
 }
 
-TEST(Completion, WithoutAParticipleThePlaceholdersOfCompoundTensesStay) {
+TEST(completion, without_a_participle_the_placeholders_of_compound_tenses_stay) {
   FormTable forms = storedPrendre();
   forms[slot::kPastParticiple] = "";
   completeStoredVerb(forms, kAvoir);
@@ -151,7 +151,7 @@ TEST(Completion, WithoutAParticipleThePlaceholdersOfCompoundTensesStay) {
   EXPECT_EQ(forms[97], "*");
 }
 
-TEST(Completion, WithoutABaseThePlaceholderStays) {
+TEST(completion, without_a_base_the_placeholder_stays) {
   FormTable forms = storedPrendre();
   forms[3] = forms[5] = forms[12] = forms[18] = "";
   completeStoredVerb(forms, kAvoir);

@@ -33,7 +33,7 @@ void expectForms(const FormTable& forms, std::initializer_list<Row> rows) {
   for (const Row& row : rows) EXPECT_EQ(toUtf8(forms[row.slot]), row.text) << row.slot;
 }
 
-TEST(CompoundTenses, ParlerWithAvoir) {
+TEST(compound_tenses, parler_with_avoir) {
   expectForms(built("parlé", kAvoir), {{24, "ai parlé"},
                                        {27, "avons parlé"},
                                        {30, "avais parlé"},
@@ -54,11 +54,11 @@ TEST(CompoundTenses, ParlerWithAvoir) {
                                        {100, "ayant parlé"}});
 }
 
-TEST(CompoundTenses, IlsAurainetStandsInSlot83OfVerbsWithAvoir) {
+TEST(compound_tenses, ils_aurainet_stands_in_slot_83_of_verbs_with_avoir) {
   expectForms(built("parlé", kAvoir), {{83, "aurainet parlé"}});
 }
 
-TEST(CompoundTenses, AllerWithEtre) {
+TEST(compound_tenses, aller_with_etre) {
   expectForms(built("allé", kEtre), {{24, "suis allé(e)"},
                                      {26, "est allé(e)"},
                                      {27, "sommes allé(e)s"},
@@ -74,37 +74,37 @@ TEST(CompoundTenses, AllerWithEtre) {
                                      {100, "étant allé(e)"}});
 }
 
-TEST(CompoundTenses, ThePastImperativeHasNoPluralS) {
+TEST(compound_tenses, the_past_imperative_has_no_plural_s) {
   expectForms(built("allé", kEtre),
               {{93, "sois allé(e)"}, {94, "soyons allé(e)"}, {95, "soyez allé(e)"}});
 }
 
-TEST(CompoundTenses, WithAvoirNobodyTakesAnS) {
+TEST(compound_tenses, with_avoir_nobody_takes_an_s) {
   const FormTable forms = built("parlé", kAvoir);
   for (int slot = 0; slot < kSlotCount; ++slot)
     EXPECT_FALSE(forms[slot].ends_with("s")) << slot << toUtf8(forms[slot]);
 }
 
-TEST(CompoundTenses, AStoredMarkerIsNotDoubledWithEtre) {
+TEST(compound_tenses, a_stored_marker_is_not_doubled_with_etre) {
   expectForms(built("allé(e)", kEtre), {{24, "suis allé(e)"}, {29, "sont allé(e)s"}});
 }
 
-TEST(CompoundTenses, AStoredMarkerIsRemovedWithAvoir) {
+TEST(compound_tenses, a_stored_marker_is_removed_with_avoir) {
   expectForms(built("allé(e)", kAvoir), {{24, "ai allé"}, {97, "avoir allé"}});
 }
 
-TEST(CompoundTenses, OnlyTheFirstVariantOfTheParticipleIsUsed) {
+TEST(compound_tenses, only_the_first_variant_of_the_participle_is_used) {
   expectForms(built("béni/bénit", kAvoir), {{24, "ai béni"}});
   expectForms(built("dû, due", kAvoir), {{24, "ai dû"}});
   expectForms(built("sous; soute", kAvoir), {{24, "ai sous"}});
   expectForms(built("absous, absoute(e)", kEtre), {{24, "suis absous(e)"}});
 }
 
-TEST(CompoundTenses, WhatStandsBeforeTheSeparatorIsUsedAsItIs) {
+TEST(compound_tenses, what_stands_before_the_separator_is_used_as_it_is) {
   expectForms(built("béni / bénit", kAvoir), {{24, "ai béni "}});
 }
 
-TEST(CompoundTenses, WithoutAParticipleNothingIsWritten) {
+TEST(compound_tenses, without_a_participle_nothing_is_written) {
   for (const std::string_view participle : {"", "/béni", ",x", ";"}) {
     FormTable forms = withParticiple(participle);
     forms[24] = "kept";
@@ -114,7 +114,7 @@ TEST(CompoundTenses, WithoutAParticipleNothingIsWritten) {
   }
 }
 
-TEST(CompoundTenses, InPlaceholderModeOnlyPlaceholdersAreRewritten) {
+TEST(compound_tenses, in_placeholder_mode_only_placeholders_are_rewritten) {
   FormTable forms = withParticiple("parlé");
   forms[25] = "*";
   forms[26] = "own";
@@ -123,7 +123,7 @@ TEST(CompoundTenses, InPlaceholderModeOnlyPlaceholdersAreRewritten) {
   expectForms(forms, {{24, ""}, {25, "as parlé"}, {26, "own"}, {97, "avoir parlé"}, {100, ""}});
 }
 
-TEST(CompoundTenses, APlaceholderInSlot24MeansPlaceholdersOnly) {
+TEST(compound_tenses, a_placeholder_in_slot_24_means_placeholders_only) {
   FormTable forms = withParticiple("parlé");
   forms[24] = "*";
   forms[25] = "own";
@@ -131,7 +131,7 @@ TEST(CompoundTenses, APlaceholderInSlot24MeansPlaceholdersOnly) {
   expectForms(forms, {{24, "ai parlé"}, {25, "own"}, {26, ""}});
 }
 
-TEST(CompoundTenses, OnScreenAnEmptySlotStaysEmpty) {
+TEST(compound_tenses, on_screen_an_empty_slot_stays_empty) {
   FormTable forms = built("parlé", kAvoir);
   forms[25] = forms[93] = forms[100] = "";
   buildCompoundTenses(forms, kEtre, {.keepsEmptySlots = true});
@@ -139,11 +139,11 @@ TEST(CompoundTenses, OnScreenAnEmptySlotStaysEmpty) {
               {{24, "suis parlé(e)"}, {25, ""}, {93, ""}, {94, "soyons parlé(e)"}, {100, ""}});
 }
 
-TEST(CompoundTenses, WhileBeingBuiltAnEmptySlotIsFilled) {
+TEST(compound_tenses, while_being_built_an_empty_slot_is_filled) {
   EXPECT_EQ(toUtf8(built("parlé", kAvoir)[25]), "as parlé");
 }
 
-TEST(CompoundTenses, SimpleSlotsAreNotTouched) {
+TEST(compound_tenses, simple_slots_are_not_touched) {
   const FormTable forms = built("parlé", kAvoir);
   for (int slot = 0; slot < kSlotCount; ++slot) {
     const bool isCompound = (slot >= 24 && slot < 48) || (slot >= 60 && slot < 72) ||
@@ -153,7 +153,7 @@ TEST(CompoundTenses, SimpleSlotsAreNotTouched) {
   }
 }
 
-TEST(CompoundTenses, APlaceholderIsNoticedInEveryCompoundSlotAndNowhereElse) {
+TEST(compound_tenses, a_placeholder_is_noticed_in_every_compound_slot_and_nowhere_else) {
   const FormTable full = built("parlé", kAvoir);
   for (int slot = 0; slot < kSlotCount; ++slot) {
     FormTable forms;

@@ -21,7 +21,7 @@ struct Screen {
   }
 };
 
-TEST(Display, EveryBoxShowsItsSlot) {
+TEST(display, every_box_shows_its_slot) {
   Screen screen;
   for (int slot = 0; slot < kSlotCount; ++slot) screen.forms[slot] = "x" + std::to_string(slot);
   screen.show();
@@ -29,26 +29,26 @@ TEST(Display, EveryBoxShowsItsSlot) {
     EXPECT_EQ(screen.box(slot), "x" + std::to_string(slot));
 }
 
-TEST(Display, AnEmptySlotShowsTwoHyphensBetweenBlanks) {
+TEST(display, an_empty_slot_shows_two_hyphens_between_blanks) {
   Screen screen;
   screen.show();
   for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_EQ(screen.box(slot), " -- ") << slot;
 }
 
-TEST(Display, WhileEditingAnEmptySlotShowsNothing) {
+TEST(display, while_editing_an_empty_slot_shows_nothing) {
   Screen screen;
   screen.show(true);
   for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_EQ(screen.box(slot), "") << slot;
 }
 
-TEST(Display, APlaceholderIsShownAsItStands) {
+TEST(display, a_placeholder_is_shown_as_it_stands) {
   Screen screen;
   screen.forms[24] = "*";
   screen.show();
   EXPECT_EQ(screen.box(24), "*");
 }
 
-TEST(Display, AnImpersonalVerbKeepsIlFormsInfinitivesAndTheTwoParticiples) {
+TEST(display, an_impersonal_verb_keeps_il_forms_infinitives_and_the_two_participles) {
   Screen screen;
   for (int slot = 0; slot < kSlotCount; ++slot) screen.forms[slot] = "x";
   screen.flags.isImpersonal = true;
@@ -62,7 +62,7 @@ TEST(Display, AnImpersonalVerbKeepsIlFormsInfinitivesAndTheTwoParticiples) {
   }
 }
 
-TEST(Display, AnImpersonalVerbLosesSlot100AndTheVousOfTheImperative) {
+TEST(display, an_impersonal_verb_loses_slot_100_and_the_vous_of_the_imperative) {
   Screen screen;
   screen.forms[92] = screen.forms[100] = "x";
   screen.flags.isImpersonal = true;
@@ -71,7 +71,7 @@ TEST(Display, AnImpersonalVerbLosesSlot100AndTheVousOfTheImperative) {
   EXPECT_EQ(screen.forms[100], "");
 }
 
-TEST(Display, TakesAReflexivePrefixOffUnlessTheVerbIsPronominal) {
+TEST(display, takes_a_reflexive_prefix_off_unless_the_verb_is_pronominal) {
   Screen screen;
   screen.forms[2] = "se lave";
   screen.forms[96] = "s'asseoir";
@@ -87,7 +87,7 @@ TEST(Display, TakesAReflexivePrefixOffUnlessTheVerbIsPronominal) {
   EXPECT_EQ(screen.box(96), "s'asseoir");
 }
 
-TEST(Display, TakesASlotsOwnReflexivePronounOff) {
+TEST(display, takes_a_slots_own_reflexive_pronoun_off) {
   Screen screen;
   screen.forms[0] = "me lave";
   screen.forms[3] = "nous lavons";
@@ -98,7 +98,7 @@ TEST(Display, TakesASlotsOwnReflexivePronounOff) {
   EXPECT_EQ(screen.box(90), "lave");
 }
 
-TEST(Display, TakesEveryPersonsOwnPronounOffShortAndLongForms) {
+TEST(display, takes_every_persons_own_pronoun_off_short_and_long_forms) {
   const std::string_view kPronouns[] = {"me ", "te ", "se ", "nous ", "vous ", "se "};
   const std::string_view kElided[] = {"m'", "t'", "s'", "nous ", "vous ", "s'"};
   for (const std::string_view form : {"a", "es", "est", "lave", "suis lav\xE9(e)"})
@@ -111,7 +111,7 @@ TEST(Display, TakesEveryPersonsOwnPronounOffShortAndLongForms) {
       }
 }
 
-TEST(Display, LeavesFormsThatOnlyLookAsIfTheyHadAPronoun) {
+TEST(display, leaves_forms_that_only_look_as_if_they_had_a_pronoun) {
   for (const std::string_view form : {"mens", "m", "me", "tes", "sens x", "nous", "vouas x", "s",
                                       "n'a", "v'a", "ne va", "ve va", "nouas x"})
     for (int slot = 0; slot < kPersonalSlotCount; ++slot) {
@@ -122,7 +122,7 @@ TEST(Display, LeavesFormsThatOnlyLookAsIfTheyHadAPronoun) {
     }
 }
 
-TEST(Display, ChoosesJeByTheSlotNotByTheBox) {
+TEST(display, chooses_je_by_the_slot_not_by_the_box) {
   Screen screen;
   screen.forms[0] = "m'amuse";
   screen.show();
@@ -130,7 +130,7 @@ TEST(Display, ChoosesJeByTheSlotNotByTheBox) {
   EXPECT_EQ(screen.shown.pronouns[0], "je");
 }
 
-TEST(Display, APronounIsChosenForAnEmptySlotToo) {
+TEST(display, a_pronoun_is_chosen_for_an_empty_slot_too) {
   Screen screen;
   screen.show();
   EXPECT_EQ(screen.shown.pronouns[0], "je");

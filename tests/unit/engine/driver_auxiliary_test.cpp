@@ -8,7 +8,7 @@ namespace {
 
 using odmiennik::testing::TestProgram;
 
-TEST(AuxiliaryClick, RedisplaysTheCompoundTensesWithTheOtherAuxiliary) {
+TEST(auxiliary_click, redisplays_the_compound_tenses_with_the_other_auxiliary) {
   TestProgram program;
   program.conjugate("parler");
   program.chooseAuxiliary(kEtre);
@@ -21,7 +21,7 @@ TEST(AuxiliaryClick, RedisplaysTheCompoundTensesWithTheOtherAuxiliary) {
   EXPECT_EQ(program.box(83), "aurainet parlé");
 }
 
-TEST(AuxiliaryClick, LeavesTheSimpleTensesAndTheParticiple) {
+TEST(auxiliary_click, leaves_the_simple_tenses_and_the_participle) {
   TestProgram program;
   program.conjugate("parler");
   program.chooseAuxiliary(kEtre);
@@ -29,7 +29,7 @@ TEST(AuxiliaryClick, LeavesTheSimpleTensesAndTheParticiple) {
   EXPECT_EQ(program.box(99), "parlé");
 }
 
-TEST(AuxiliaryClick, RemovesTheMarkerOfAParticipleStoredWithIt) {
+TEST(auxiliary_click, removes_the_marker_of_a_participle_stored_with_it) {
   TestProgram program;
   program.addUserVerb({.slots = {{24, "*"}, {96, "aller"}, {99, "allé(e)"}}, .auxiliary = kEtre});
   program.conjugate("aller");
@@ -38,7 +38,7 @@ TEST(AuxiliaryClick, RemovesTheMarkerOfAParticipleStoredWithIt) {
   EXPECT_EQ(program.box(24), "ai allé");
 }
 
-TEST(AuxiliaryClick, LeavesFormsThatTheVerbLacksEmpty) {
+TEST(auxiliary_click, leaves_forms_that_the_verb_lacks_empty) {
   TestProgram program;
   program.conjugate("falloir");
   program.chooseAuxiliary(kEtre);
@@ -46,7 +46,7 @@ TEST(AuxiliaryClick, LeavesFormsThatTheVerbLacksEmpty) {
   EXPECT_EQ(program.box(26), "est fallu(e)");
 }
 
-TEST(AuxiliaryClick, WhileEditingOnlyChangesTheFlag) {
+TEST(auxiliary_click, while_editing_only_changes_the_flag) {
   TestProgram program;
   program.edit("parler");
   program.chooseAuxiliary(kEtre, true);
@@ -55,14 +55,14 @@ TEST(AuxiliaryClick, WhileEditingOnlyChangesTheFlag) {
   EXPECT_EQ(program.box(24), "ai parlé");
 }
 
-TEST(AuxiliaryClick, LeavesTheLabelAsItWas) {
+TEST(auxiliary_click, leaves_the_label_as_it_was) {
   TestProgram program;
   program.conjugate("parler");
   program.chooseAuxiliary(kEtre);
   EXPECT_EQ(program.information().auxiliary, KnownAuxiliary::avoir);
 }
 
-TEST(AuxiliaryClick, ShowsAPronominalVerbWithoutItsPronouns) {
+TEST(auxiliary_click, shows_a_pronominal_verb_without_its_pronouns) {
   TestProgram program;
   program.conjugate("se laver");
   program.chooseAuxiliary(kAvoir);

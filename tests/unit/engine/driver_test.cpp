@@ -12,7 +12,7 @@ using odmiennik::testing::TestProgram;
 using odmiennik::testing::UserRecord;
 using Notices = std::vector<Notice>;
 
-TEST(Driver, ConjugatesAKnownVerbWithoutAMessage) {
+TEST(driver, conjugates_a_known_verb_without_a_message) {
   TestProgram program;
   EXPECT_EQ(program.conjugate("parler"), Outcome::conjugated);
   EXPECT_EQ(program.boxesOfTense(0), "parle | parles | parle | parlons | parlez | parlent");
@@ -21,7 +21,7 @@ TEST(Driver, ConjugatesAKnownVerbWithoutAMessage) {
   EXPECT_EQ(program.state().source, Source::rule);
 }
 
-TEST(Driver, TrimsLowersAndTakesSeLaverAsPronominal) {
+TEST(driver, trims_lowers_and_takes_se_laver_as_pronominal) {
   TestProgram program;
   program.conjugate("  Se Laver  ");
   EXPECT_EQ(program.box(0), "me lave");
@@ -34,14 +34,14 @@ TEST(Driver, TrimsLowersAndTakesSeLaverAsPronominal) {
   EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
-TEST(Driver, TakesATypographicApostropheForThePlainOne) {
+TEST(driver, takes_a_typographic_apostrophe_for_the_plain_one) {
   TestProgram program;
   program.conjugate("S’asseoir");
   EXPECT_EQ(program.box(96), "s'asseoir");
   EXPECT_EQ(program.box(0), "m'assois/assieds");
 }
 
-TEST(Driver, RemovesOneReflexivePrefixOnly) {
+TEST(driver, removes_one_reflexive_prefix_only) {
   TestProgram program;
   program.conjugate("se se laver");
   EXPECT_EQ(program.state().flags.normalizedInput, "se laver");
@@ -49,14 +49,14 @@ TEST(Driver, RemovesOneReflexivePrefixOnly) {
   EXPECT_EQ(program.slot(99), "se lavé(e)");
 }
 
-TEST(Driver, TrimsNothingBehindThePrefix) {
+TEST(driver, trims_nothing_behind_the_prefix) {
   TestProgram program;
   program.conjugate("se  laver");
   EXPECT_EQ(program.state().flags.normalizedInput, " laver");
   EXPECT_EQ(program.slot(96), "se  laver");
 }
 
-TEST(Driver, ConjugatesCapitalsWithAccentsAsSmallLetters) {
+TEST(driver, conjugates_capitals_with_accents_as_small_letters) {
   TestProgram program;
   program.conjugate("ÊTRE");
   EXPECT_EQ(program.box(0), "suis");
@@ -66,7 +66,7 @@ TEST(Driver, ConjugatesCapitalsWithAccentsAsSmallLetters) {
   EXPECT_EQ(program.box(0), "écoute");
 }
 
-TEST(Driver, ATabOrControlCharacterBelongsToTheInfinitive) {
+TEST(driver, a_tab_or_control_character_belongs_to_the_infinitive) {
   TestProgram program;
   EXPECT_EQ(program.conjugate("\tparler"), Outcome::conjugated);
   EXPECT_EQ(program.box(0), "\tparle");
@@ -75,7 +75,7 @@ TEST(Driver, ATabOrControlCharacterBelongsToTheInfinitive) {
   EXPECT_EQ(program.conjugate("\x01"), Outcome::refused);
 }
 
-TEST(Driver, ResetujComesBeforeEverythingElse) {
+TEST(driver, resetuj_comes_before_everything_else) {
   TestProgram program;
   program.conjugate("parler");
   const int questions = program.indexQuestions();
@@ -86,13 +86,13 @@ TEST(Driver, ResetujComesBeforeEverythingElse) {
   EXPECT_EQ(program.notices(), Notices{});
 }
 
-TEST(Driver, ResetujWithAReflexivePrefixIsAVerbLikeAnyOther) {
+TEST(driver, resetuj_with_a_reflexive_prefix_is_a_verb_like_any_other) {
   TestProgram program;
   EXPECT_EQ(program.conjugate("se resetuj"), Outcome::refused);
   EXPECT_EQ(program.resets(), 0);
 }
 
-TEST(Driver, AnUnknownVerbThatARuleTakesIsConjugatedWithAMessage) {
+TEST(driver, an_unknown_verb_that_a_rule_takes_is_conjugated_with_a_message) {
   TestProgram program;
   program.tellRecord("parler", "");
   EXPECT_EQ(program.conjugate("parler"), Outcome::conjugated);
@@ -102,7 +102,7 @@ TEST(Driver, AnUnknownVerbThatARuleTakesIsConjugatedWithAMessage) {
   EXPECT_TRUE(program.information().isAuxiliaryFree);
 }
 
-TEST(Driver, AVerbThatNoRuleTakesIsRefused) {
+TEST(driver, a_verb_that_no_rule_takes_is_refused) {
   TestProgram program;
   program.conjugate("parler");
   EXPECT_EQ(program.conjugate("bla"), Outcome::refused);
@@ -113,7 +113,7 @@ TEST(Driver, AVerbThatNoRuleTakesIsRefused) {
   EXPECT_EQ(program.state().model, "");
 }
 
-TEST(Driver, ARefusedVerbKeepsTheLabelsOfItsRecord) {
+TEST(driver, a_refused_verb_keeps_the_labels_of_its_record) {
   TestProgram program;
   program.tellRecord("bla", "|4|2|1|2");
   program.conjugate("bla");
@@ -122,7 +122,7 @@ TEST(Driver, ARefusedVerbKeepsTheLabelsOfItsRecord) {
   EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
-TEST(Driver, TheEmptyTextAndAPrefixAloneAreRefused) {
+TEST(driver, the_empty_text_and_a_prefix_alone_are_refused) {
   for (const std::string_view typed : {"", "   ", "se ", "s'", "se", "e", "'"}) {
     TestProgram program;
     EXPECT_EQ(program.conjugate(typed), Outcome::refused) << typed;
@@ -130,7 +130,7 @@ TEST(Driver, TheEmptyTextAndAPrefixAloneAreRefused) {
   }
 }
 
-TEST(Driver, TheEndingsAloneAreConjugated) {
+TEST(driver, the_endings_alone_are_conjugated) {
   TestProgram program;
   program.conjugate("er");
   EXPECT_EQ(program.boxesOfTense(0), "e | es | e | ons | ez | ent");
@@ -138,14 +138,14 @@ TEST(Driver, TheEndingsAloneAreConjugated) {
   EXPECT_EQ(program.boxesOfTense(0), "is | is | it | issons | issez | issent");
 }
 
-TEST(Driver, TenThousandLettersAreConjugatedLikeOne) {
+TEST(driver, ten_thousand_letters_are_conjugated_like_one) {
   TestProgram program;
   const std::string stem(9998, 'x');
   EXPECT_EQ(program.conjugate(stem + "er"), Outcome::conjugated);
   EXPECT_EQ(program.box(3), stem + "ons");
 }
 
-TEST(Driver, AUserVerbWinsOverTheBuiltInVerb) {
+TEST(driver, a_user_verb_wins_over_the_built_in_verb) {
   TestProgram program;
   program.addUserVerb({.slots = {{0, "own form"}, {96, "aller"}}, .auxiliary = kAvoir});
   program.conjugate("aller");
@@ -154,7 +154,7 @@ TEST(Driver, AUserVerbWinsOverTheBuiltInVerb) {
   EXPECT_EQ(program.notices(), Notices{});
 }
 
-TEST(Driver, AUserVerbShowsNoDataButItsAuxiliary) {
+TEST(driver, a_user_verb_shows_no_data_but_its_auxiliary) {
   TestProgram program;
   program.addUserVerb({.slots = {{96, "parler"}, {99, "parlé"}, {24, "*"}}, .auxiliary = kEtre});
   program.conjugate("parler");
@@ -167,7 +167,7 @@ TEST(Driver, AUserVerbShowsNoDataButItsAuxiliary) {
   EXPECT_TRUE(program.information().isAuxiliaryFree);
 }
 
-TEST(Driver, AUserVerbEnteredPronominallyTakesEtreWhateverItsRecordSays) {
+TEST(driver, a_user_verb_entered_pronominally_takes_etre_whatever_its_record_says) {
   TestProgram program;
   program.addUserVerb({.slots = {{0, "lave"}, {96, "laver"}, {99, "lavé"}, {24, "*"}}});
   program.conjugate("se laver");
@@ -176,14 +176,14 @@ TEST(Driver, AUserVerbEnteredPronominallyTakesEtreWhateverItsRecordSays) {
   EXPECT_EQ(program.auxiliary(), kEtre);
 }
 
-TEST(Driver, AUserVerbIsNotImpersonal) {
+TEST(driver, a_user_verb_is_not_impersonal) {
   TestProgram program;
   program.addUserVerb({.slots = {{0, "pleus"}, {96, "pleuvoir"}}});
   program.conjugate("pleuvoir");
   EXPECT_EQ(program.box(0), "pleus");
 }
 
-TEST(Driver, AUserVerbSavedWithCapitalsBlanksOrItsPronounIsFound) {
+TEST(driver, a_user_verb_saved_with_capitals_blanks_or_its_pronoun_is_found) {
   for (const std::string_view saved : {"Aimer", " aimer ", "s'aimer", "S’AIMER"}) {
     TestProgram program;
     program.addUserVerb({.slots = {{0, "own"}, {96, std::string(saved)}}});
@@ -192,7 +192,7 @@ TEST(Driver, AUserVerbSavedWithCapitalsBlanksOrItsPronounIsFound) {
   }
 }
 
-TEST(Driver, ThePronominalVerbThatTheUserSavedIsNeverShownWithTwoPronouns) {
+TEST(driver, the_pronominal_verb_that_the_user_saved_is_never_shown_with_two_pronouns) {
   const UserRecord record{.slots = {{0, "me lave"},
                                     {1, "te laves"},
                                     {3, "nous lavons"},
@@ -211,7 +211,7 @@ TEST(Driver, ThePronominalVerbThatTheUserSavedIsNeverShownWithTwoPronouns) {
   EXPECT_EQ(program.box(90), "lave");
 }
 
-TEST(Driver, TheFirstMatchingUserVerbWins) {
+TEST(driver, the_first_matching_user_verb_wins) {
   TestProgram program;
   program.addUserVerb({.slots = {{0, "other"}, {96, "chanter"}}});
   program.addUserVerb({.slots = {{0, "first"}, {96, "aimer"}}});
@@ -220,7 +220,7 @@ TEST(Driver, TheFirstMatchingUserVerbWins) {
   EXPECT_EQ(program.box(0), "first");
 }
 
-TEST(Driver, UserVerbsThatDoNotMatchLeaveNoTrace) {
+TEST(driver, user_verbs_that_do_not_match_leave_no_trace) {
   TestProgram program;
   program.addUserVerb({.slots = {{0, "other"}, {100, "other"}, {96, "chanter"}}});
   program.conjugate("parler");
@@ -228,7 +228,7 @@ TEST(Driver, UserVerbsThatDoNotMatchLeaveNoTrace) {
   EXPECT_EQ(program.box(100), "ayant parlé");
 }
 
-TEST(Driver, SlotsThatAModelDoesNotWriteAreEmptyWhateverStoodThere) {
+TEST(driver, slots_that_a_model_does_not_write_are_empty_whatever_stood_there) {
   TestProgram program;
   program.addUserVerb({.slots = {{12, "other"}, {54, "other"}, {96, "chanter"}}});
   program.conjugate("parler");
@@ -237,7 +237,7 @@ TEST(Driver, SlotsThatAModelDoesNotWriteAreEmptyWhateverStoodThere) {
   EXPECT_EQ(program.tense(54), " |  |  |  |  | ");
 }
 
-TEST(Driver, ABareCroitreThatIsNotBuiltInIsLeftAlone) {
+TEST(driver, a_bare_croitre_that_is_not_built_in_is_left_alone) {
   TestProgram program;
   program.forgetBuiltinVerbs();
   program.conjugate("parler");
@@ -247,7 +247,7 @@ TEST(Driver, ABareCroitreThatIsNotBuiltInIsLeftAlone) {
     EXPECT_EQ(program.slot(slot), slot == 96 ? "croître" : "") << slot;
 }
 
-TEST(Driver, ABuiltInVerbIsCompleted) {
+TEST(driver, a_built_in_verb_is_completed) {
   TestProgram program;
   program.conjugate("aller");
   EXPECT_EQ(program.state().source, Source::builtin);
@@ -256,7 +256,7 @@ TEST(Driver, ABuiltInVerbIsCompleted) {
   for (int slot = 0; slot < kSlotCount; ++slot) EXPECT_NE(program.box(slot), "*") << slot;
 }
 
-TEST(Driver, AMissingFormOfABuiltInVerbIsEmptyAndShowsTwoHyphens) {
+TEST(driver, a_missing_form_of_a_built_in_verb_is_empty_and_shows_two_hyphens) {
   TestProgram program;
   program.conjugate("falloir");
   EXPECT_EQ(program.slot(0), "");
@@ -264,7 +264,7 @@ TEST(Driver, AMissingFormOfABuiltInVerbIsEmptyAndShowsTwoHyphens) {
   EXPECT_EQ(program.box(2), "faut");
 }
 
-TEST(Driver, ABuiltInVerbThatCarriesItsPronounIsFoundWithoutIt) {
+TEST(driver, a_built_in_verb_that_carries_its_pronoun_is_found_without_it) {
   for (const std::string_view typed : {"s'ensuivre", "ensuivre"}) {
     TestProgram program;
     program.conjugate(typed);
@@ -273,7 +273,7 @@ TEST(Driver, ABuiltInVerbThatCarriesItsPronounIsFoundWithoutIt) {
   }
 }
 
-TEST(Driver, TheHiddenEntriesAreFoundLikeVerbs) {
+TEST(driver, the_hidden_entries_are_found_like_verbs) {
   for (const std::string_view typed : {"autor", "pozdrowienia"}) {
     TestProgram program;
     EXPECT_EQ(program.conjugate(typed), Outcome::conjugated) << typed;
@@ -283,14 +283,14 @@ TEST(Driver, TheHiddenEntriesAreFoundLikeVerbs) {
   }
 }
 
-TEST(Driver, IlsAurainetStandsInSlots77And83OfAvoir) {
+TEST(driver, ils_aurainet_stands_in_slots_77_and_83_of_avoir) {
   TestProgram program;
   program.conjugate("avoir");
   EXPECT_EQ(program.box(77), "aurainet");
   EXPECT_EQ(program.box(83), "aurainet eu");
 }
 
-TEST(Driver, IlsAurainetStandsInSlot83OfEveryVerbWithAvoir) {
+TEST(driver, ils_aurainet_stands_in_slot_83_of_every_verb_with_avoir) {
   TestProgram program;
   for (const std::string_view verb : {"parler", "finir", "prendre", "savoir"}) {
     program.conjugate(verb);
@@ -298,7 +298,7 @@ TEST(Driver, IlsAurainetStandsInSlot83OfEveryVerbWithAvoir) {
   }
 }
 
-TEST(Driver, AnImpersonalVerbShowsItsIlFormsInfinitivesAndParticiples) {
+TEST(driver, an_impersonal_verb_shows_its_il_forms_infinitives_and_participles) {
   TestProgram program;
   program.conjugate("bruiner");
   for (int slot = 0; slot < kSlotCount; ++slot) {
@@ -309,14 +309,14 @@ TEST(Driver, AnImpersonalVerbShowsItsIlFormsInfinitivesAndParticiples) {
   EXPECT_EQ(program.box(26), "a bruiné");
 }
 
-TEST(Driver, AnImpersonalMarkEndsWithTheNextConjugation) {
+TEST(driver, an_impersonal_mark_ends_with_the_next_conjugation) {
   TestProgram program;
   program.conjugate("bruiner");
   program.conjugate("parler");
   EXPECT_EQ(program.box(0), "parle");
 }
 
-TEST(Driver, AVerbMarkedPronominalByItsRecordIsConjugatedPronominally) {
+TEST(driver, a_verb_marked_pronominal_by_its_record_is_conjugated_pronominally) {
   TestProgram program;
   program.conjugate("absenter");
   EXPECT_EQ(program.box(0), "m'absente");
@@ -328,7 +328,7 @@ TEST(Driver, AVerbMarkedPronominalByItsRecordIsConjugatedPronominally) {
   EXPECT_FALSE(program.state().flags.isPronominal) << "cleared after the command";
 }
 
-TEST(Driver, AMuteHElidesJeAndAnAspiratedOneDoesNot) {
+TEST(driver, a_mute_h_elides_je_and_an_aspirated_one_does_not) {
   TestProgram program;
   program.conjugate("habiter");
   EXPECT_EQ(program.pronoun(0), "j'");
@@ -341,7 +341,7 @@ TEST(Driver, AMuteHElidesJeAndAnAspiratedOneDoesNot) {
   EXPECT_EQ(program.pronoun(0), "je");
 }
 
-TEST(Driver, FalloirShowsIlNeCroisPasQueAboveItsSubjunctives) {
+TEST(driver, falloir_shows_il_ne_crois_pas_que_above_its_subjunctives) {
   TestProgram program;
   program.conjugate("falloir");
   EXPECT_EQ(program.caption(0), "Il ne crois pas que ...");
@@ -350,7 +350,7 @@ TEST(Driver, FalloirShowsIlNeCroisPasQueAboveItsSubjunctives) {
   EXPECT_EQ(program.caption(0), "Il faut que ...");
 }
 
-TEST(Driver, EveryConjugationStartsWithAvoir) {
+TEST(driver, every_conjugation_starts_with_avoir) {
   TestProgram program;
   program.conjugate("aller");
   program.tellRecord("blaguer", "");
@@ -359,7 +359,7 @@ TEST(Driver, EveryConjugationStartsWithAvoir) {
   EXPECT_EQ(program.box(24), "ai blagué");
 }
 
-TEST(Driver, AnEmptySlotOfAPronominalVerbTakesNoPronoun) {
+TEST(driver, an_empty_slot_of_a_pronominal_verb_takes_no_pronoun) {
   TestProgram program;
   program.conjugate("s'ensuivre");
   EXPECT_EQ(program.box(0), " -- ");
@@ -367,7 +367,7 @@ TEST(Driver, AnEmptySlotOfAPronominalVerbTakesNoPronoun) {
   EXPECT_EQ(program.box(2), "s'ensuit");
 }
 
-TEST(Driver, TheSameVerbTwiceGivesTheSame) {
+TEST(driver, the_same_verb_twice_gives_the_same) {
   TestProgram program;
   program.conjugate("s'asseoir");
   const std::string first = program.boxesOfTense(0) + program.boxesOfTense(96);

@@ -36,7 +36,7 @@ constexpr Row kRows[] = {
     {100, 100, "Participe", "passé composé"},
 };
 
-TEST(Slots, EverySlotHasItsMoodAndTense) {
+TEST(slots, every_slot_has_its_mood_and_tense) {
   for (const Row& row : kRows)
     for (int slot = row.first; slot <= row.last; ++slot) {
       EXPECT_EQ(tenseOf(slot).mood, row.mood) << slot;
@@ -45,19 +45,19 @@ TEST(Slots, EverySlotHasItsMoodAndTense) {
     }
 }
 
-TEST(Slots, ThereAre101) { EXPECT_EQ(kSlotCount, 101); }
+TEST(slots, there_are_101) { EXPECT_EQ(kSlotCount, 101); }
 
-TEST(Slots, PersonsComeInTheOrderJeTuIlNousVousIls) {
+TEST(slots, persons_come_in_the_order_je_tu_il_nous_vous_ils) {
   const std::string_view kPersons[] = {"je", "tu", "il", "nous", "vous", "ils"};
   for (int slot = 0; slot < 90; ++slot) EXPECT_EQ(personOf(slot), kPersons[slot % 6]) << slot;
 }
 
-TEST(Slots, TheImperativeHasTuNousVous) {
+TEST(slots, the_imperative_has_tu_nous_vous) {
   const std::string_view kPersons[] = {"tu", "nous", "vous"};
   for (int slot = 90; slot < 96; ++slot) EXPECT_EQ(personOf(slot), kPersons[(slot - 90) % 3]);
 }
 
-TEST(Slots, InfinitivesAndParticiplesHaveNoPerson) {
+TEST(slots, infinitives_and_participles_have_no_person) {
   for (int slot = 96; slot <= 100; ++slot) EXPECT_EQ(personOf(slot), "") << slot;
 }
 

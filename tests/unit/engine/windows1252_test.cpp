@@ -14,7 +14,7 @@ void expectRefused(std::string_view utf8, Utf8Fault fault, std::size_t position)
   EXPECT_EQ(result.position, position) << ::testing::PrintToString(utf8);
 }
 
-TEST(Windows1252, EveryByteSurvivesTheWayToUtf8AndBack) {
+TEST(windows_1252, every_byte_survives_the_way_to_utf8_and_back) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string letter(1, static_cast<char>(byte));
     const FromUtf8 back = fromUtf8(toUtf8(letter));
@@ -23,20 +23,20 @@ TEST(Windows1252, EveryByteSurvivesTheWayToUtf8AndBack) {
   }
 }
 
-TEST(Windows1252, NoTwoBytesShareAnImage) {
+TEST(windows_1252, no_two_bytes_share_an_image) {
   for (int first = 0; first < 256; ++first)
     for (int second = first + 1; second < 256; ++second)
       EXPECT_NE(toUtf8(std::string(1, static_cast<char>(first))),
                 toUtf8(std::string(1, static_cast<char>(second))));
 }
 
-TEST(Windows1252, AllBytesInOneTextSurviveTheRoundTrip) {
+TEST(windows_1252, all_bytes_in_one_text_survive_the_round_trip) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
   EXPECT_EQ(fromUtf8(toUtf8(all)).text, all);
 }
 
-TEST(Windows1252, FrenchLettersHaveTheirBytes) {
+TEST(windows_1252, french_letters_have_their_bytes) {
   const struct {
     std::string_view letter;
     unsigned char byte;
@@ -50,39 +50,39 @@ TEST(Windows1252, FrenchLettersHaveTheirBytes) {
   }
 }
 
-TEST(Windows1252, BytesWithoutALetterStandForTheControlCharactersOfTheirNumber) {
+TEST(windows_1252, bytes_without_a_letter_stand_for_the_control_characters_of_their_number) {
   for (const int byte : {0x81, 0x8D, 0x8F, 0x90, 0x9D})
     EXPECT_EQ(kCodePointOfByte[static_cast<std::size_t>(byte)], static_cast<char32_t>(byte));
 }
 
-TEST(Windows1252, TheEmptyTextIsATextInBothDirections) {
+TEST(windows_1252, the_empty_text_is_a_text_in_both_directions) {
   EXPECT_EQ(toUtf8(""), "");
   EXPECT_EQ(fromUtf8("").fault, Utf8Fault::none);
 }
 
-TEST(Windows1252, PolishLettersAreOutside) {
+TEST(windows_1252, polish_letters_are_outside) {
   for (const std::string_view letter : {"ą", "ć", "ę", "ł", "ń", "ś", "ź", "ż", "Ł"})
     expectRefused(letter, Utf8Fault::letterOutside, 0);
 }
 
-TEST(Windows1252, TheFaultIsReportedAtTheFirstBadByte) {
+TEST(windows_1252, the_fault_is_reported_at_the_first_bad_byte) {
   expectRefused("été łapać", Utf8Fault::letterOutside, 6);
   expectRefused("ab\xFF", Utf8Fault::notUtf8, 2);
 }
 
-TEST(Windows1252, LettersOfOtherPlanesAreOutside) {
+TEST(windows_1252, letters_of_other_planes_are_outside) {
   expectRefused("\U0001F600", Utf8Fault::letterOutside, 0);
   expectRefused("日本", Utf8Fault::letterOutside, 0);
 }
 
-TEST(Windows1252, ALetterAndItsCombiningAccentAreOneLetter) {
+TEST(windows_1252, a_letter_and_its_combining_accent_are_one_letter) {
   EXPECT_EQ(fromUtf8("e\u0302tre").text, "\xEAtre");
   EXPECT_EQ(fromUtf8("e\u0301te\u0301 C\u0327a, Y\u0308").text,
             "\xE9t\xE9 \xC7"
             "a, \x9F");
 }
 
-TEST(Windows1252, EveryAccentedLetterIsMadeOfItsParts) {
+TEST(windows_1252, every_accented_letter_is_made_of_its_parts) {
   const struct {
     char32_t accent;
     std::string_view bases;
@@ -99,44 +99,44 @@ TEST(Windows1252, EveryAccentedLetterIsMadeOfItsParts) {
   }
 }
 
-TEST(Windows1252, AnAccentThatMakesNoLetterIsOutside) {
+TEST(windows_1252, an_accent_that_makes_no_letter_is_outside) {
   expectRefused("\u0301e", Utf8Fault::letterOutside, 0);
   expectRefused("s\u0301", Utf8Fault::letterOutside, 1);
   expectRefused("e\u0301\u0301", Utf8Fault::letterOutside, 3);
   expectRefused("e\u0323", Utf8Fault::letterOutside, 1);
 }
 
-TEST(Windows1252, ControlCharactersWithALetterInTheirPlaceAreOutside) {
+TEST(windows_1252, control_characters_with_a_letter_in_their_place_are_outside) {
   // U+0080 is a control character; the byte 80 is the euro sign.
   expectRefused("\u0080", Utf8Fault::letterOutside, 0);
   expectRefused("\u009F", Utf8Fault::letterOutside, 0);
 }
 
-TEST(Windows1252, OverlongSequencesAreRefused) {
+TEST(windows_1252, overlong_sequences_are_refused) {
   expectRefused("\xC0\x80", Utf8Fault::notUtf8, 0);
   expectRefused("\xC1\xA1", Utf8Fault::notUtf8, 0);
   expectRefused("\xE0\x83\xA9", Utf8Fault::notUtf8, 0);
   expectRefused("\xF0\x80\x83\xA9", Utf8Fault::notUtf8, 0);
 }
 
-TEST(Windows1252, SurrogatesAreRefused) {
+TEST(windows_1252, surrogates_are_refused) {
   expectRefused("\xED\xA0\x80", Utf8Fault::notUtf8, 0);
   expectRefused("\xED\xBF\xBF", Utf8Fault::notUtf8, 0);
 }
 
-TEST(Windows1252, CodePointsPastTheLastAreRefused) {
+TEST(windows_1252, code_points_past_the_last_are_refused) {
   expectRefused("\xF4\x90\x80\x80", Utf8Fault::notUtf8, 0);
   expectRefused("\xF5\x80\x80\x80", Utf8Fault::notUtf8, 0);
 }
 
-TEST(Windows1252, CutSequencesAreRefused) {
+TEST(windows_1252, cut_sequences_are_refused) {
   expectRefused("\xC3", Utf8Fault::notUtf8, 0);
   expectRefused("a\xE2\x80", Utf8Fault::notUtf8, 1);
   expectRefused("\xF0\x9F\x98", Utf8Fault::notUtf8, 0);
   expectRefused("\xC3(", Utf8Fault::notUtf8, 0);
 }
 
-TEST(Windows1252, ContinuationBytesAloneAreRefused) {
+TEST(windows_1252, continuation_bytes_alone_are_refused) {
   for (int byte = 0x80; byte < 0xC0; ++byte)
     expectRefused(std::string(1, static_cast<char>(byte)), Utf8Fault::notUtf8, 0);
 }

@@ -77,7 +77,7 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.infinitive; }
 
 class FirstGroupRow : public ::testing::TestWithParam<Row> {};
 
-TEST_P(FirstGroupRow, ReachesItsModel) {
+TEST_P(FirstGroupRow, reaches_its_model) {
   const ByRule verb(GetParam().infinitive);
   EXPECT_EQ(verb.result.model, GetParam().model);
   EXPECT_EQ(verb.slot(0), GetParam().present);
@@ -90,7 +90,7 @@ std::string nameOfRow(const ::testing::TestParamInfo<Row>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Dispatch, FirstGroupRow, ::testing::ValuesIn(kRows), nameOfRow);
 
-TEST(FirstGroupDispatch, EveryOneOfThe49RowsIsTried) {
+TEST(first_group_dispatch, every_one_of_the_49_rows_is_tried) {
   int order = 0;
   for (const Row& row : kRows) {
     EXPECT_LE(row.order, order + 1);
@@ -99,12 +99,12 @@ TEST(FirstGroupDispatch, EveryOneOfThe49RowsIsTried) {
   EXPECT_EQ(order, 49);
 }
 
-TEST(FirstGroupDispatch, AVerbThatNoRowClaimsIsRegular) {
+TEST(first_group_dispatch, a_verb_that_no_row_claims_is_regular) {
   for (const std::string_view verb : {"parler", "aimer", "monter", "regarder", "chanter", "er"})
     EXPECT_EQ(ByRule(verb).result.model, "regular") << verb;
 }
 
-TEST(FirstGroupDispatch, LongerEndingsWin) {
+TEST(first_group_dispatch, longer_endings_win) {
   EXPECT_EQ(ByRule("rapiécer").result.model, "rapiécer") << "not -cer";
   EXPECT_EQ(ByRule("renvoyer").result.model, "envoyer") << "not -oyer";
   EXPECT_EQ(ByRule("narguer").result.model, "arguer") << "not -guer";
@@ -117,12 +117,12 @@ TEST(FirstGroupDispatch, LongerEndingsWin) {
   EXPECT_EQ(ByRule("imprégner").result.model, "ègne") << "not -gner";
 }
 
-TEST(FirstGroupDispatch, OnlyTheEndCounts) {
+TEST(first_group_dispatch, only_the_end_counts) {
   EXPECT_EQ(ByRule("dérapiécer").result.model, "rapiécer");
   EXPECT_EQ(ByRule("mangeurer").result.model, "regular");
 }
 
-TEST(FirstGroupDispatch, ComparesLettersExactly) {
+TEST(first_group_dispatch, compares_letters_exactly) {
   EXPECT_EQ(ByRule("PAYer").result.model, "regular");
 }
 

@@ -9,7 +9,7 @@ namespace {
 using engine::kAvoir;
 using engine::kEtre;
 
-TEST(RegularParadigm, WritesEverySimpleTense) {
+TEST(regular_paradigm, writes_every_simple_tense) {
   const ByRule parler("parler");
   EXPECT_EQ(parler.tense(0), "parle | parles | parle | parlons | parlez | parlent");
   EXPECT_EQ(parler.tense(6), "parlais | parlais | parlait | parlions | parliez | parlaient");
@@ -24,17 +24,17 @@ TEST(RegularParadigm, WritesEverySimpleTense) {
   EXPECT_EQ(parler.slot(98), "parlant");
 }
 
-TEST(RegularParadigm, TheParticipleTakesTheMarkerOnlyWithEtre) {
+TEST(regular_paradigm, the_participle_takes_the_marker_only_with_etre) {
   EXPECT_EQ(ByRule("parler", kAvoir).slot(99), "parlé");
   EXPECT_EQ(ByRule("parler", kEtre).slot(99), "parlé(e)");
 }
 
-TEST(RegularParadigm, LeavesCompoundSlotsAlone) {
+TEST(regular_paradigm, leaves_compound_slots_alone) {
   const ByRule parler("parler");
   for (const int slot : {24, 47, 60, 78, 89, 93, 95, 97, 100}) EXPECT_EQ(parler.slot(slot), "");
 }
 
-TEST(CerModel, Commencer) {
+TEST(cer_model, commencer) {
   const ByRule verb("commencer");
   EXPECT_EQ(verb.tense(0), "commence | commences | commence | commençons | commencez | commencent");
   EXPECT_EQ(verb.tense(6),
@@ -47,7 +47,7 @@ TEST(CerModel, Commencer) {
   EXPECT_EQ(verb.slot(51), "commencions");
 }
 
-TEST(ScerModel, Acquiescer) {
+TEST(scer_model, acquiescer) {
   const ByRule verb("acquiescer");
   EXPECT_EQ(verb.slot(3), "acquiesçons");
   EXPECT_EQ(verb.slot(6), "acquiesçais");
@@ -56,7 +56,7 @@ TEST(ScerModel, Acquiescer) {
   EXPECT_EQ(verb.slot(98), "acquiesçant");
 }
 
-TEST(GerModel, Manger) {
+TEST(ger_model, manger) {
   const ByRule verb("manger");
   EXPECT_EQ(verb.tense(0), "mange | manges | mange | mangeons | mangez | mangent");
   EXPECT_EQ(verb.tense(6), "mangeais | mangeais | mangeait | mangions | mangiez | mangeaient");
@@ -66,7 +66,7 @@ TEST(GerModel, Manger) {
   EXPECT_EQ(verb.slot(98), "mangeant");
 }
 
-TEST(GuerModel, WritesTheSameTextAsTheRegularParadigm) {
+TEST(guer_model, writes_the_same_text_as_the_regular_paradigm) {
   const ByRule verb("naviguer");
   EXPECT_EQ(verb.result.model, "-guer");
   EXPECT_EQ(verb.tense(0), "navigue | navigues | navigue | naviguons | naviguez | naviguent");
@@ -75,7 +75,7 @@ TEST(GuerModel, WritesTheSameTextAsTheRegularParadigm) {
   EXPECT_EQ(verb.slot(98), "naviguant");
 }
 
-TEST(ArguerModel, Arguer) {
+TEST(arguer_model, arguer) {
   const ByRule verb("arguer");
   EXPECT_EQ(verb.tense(0), "arguë | arguës | arguë | arguons | arguez | arguënt");
   EXPECT_EQ(verb.tense(6), "arguais | arguais | arguait | arguïons | arguïez | arguaient");
@@ -85,11 +85,11 @@ TEST(ArguerModel, Arguer) {
   EXPECT_EQ(verb.tense(90), "arguë | arguons | arguez");
 }
 
-TEST(ArguerModel, ClaimsNarguerAlthoughGrammarsDoNot) {
+TEST(arguer_model, claims_narguer_although_grammars_do_not) {
   EXPECT_EQ(ByRule("narguer").slot(0), "narguë");
 }
 
-TEST(AyerModel, PayerHasDoubleForms) {
+TEST(ayer_model, payer_has_double_forms) {
   const ByRule verb("payer");
   EXPECT_EQ(verb.tense(0), "paye/paie | payes/paies | paye/paie | payons | payez | payent/paient");
   EXPECT_EQ(verb.tense(6), "payais | payais | payait | payions | payiez | payaient");
@@ -101,18 +101,18 @@ TEST(AyerModel, PayerHasDoubleForms) {
   EXPECT_EQ(verb.slot(98), "payant");
 }
 
-TEST(AyerModel, TheSubjunctiveIsBuiltVariantByVariant) {
+TEST(ayer_model, the_subjunctive_is_built_variant_by_variant) {
   EXPECT_EQ(ByRule("payer").tense(48),
             "paye/paie | payes/paies | paye/paie | payions | payiez | payent/paient");
 }
 
-TEST(AyerModel, TheConditionalIsBuiltLastFromTheFuture) {
+TEST(ayer_model, the_conditional_is_built_last_from_the_future) {
   EXPECT_EQ(ByRule("payer").tense(72),
             "payerais/paierais | payerais/paierais | payerait/paierait | payerions/paierions | "
             "payeriez/paieriez | payeraient/paieraient");
 }
 
-TEST(OyerModel, Noyer) {
+TEST(oyer_model, noyer) {
   const ByRule verb("noyer");
   EXPECT_EQ(verb.tense(0), "noie | noies | noie | noyons | noyez | noient");
   EXPECT_EQ(verb.slot(18), "noierai");
@@ -121,34 +121,34 @@ TEST(OyerModel, Noyer) {
   EXPECT_EQ(verb.slot(90), "noie");
 }
 
-TEST(EnvoyerModel, RenvoyerMatchesByItsLastSevenLetters) {
+TEST(envoyer_model, renvoyer_matches_by_its_last_seven_letters) {
   const ByRule verb("renvoyer");
   EXPECT_EQ(verb.tense(0), "renvoie | renvoies | renvoie | renvoyons | renvoyez | renvoient");
   EXPECT_EQ(verb.slot(18), "renverrai");
   EXPECT_EQ(verb.slot(72), "renverrais");
 }
 
-TEST(UyerModel, Essuyer) {
+TEST(uyer_model, essuyer) {
   const ByRule verb("essuyer");
   EXPECT_EQ(verb.tense(0), "essuie | essuies | essuie | essuyons | essuyez | essuient");
   EXPECT_EQ(verb.slot(18), "essuierai");
 }
 
-TEST(IerModel, LeavesTheRegularForms) {
+TEST(ier_model, leaves_the_regular_forms) {
   const ByRule verb("prier");
   EXPECT_EQ(verb.tense(0), "prie | pries | prie | prions | priez | prient");
   EXPECT_EQ(verb.slot(9), "priions");
   EXPECT_EQ(verb.slot(72), "prierais");
 }
 
-TEST(EerModel, LeavesTheRegularForms) {
+TEST(eer_model, leaves_the_regular_forms) {
   const ByRule verb("créer");
   EXPECT_EQ(verb.tense(0), "crée | crées | crée | créons | créez | créent");
   EXPECT_EQ(verb.slot(99), "créé");
   EXPECT_EQ(verb.slot(90), "crée");
 }
 
-TEST(OpenEModel, SemerChangesTheFutureToo) {
+TEST(open_e_model, semer_changes_the_future_too) {
   const ByRule verb("semer");
   EXPECT_EQ(verb.tense(0), "sème | sèmes | sème | semons | semez | sèment");
   EXPECT_EQ(verb.slot(18), "sèmerai");
@@ -158,11 +158,11 @@ TEST(OpenEModel, SemerChangesTheFutureToo) {
   EXPECT_EQ(verb.slot(12), "semai");
 }
 
-TEST(OpenEModel, SevrerHasAGroupOfTwoConsonants) {
+TEST(open_e_model, sevrer_has_a_group_of_two_consonants) {
   EXPECT_EQ(ByRule("sevrer").tense(0), "sèvre | sèvres | sèvre | sevrons | sevrez | sèvrent");
 }
 
-TEST(EcerModel, Depecer) {
+TEST(ecer_model, depecer) {
   const ByRule verb("dépecer");
   EXPECT_EQ(verb.tense(0), "dépèce | dépèces | dépèce | dépeçons | dépecez | dépècent");
   EXPECT_EQ(verb.tense(6), "dépeçais | dépeçais | dépeçait | dépecions | dépeciez | dépeçaient");
@@ -172,7 +172,7 @@ TEST(EcerModel, Depecer) {
   EXPECT_EQ(verb.slot(98), "dépeçant");
 }
 
-TEST(EterModel, ListedVerbsOpenTheirE) {
+TEST(eter_model, listed_verbs_open_their_e) {
   for (const std::string_view verb :
        {"bégueter", "acheter", "bouveter", "breveter", "corseter", "crocheter", "fileter",
         "fureter", "haleter", "préacheter", "racheter"}) {
@@ -182,7 +182,7 @@ TEST(EterModel, ListedVerbsOpenTheirE) {
   }
 }
 
-TEST(EterModel, OtherVerbsDoubleTheirT) {
+TEST(eter_model, other_verbs_double_their_t) {
   const ByRule verb("jeter");
   EXPECT_EQ(verb.tense(0), "jette | jettes | jette | jetons | jetez | jettent");
   EXPECT_EQ(verb.slot(18), "jetterai");
@@ -190,12 +190,12 @@ TEST(EterModel, OtherVerbsDoubleTheirT) {
   EXPECT_EQ(ByRule("rejeter").slot(0), "rejette");
 }
 
-TEST(EterModel, ComparesTheWholeInfinitive) {
+TEST(eter_model, compares_the_whole_infinitive) {
   EXPECT_EQ(ByRule("suracheter").slot(0), "surachette")
       << "only racheter and préacheter are listed";
 }
 
-TEST(ElerModel, ListedVerbsOpenTheirE) {
+TEST(eler_model, listed_verbs_open_their_e) {
   for (const std::string_view verb :
        {"aciseler",   "geler",    "celer",      "ciseler",   "congeler",     "déceler",
         "décongeler", "dégeler",  "démanteler", "écarteler", "embreler",     "épinceler",
@@ -208,23 +208,23 @@ TEST(ElerModel, ListedVerbsOpenTheirE) {
   }
 }
 
-TEST(ElerModel, OtherVerbsDoubleTheirL) {
+TEST(eler_model, other_verbs_double_their_l) {
   const ByRule verb("appeler");
   EXPECT_EQ(verb.tense(0), "appelle | appelles | appelle | appelons | appelez | appellent");
   EXPECT_EQ(verb.slot(18), "appellerai");
 }
 
-TEST(ElerModel, SEncastelerIsListedOnlyWithItsPronoun) {
+TEST(eler_model, s_encasteler_is_listed_only_with_its_pronoun) {
   EXPECT_EQ(ByRule("s'encasteler").slot(0), "s'encastèle");
   EXPECT_EQ(ByRule("encasteler").slot(0), "encastelle");
 }
 
-TEST(ElerModel, SeCrepelerIsListedOnlyWithItsPronoun) {
+TEST(eler_model, se_crepeler_is_listed_only_with_its_pronoun) {
   EXPECT_EQ(ByRule("se crêpeler").slot(0), "se crêpèle");
   EXPECT_EQ(ByRule("crêpeler").slot(0), "crêpelle");
 }
 
-TEST(RapiecerModel, Rapiecer) {
+TEST(rapiecer_model, rapiecer) {
   const ByRule verb("rapiécer");
   EXPECT_EQ(verb.tense(0), "rapièce | rapièces | rapièce | rapiéçons | rapiécez | rapiècent");
   EXPECT_EQ(verb.tense(6),
@@ -235,7 +235,7 @@ TEST(RapiecerModel, Rapiecer) {
   EXPECT_EQ(verb.slot(98), "rapiéçant");
 }
 
-TEST(RapiecerModel, ALongerInfinitiveGetsThePasseSimpleOfRapiecerItself) {
+TEST(rapiecer_model, a_longer_infinitive_gets_the_passe_simple_of_rapiecer_itself) {
   const ByRule verb("dérapiécer");
   EXPECT_EQ(verb.slot(0), "dérapièce");
   EXPECT_EQ(verb.tense(12),
@@ -244,7 +244,7 @@ TEST(RapiecerModel, ALongerInfinitiveGetsThePasseSimpleOfRapiecerItself) {
   EXPECT_EQ(verb.slot(98), "dérapiéçant");
 }
 
-TEST(ClosedEModel, TheFutureKeepsItsClosedE) {
+TEST(closed_e_model, the_future_keeps_its_closed_e) {
   const ByRule verb("céder");
   EXPECT_EQ(verb.tense(0), "cède | cèdes | cède | cédons | cédez | cèdent");
   EXPECT_EQ(verb.tense(18), "céderai | céderas | cédera | céderons | céderez | céderont");
@@ -253,7 +253,7 @@ TEST(ClosedEModel, TheFutureKeepsItsClosedE) {
   EXPECT_EQ(verb.slot(90), "cède");
 }
 
-TEST(EgerModel, Proteger) {
+TEST(eger_model, proteger) {
   const ByRule verb("protéger");
   EXPECT_EQ(verb.tense(0), "protège | protèges | protège | protégeons | protégez | protègent");
   EXPECT_EQ(verb.tense(6),
@@ -266,7 +266,7 @@ TEST(EgerModel, Proteger) {
   EXPECT_EQ(verb.slot(98), "protégeant");
 }
 
-TEST(EgneEgueEqueModels, OpenTheirEInThePresentOnly) {
+TEST(egne_egue_eque_models, open_their_e_in_the_present_only) {
   EXPECT_EQ(ByRule("régner").tense(0), "règne | règnes | règne | régnons | régnez | règnent");
   EXPECT_EQ(ByRule("léguer").tense(0), "lègue | lègues | lègue | léguons | léguez | lèguent");
   EXPECT_EQ(ByRule("disséquer").tense(0),

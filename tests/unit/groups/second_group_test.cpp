@@ -6,7 +6,7 @@
 namespace odmiennik::groups {
 namespace {
 
-TEST(FinirModel, Finir) {
+TEST(finir_model, finir) {
   const ByRule verb("finir");
   EXPECT_EQ(verb.result.model, "finir");
   EXPECT_EQ(verb.tense(0), "finis | finis | finit | finissons | finissez | finissent");
@@ -22,25 +22,25 @@ TEST(FinirModel, Finir) {
   EXPECT_EQ(verb.slot(99), "fini");
 }
 
-TEST(FinirModel, ServesChoisirAndReussir) {
+TEST(finir_model, serves_choisir_and_reussir) {
   EXPECT_EQ(ByRule("choisir").slot(3), "choisissons");
   EXPECT_EQ(ByRule("choisir").slot(99), "choisi");
   EXPECT_EQ(ByRule("réussir").slot(2), "réussit");
   EXPECT_EQ(ByRule("réussir").slot(99), "réussi");
 }
 
-TEST(FinirModel, TheParticipleTakesTheMarkerWithEtre) {
+TEST(finir_model, the_participle_takes_the_marker_with_etre) {
   EXPECT_EQ(ByRule("finir", engine::kEtre).slot(99), "fini(e)");
 }
 
-TEST(FinirModel, TakesIrWithADiaeresisAndCutsTwoLetters) {
+TEST(finir_model, takes_ir_with_a_diaeresis_and_cuts_two_letters) {
   const ByRule verb("amuïr");
   EXPECT_EQ(verb.result.model, "finir");
   EXPECT_EQ(verb.slot(0), "amuis");
   EXPECT_EQ(verb.slot(99), "amui");
 }
 
-TEST(FinirModel, TheDiaeresisStaysInInfinitiveAndFutureOnly) {
+TEST(finir_model, the_diaeresis_stays_in_infinitive_and_future_only) {
   const ByRule verb("ouïr");
   EXPECT_EQ(verb.slot(0), "ouis");
   EXPECT_EQ(verb.slot(12), "ouis");
@@ -49,7 +49,7 @@ TEST(FinirModel, TheDiaeresisStaysInInfinitiveAndFutureOnly) {
   EXPECT_EQ(verb.slot(96), "ouïr");
 }
 
-TEST(HairModel, HaimesAndHaitesKeepTheDiaeresisInPlaceOfTheCircumflex) {
+TEST(hair_model, haimes_and_haites_keep_the_diaeresis_in_place_of_the_circumflex) {
   const ByRule verb("haïr");
   EXPECT_EQ(verb.result.model, "haïr");
   EXPECT_EQ(verb.tense(0), "hais | hais | hait | haïssons | haïssez | haïssent");
@@ -57,7 +57,7 @@ TEST(HairModel, HaimesAndHaitesKeepTheDiaeresisInPlaceOfTheCircumflex) {
   EXPECT_EQ(verb.tense(54), "haïsse | haïsses | haït | haïssions | haïssiez | haïssent");
 }
 
-TEST(HairModel, BuildsTheOtherTenses) {
+TEST(hair_model, builds_the_other_tenses) {
   const ByRule verb("haïr");
   EXPECT_EQ(verb.slot(6), "haïssais");
   EXPECT_EQ(verb.slot(18), "haïrai");
@@ -68,7 +68,7 @@ TEST(HairModel, BuildsTheOtherTenses) {
   EXPECT_EQ(verb.slot(99), "haï");
 }
 
-TEST(HairModel, KeepsAPrefix) {
+TEST(hair_model, keeps_a_prefix) {
   const ByRule verb("s'entre-haïr", engine::kEtre);
   EXPECT_EQ(verb.result.model, "haïr");
   EXPECT_EQ(verb.slot(0), "s'entre-hais");

@@ -81,7 +81,7 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.infinitive; }
 
 class ThirdGroupRow : public ::testing::TestWithParam<Row> {};
 
-TEST_P(ThirdGroupRow, ReachesItsModel) {
+TEST_P(ThirdGroupRow, reaches_its_model) {
   const ByRule verb(GetParam().infinitive);
   EXPECT_FALSE(verb.result.isRefused);
   EXPECT_EQ(verb.result.model, GetParam().model);
@@ -95,7 +95,7 @@ std::string nameOfRow(const ::testing::TestParamInfo<Row>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Dispatch, ThirdGroupRow, ::testing::ValuesIn(kRows), nameOfRow);
 
-TEST(ThirdGroupDispatch, EveryOneOfThe60RowsIsTried) {
+TEST(third_group_dispatch, every_one_of_the_60_rows_is_tried) {
   int order = 0;
   for (const Row& row : kRows) {
     EXPECT_LE(row.order, order + 1);
@@ -104,7 +104,7 @@ TEST(ThirdGroupDispatch, EveryOneOfThe60RowsIsTried) {
   EXPECT_EQ(order, 60);
 }
 
-TEST(ThirdGroupDispatch, LongerEndingsWin) {
+TEST(third_group_dispatch, longer_endings_win) {
   EXPECT_EQ(ByRule("répandre").result.model, "épandre");
   EXPECT_EQ(ByRule("apprendre").result.model, "prendre") << "not endre";
   EXPECT_EQ(ByRule("étreindre").result.model, "reindre") << "not eindre";
@@ -120,7 +120,7 @@ TEST(ThirdGroupDispatch, LongerEndingsWin) {
   EXPECT_EQ(ByRule("survivre").result.model, "vivre");
 }
 
-TEST(ThirdGroupDispatch, VerbsInIrOfTheThirdGroupDoNotReachTheSecond) {
+TEST(third_group_dispatch, verbs_in_ir_of_the_third_group_do_not_reach_the_second) {
   for (const std::string_view verb :
        {"bouillir", "cueillir", "tressaillir", "dormir", "partir", "servir", "sortir", "courir",
         "ouvrir", "acquérir", "sentir", "mentir", "tenir", "venir", "devenir", "vêtir", "fuir",
@@ -128,17 +128,17 @@ TEST(ThirdGroupDispatch, VerbsInIrOfTheThirdGroupDoNotReachTheSecond) {
     EXPECT_NE(ByRule(verb).result.model, "finir") << verb;
 }
 
-TEST(ThirdGroupDispatch, TheEndingEntirTakesRalentir) {
+TEST(third_group_dispatch, the_ending_entir_takes_ralentir) {
   EXPECT_EQ(ByRule("ralentir").result.model, "entir");
   EXPECT_EQ(ByRule("ralentir").slot(0), "ralens");
 }
 
-TEST(ThirdGroupDispatch, TheEndingPartirTakesRepartirWithAnAccent) {
+TEST(third_group_dispatch, the_ending_partir_takes_repartir_with_an_accent) {
   EXPECT_EQ(ByRule("répartir").result.model, "partir");
   EXPECT_EQ(ByRule("répartir").slot(0), "répars");
 }
 
-TEST(ThirdGroupDispatch, TheBareCroitreIsLeftAlone) {
+TEST(third_group_dispatch, the_bare_croitre_is_left_alone) {
   const ByRule verb("croître");
   EXPECT_FALSE(verb.result.isRefused);
   EXPECT_EQ(verb.result.model, "");
@@ -146,7 +146,7 @@ TEST(ThirdGroupDispatch, TheBareCroitreIsLeftAlone) {
     EXPECT_EQ(verb.slot(slot), slot == 96 ? "croître" : "") << slot;
 }
 
-TEST(ThirdGroupDispatch, AnInfinitiveInOirThatNoRowClaimsIsRefused) {
+TEST(third_group_dispatch, an_infinitive_in_oir_that_no_row_claims_is_refused) {
   for (const std::string_view verb : {"gloir", "oir", "chaloir", "seoir", "soir"}) {
     const ByRule result(verb);
     EXPECT_TRUE(result.result.isRefused) << verb;
@@ -155,7 +155,7 @@ TEST(ThirdGroupDispatch, AnInfinitiveInOirThatNoRowClaimsIsRefused) {
   }
 }
 
-TEST(ThirdGroupDispatch, EveryOtherEndingIsRefusedAndTheTableEmptied) {
+TEST(third_group_dispatch, every_other_ending_is_refused_and_the_table_emptied) {
   for (const std::string_view verb : {"", "x", "bla", "croire", "suffire", "absoudr", "Finir!",
                                       "finIR", "être", "r", "re", "dre"}) {
     const ByRule result(verb);
@@ -165,7 +165,7 @@ TEST(ThirdGroupDispatch, EveryOtherEndingIsRefusedAndTheTableEmptied) {
   }
 }
 
-TEST(ThirdGroupDispatch, WhileEditingNothingIsRefused) {
+TEST(third_group_dispatch, while_editing_nothing_is_refused) {
   for (const std::string_view verb : {"bla", "gloir"}) {
     const ByRule result(verb, engine::kAvoir, true);
     EXPECT_FALSE(result.result.isRefused) << verb;
@@ -174,7 +174,7 @@ TEST(ThirdGroupDispatch, WhileEditingNothingIsRefused) {
   }
 }
 
-TEST(ThirdGroupDispatch, WhileEditingAKnownEndingIsConjugated) {
+TEST(third_group_dispatch, while_editing_a_known_ending_is_conjugated) {
   EXPECT_EQ(ByRule("finir", engine::kAvoir, true).slot(0), "finis");
 }
 

@@ -142,29 +142,29 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.infinitive; }
 
 class ThirdGroupModel : public ::testing::TestWithParam<Row> {};
 
-TEST_P(ThirdGroupModel, WritesItsPresent) {
+TEST_P(ThirdGroupModel, writes_its_present) {
   EXPECT_EQ(ByRule(GetParam().infinitive).tense(0), GetParam().present);
 }
 
-TEST_P(ThirdGroupModel, BuildsTheFutureOnItsBase) {
+TEST_P(ThirdGroupModel, builds_the_future_on_its_base) {
   EXPECT_EQ(ByRule(GetParam().infinitive).slot(18), GetParam().futureJe);
 }
 
-TEST_P(ThirdGroupModel, BuildsThePasseSimpleOnItsBase) {
+TEST_P(ThirdGroupModel, builds_the_passe_simple_on_its_base) {
   EXPECT_EQ(ByRule(GetParam().infinitive).slot(12), GetParam().pastJe);
 }
 
-TEST_P(ThirdGroupModel, WritesItsParticipleWithTheMarkerForEtre) {
+TEST_P(ThirdGroupModel, writes_its_participle_with_the_marker_for_etre) {
   const std::string participle(GetParam().participle);
   EXPECT_EQ(ByRule(GetParam().infinitive).slot(99), participle);
   EXPECT_EQ(ByRule(GetParam().infinitive, engine::kEtre).slot(99), participle + "(e)");
 }
 
-TEST_P(ThirdGroupModel, IsTheModelOfItsVerb) {
+TEST_P(ThirdGroupModel, is_the_model_of_its_verb) {
   EXPECT_EQ(ByRule(GetParam().infinitive).result.model, GetParam().model);
 }
 
-TEST_P(ThirdGroupModel, BuildsImperfectAndPresentParticipleOnNous) {
+TEST_P(ThirdGroupModel, builds_imperfect_and_present_participle_on_nous) {
   const ByRule verb(GetParam().infinitive);
   const std::string nous = verb.slot(3);
   const std::string stem = nous.substr(0, nous.size() - 3);
@@ -173,7 +173,7 @@ TEST_P(ThirdGroupModel, BuildsImperfectAndPresentParticipleOnNous) {
   EXPECT_EQ(verb.slot(98), stem + "ant");
 }
 
-TEST_P(ThirdGroupModel, BuildsTheConditionalOnTheFuture) {
+TEST_P(ThirdGroupModel, builds_the_conditional_on_the_future) {
   const ByRule verb(GetParam().infinitive);
   const std::string future = verb.slot(18);
   EXPECT_EQ(verb.slot(77), future.substr(0, future.size() - 2) + "aient");
@@ -185,9 +185,11 @@ std::string nameOfRow(const ::testing::TestParamInfo<Row>& info) {
 
 INSTANTIATE_TEST_SUITE_P(All, ThirdGroupModel, ::testing::ValuesIn(kRows), nameOfRow);
 
-TEST(ThirdGroupModels, Are58) { EXPECT_EQ(std::size(kRows) + 1, 58U) << "asseoir is on its own"; }
+TEST(third_group_models, are_58) {
+  EXPECT_EQ(std::size(kRows) + 1, 58U) << "asseoir is on its own";
+}
 
-TEST(PrendreModel, Apprendre) {
+TEST(prendre_model, apprendre) {
   const ByRule verb("apprendre");
   EXPECT_EQ(verb.tense(12), "appris | appris | apprit | apprîmes | apprîtes | apprirent");
   EXPECT_EQ(verb.tense(48),
@@ -196,14 +198,14 @@ TEST(PrendreModel, Apprendre) {
   EXPECT_EQ(verb.tense(90), "apprends | apprenons | apprenez");
 }
 
-TEST(CevoirModel, Recevoir) {
+TEST(cevoir_model, recevoir) {
   const ByRule verb("recevoir");
   EXPECT_EQ(verb.tense(12), "reçus | reçus | reçut | reçûmes | reçûtes | reçurent");
   EXPECT_EQ(verb.slot(48), "reçoive");
   EXPECT_EQ(verb.slot(51), "recevions");
 }
 
-TEST(VenirModel, Revenir) {
+TEST(venir_model, revenir) {
   const ByRule verb("revenir");
   EXPECT_EQ(verb.tense(12), "revins | revins | revint | revînmes | revîntes | revinrent");
   EXPECT_EQ(verb.tense(54),
@@ -212,7 +214,7 @@ TEST(VenirModel, Revenir) {
   EXPECT_EQ(verb.slot(99), "revenu");
 }
 
-TEST(TenirModel, Retenir) {
+TEST(tenir_model, retenir) {
   const ByRule verb("retenir");
   EXPECT_EQ(verb.tense(12), "retins | retins | retint | retînmes | retîntes | retinrent");
   EXPECT_EQ(verb.tense(54),
@@ -220,7 +222,7 @@ TEST(TenirModel, Retenir) {
   EXPECT_EQ(verb.slot(53), "retiennent");
 }
 
-TEST(AsseoirModel, EveryFormIsDoubleWithTheOiFormFirst) {
+TEST(asseoir_model, every_form_is_double_with_the_oi_form_first) {
   const ByRule verb("rasseoir");
   EXPECT_EQ(verb.tense(0),
             "rassois/rassieds | rassois/rassieds | rassoit/rassied | rassoyons/rasseyons | "
@@ -237,14 +239,14 @@ TEST(AsseoirModel, EveryFormIsDoubleWithTheOiFormFirst) {
   EXPECT_EQ(verb.slot(98), "rassoyant/rasseyant");
 }
 
-TEST(AsseoirModel, ParticipleAndPasseSimpleAreSingle) {
+TEST(asseoir_model, participle_and_passe_simple_are_single) {
   const ByRule verb("asseoir");
   EXPECT_EQ(verb.slot(99), "assis");
   EXPECT_EQ(verb.tense(12), "assis | assis | assit | assîmes | assîtes | assirent");
   EXPECT_EQ(verb.slot(54), "assisse");
 }
 
-TEST(AsseoirModel, ImperativeAndSubjunctiveAreDouble) {
+TEST(asseoir_model, imperative_and_subjunctive_are_double) {
   const ByRule verb("asseoir");
   EXPECT_EQ(verb.tense(90), "assois/assieds | assoyons/asseyons | assoyez/asseyez");
   EXPECT_EQ(verb.tense(48),
@@ -252,29 +254,29 @@ TEST(AsseoirModel, ImperativeAndSubjunctiveAreDouble) {
             "assoyiez/asseyiez | assoient/asseyent");
 }
 
-TEST(VouloirModel, TheImperativeHasAMissingVariantBeforeTheSlash) {
+TEST(vouloir_model, the_imperative_has_a_missing_variant_before_the_slash) {
   EXPECT_EQ(ByRule("vouloir").tense(90), "veuille/veux |  -- /voulons | veuillez/voulez");
   EXPECT_EQ(ByRule("revouloir").tense(90),
             "reveuille/reveux |  -- /revoulons | reveuillez/revoulez");
 }
 
-TEST(VouloirModel, TheSubjunctiveIsItsOwn) {
+TEST(vouloir_model, the_subjunctive_is_its_own) {
   EXPECT_EQ(ByRule("vouloir").tense(48),
             "veuille | veuilles | veuille | voulions | vouliez | veuillent");
 }
 
-TEST(ValoirModel, TheSubjunctiveIsItsOwn) {
+TEST(valoir_model, the_subjunctive_is_its_own) {
   EXPECT_EQ(ByRule("valoir").tense(48), "vaille | vailles | vaille | valions | valiez | vaillent");
 }
 
-TEST(FaireModel, TheSubjunctiveIsItsOwn) {
+TEST(faire_model, the_subjunctive_is_its_own) {
   const ByRule verb("refaire");
   EXPECT_EQ(verb.tense(48), "refasse | refasses | refasse | refassions | refassiez | refassent");
   EXPECT_EQ(verb.tense(90), "refais | refaisons | refaites");
   EXPECT_EQ(verb.slot(12), "refis");
 }
 
-TEST(DireModel, OnlyDireAndRedireHaveDites) {
+TEST(dire_model, only_dire_and_redire_have_dites) {
   EXPECT_EQ(ByRule("dire").slot(4), "dites");
   EXPECT_EQ(ByRule("redire").slot(4), "redites");
   EXPECT_EQ(ByRule("contredire").slot(4), "contredisez");
@@ -282,9 +284,9 @@ TEST(DireModel, OnlyDireAndRedireHaveDites) {
   EXPECT_EQ(ByRule("surredire").slot(4), "surredisez");
 }
 
-TEST(DireModel, TheImperativeFollowsDites) { EXPECT_EQ(ByRule("dire").slot(92), "dites"); }
+TEST(dire_model, the_imperative_follows_dites) { EXPECT_EQ(ByRule("dire").slot(92), "dites"); }
 
-TEST(RaireModel, HasNoPasseSimpleAndSoNoImperfectSubjunctive) {
+TEST(raire_model, has_no_passe_simple_and_so_no_imperfect_subjunctive) {
   const ByRule verb("traire");
   EXPECT_EQ(verb.tense(12), " |  |  |  |  | ");
   EXPECT_EQ(verb.tense(54), " |  |  |  |  | ");
@@ -292,29 +294,31 @@ TEST(RaireModel, HasNoPasseSimpleAndSoNoImperfectSubjunctive) {
   EXPECT_EQ(verb.slot(48), "traie");
 }
 
-TEST(DevoirModel, TheParticipleIsDuDue) {
+TEST(devoir_model, the_participle_is_du_due) {
   EXPECT_EQ(ByRule("devoir").slot(99), "dû, due");
   EXPECT_EQ(ByRule("devoir", engine::kEtre).slot(99), "dû, due(e)");
 }
 
-TEST(SoudreModel, TheParticipleIsSousSoute) {
+TEST(soudre_model, the_participle_is_sous_soute) {
   EXPECT_EQ(ByRule("dissoudre").slot(99), "dissous, dissoute");
   EXPECT_EQ(ByRule("dissoudre", engine::kEtre).slot(99), "dissous, dissoute(e)");
 }
 
-TEST(QuerirModel, IlsAcquieerentIsKept) { EXPECT_EQ(ByRule("acquérir").slot(5), "acquièerent"); }
+TEST(querir_model, ils_acquieerent_is_kept) {
+  EXPECT_EQ(ByRule("acquérir").slot(5), "acquièerent");
+}
 
-TEST(QuerirModel, TheSubjunctiveFollowsTheKeptForm) {
+TEST(querir_model, the_subjunctive_follows_the_kept_form) {
   EXPECT_EQ(ByRule("acquérir").tense(48),
             "acquièere | acquièeres | acquièere | acquérions | acquériez | acquièerent");
 }
 
-TEST(LireModel, IlRelirIsKept) {
+TEST(lire_model, il_relir_is_kept) {
   EXPECT_EQ(ByRule("lire").slot(2), "lir");
   EXPECT_EQ(ByRule("relire").slot(2), "relir");
 }
 
-TEST(SaillirModel, ConjugatesLikeCueillirWithTheFutureOnTheInfinitive) {
+TEST(saillir_model, conjugates_like_cueillir_with_the_future_on_the_infinitive) {
   const ByRule verb("tressaillir");
   EXPECT_EQ(verb.tense(0),
             "tressaille | tressailles | tressaille | tressaillons | tressaillez | tressaillent");
@@ -322,20 +326,20 @@ TEST(SaillirModel, ConjugatesLikeCueillirWithTheFutureOnTheInfinitive) {
   EXPECT_EQ(verb.slot(90), "tressaille");
 }
 
-TEST(CroitreModel, IlAccroitHasItsCircumflex) {
+TEST(croitre_model, il_accroit_has_its_circumflex) {
   EXPECT_EQ(ByRule("accroître").slot(2), "accroît");
   EXPECT_EQ(ByRule("accroître").slot(15), "accrûmes");
 }
 
-TEST(PlaireModel, IlPlaitHasItsCircumflex) { EXPECT_EQ(ByRule("plaire").slot(2), "plaît"); }
+TEST(plaire_model, il_plait_has_its_circumflex) { EXPECT_EQ(ByRule("plaire").slot(2), "plaît"); }
 
-TEST(VivreModel, VivreAndSurvivre) {
+TEST(vivre_model, vivre_and_survivre) {
   EXPECT_EQ(ByRule("vivre").slot(99), "vécu");
   EXPECT_EQ(ByRule("survivre").slot(99), "survécu");
   EXPECT_EQ(ByRule("vivre").tense(12), "vécus | vécus | vécut | vécûmes | vécûtes | vécurent");
 }
 
-TEST(IEndingsWithoutABase, AreLiteralAndDoubleTheI) {
+TEST(i_endings_without_a_base, are_literal_and_double_the_i) {
   EXPECT_EQ(ByRule("conduire").tense(12),
             "conduiis | conduiis | conduiit | conduiîmes | conduiîtes | conduiirent");
   EXPECT_EQ(ByRule("conduire").slot(54), "conduiisse");
@@ -345,13 +349,13 @@ TEST(IEndingsWithoutABase, AreLiteralAndDoubleTheI) {
   EXPECT_EQ(ByRule("nuire").slot(12), "nuiis");
 }
 
-TEST(BuilderDefault, IsIEndingsOnTheInfinitiveLessTwoLetters) {
+TEST(builder_default, is_i_endings_on_the_infinitive_less_two_letters) {
   EXPECT_EQ(ByRule("rendre").slot(12), "rendis");
   EXPECT_EQ(ByRule("ouvrir").slot(12), "ouvris");
   EXPECT_EQ(ByRule("vêtir").slot(12), "vêtis");
 }
 
-TEST(CueillirModel, TheFutureFollowsJe) {
+TEST(cueillir_model, the_future_follows_je) {
   EXPECT_EQ(ByRule("cueillir").slot(18), "cueillerai");
   EXPECT_EQ(ByRule("cueillir").slot(90), "cueille");
 }
