@@ -13,7 +13,9 @@ Program::Program(const Environment& given)
       userVerbs_(prefix_, 0, given.messages, given.files),  // their number comes with the settings
       shell_(given.messages, [this] { settings_.ResetSettings(); }),
       driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}),
-      window_(driver_),
+      silentDriver_({index_, userVerbs_, builtinVerbs_, rules_, silence_}),
+      norm_(index_, builtinVerbs_, rules_),
+      window_({driver_, silentDriver_, norm_}),
       pointer_(window_),
       settings_({prefix_, userVerbs_, headingColours(), given.messages, given.end, given.files}),
       closing_(window_, settings_, given.messages, given.end),
@@ -24,7 +26,7 @@ Program::Program(const Environment& given)
                 [this, verb = given.verb] {
                   if (verb) editing_.conjugate(*verb);
                 }}),
-      viewMenu_(window_, chooser_),
+      viewMenu_(window_, chooser_, given.store),
       editing_(window_, pointer_, userVerbs_, given.messages),
       typing_(window_, given.store, given.messages),
       printing_(window_, given.messages),

@@ -13,6 +13,8 @@
 #include "app/lifetime/settings_keeper.h"
 #include "app/lifetime/start_up.h"
 #include "app/list/list_menu.h"
+#include "app/logic/norm_of_verb.h"
+#include "app/logic/silent_shell.h"
 #include "app/main_window/main_window.h"
 #include "app/main_window/window_pointer.h"
 #include "app/main_window/window_shell.h"
@@ -69,6 +71,9 @@ class Program {
   dictionary::BuiltinVerbTable builtinVerbs_;
   groups::VerbGroups rules_;
   engine::Driver driver_;
+  SilentShell silence_;
+  engine::Driver silentDriver_;
+  NormOfVerb norm_;
   MainWindow window_;
   WindowPointer pointer_;
   SettingsKeeper settings_;

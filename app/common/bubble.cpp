@@ -3,6 +3,7 @@
 
 #include <QTextDocument>
 #include <QToolTip>
+#include <QVariant>
 
 namespace odmiennik::app {
 namespace {
@@ -11,6 +12,9 @@ namespace {
 // way.
 constexpr QPoint kTipOffset(2, 16);
 constexpr int kGap = 4;
+
+// What the widget said of itself before it had a bubble.
+constexpr const char* kBefore = "describedBefore";
 
 }  // namespace
 
@@ -21,14 +25,16 @@ QString asTip(const QString& text) {
 void showBubble(QWidget& widget, const QString& text) {
   const QPoint below(0, widget.height() + kGap);
   QToolTip::showText(widget.mapToGlobal(below) - kTipOffset, asTip(text), &widget);
+  widget.setProperty(kBefore, widget.accessibleDescription());
   widget.setAccessibleDescription(text);
 }
 
 void hideBubble(QWidget& widget) {
-  const QString text = widget.accessibleDescription();
-  if (text.isEmpty()) return;
-  if (QToolTip::text() == asTip(text)) QToolTip::hideText();
-  widget.setAccessibleDescription({});
+  const QVariant before = widget.property(kBefore);
+  if (!before.isValid()) return;
+  if (QToolTip::text() == asTip(widget.accessibleDescription())) QToolTip::hideText();
+  widget.setAccessibleDescription(before.toString());
+  widget.setProperty(kBefore, {});
 }
 
 }  // namespace odmiennik::app

@@ -89,6 +89,11 @@ QColor panelColour(const QPalette& palette) {
                kShareOfHighlight);
 }
 
+QColor departureColour(const QPalette& palette) {
+  constexpr QRgb kOchre = 0xFFC77700;
+  return visibleColour(QColor::fromRgb(kOchre), palette);
+}
+
 QColor separatorColour(const QPalette& palette) {
   constexpr float kShareOfText = 0.22F;
   return mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), kShareOfText);

@@ -52,6 +52,9 @@ inline constexpr double kVisibleContrast = 3;
 // The ground behind the entry box, which marks the place to start.
 [[nodiscard]] QColor panelColour(const QPalette& palette);
 
+// The mark of a form that departs from today's norm.
+[[nodiscard]] QColor departureColour(const QPalette& palette);
+
 // Thin lines between the blocks, and the edges of what cannot be typed into.
 [[nodiscard]] QColor separatorColour(const QPalette& palette);
 

@@ -73,6 +73,10 @@ bool UserStore::isCompletionOn() const { return isOne(kCompletionKey); }
 
 void UserStore::setCompletionOn(bool isOn) { write(kCompletionKey, isOn ? 1 : 0); }
 
+bool UserStore::isNormShown() const { return settings_->value(pathOf(kNormKey), 0).toInt() == 1; }
+
+void UserStore::setNormShown(bool isShown) { write(kNormKey, isShown ? 1 : 0); }
+
 int UserStore::helpZoom() const { return settings_->value(pathOf(kHelpZoomKey), 100).toInt(); }
 
 void UserStore::setHelpZoom(int percent) { write(kHelpZoomKey, percent); }

@@ -8,8 +8,9 @@
 
 namespace odmiennik::app {
 
-// Whole numbers in the section "Ustawienia". A value that was never written counts as 1; one that
-// is no number as 0. Every change is on its way to the disk before the call returns.
+// Whole numbers in the section "Ustawienia". A value that was never written counts as 1 unless
+// it says otherwise; one that is no number as 0. Every change is on its way to the disk before the
+// call returns.
 class UserStore {
  public:
   // The store of the user who runs the program.
@@ -29,6 +30,11 @@ class UserStore {
   // "Autouzupełnianie": whether the entry box completes what is typed.
   [[nodiscard]] bool isCompletionOn() const;
   void setCompletionOn(bool isOn);
+
+  // "Norma": whether the forms of today's norm are shown; only 1 asks for them, nothing kept does
+  // not.
+  [[nodiscard]] bool isNormShown() const;
+  void setNormShown(bool isShown);
 
   // "Powiększenie pomocy": the size of the help's pages in percent; 100 when nothing is kept.
   [[nodiscard]] int helpZoom() const;

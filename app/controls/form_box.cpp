@@ -3,12 +3,14 @@
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
+#include <QPolygonF>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QStylePainter>
 #include <algorithm>
 
+#include "app/common/colours.h"
 #include "app/common/program_style.h"
 #include "app/common/text.h"
 
@@ -150,10 +152,28 @@ void FormBox::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void FormBox::paintEvent(QPaintEvent* event) {
-  if (style()->styleHint(ProgramStyle::kIsForPaper, nullptr, this) == 0)
-    QLineEdit::paintEvent(event);
-  else
-    paintForPaper();
+  if (style()->styleHint(ProgramStyle::kIsForPaper, nullptr, this) != 0) return paintForPaper();
+  QLineEdit::paintEvent(event);
+  if (isMarked_) paintMark();
+}
+
+void FormBox::markDeparture(const QString& norm) {
+  if (accessibleDescription() != norm) setAccessibleDescription(norm);
+  if (isMarked_ == !norm.isEmpty()) return;
+  isMarked_ = !norm.isEmpty();
+  update();
+}
+
+// A corner as of a folded page: seen by its shape, beside the letters and never over them.
+void FormBox::paintMark() {
+  constexpr double kShare = 0.3;  // of the box's height
+  const double size = std::max(5.0, height() * kShare);
+  const double right = width() - 1, top = 1;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(departureColour(palette()));
+  painter.drawPolygon(QPolygonF{{right - size, top}, {right, top}, {right, top + size}});
 }
 
 // The form alone: on paper there is neither a selection nor a caret.

@@ -43,6 +43,10 @@ class FormBox final : public QLineEdit {
   // Shows the form in letters of that width; 100 is that of the form's font.
   void setLetterWidth(int percent);
 
+  // Marks the form as departing from today's norm: a small corner at the box's upper right edge,
+  // and for the screen reader `norm`, which tells what the norm is. Empty: no mark. Never on paper.
+  void markDeparture(const QString& norm);
+
   // Whether some of the text lies outside the box.
   [[nodiscard]] bool isClipped() const;
 
@@ -65,11 +69,13 @@ class FormBox final : public QLineEdit {
 
  private:
   void paintForPaper();
+  void paintMark();
   [[nodiscard]] int room() const;
   void keepText(const QString& text);
 
   QString kept_;  // the text, for as long as the box is read-only
   bool isShowing_ = false;
+  bool isMarked_ = false;
   QFont formFont_;
 };
 

@@ -66,6 +66,8 @@ inline constexpr MenuRow kMainMenu[] = {
     {MenuKind::menu, "mnuWidok", "&Widok", MenuState::ready},
     {MenuKind::checkableItem, "mnuWidokNaWierzchu", "&Zawsze na wierzchu", MenuState::ready},
     {MenuKind::item, "mnuWidokKolory", "&Kolory", MenuState::ready},
+    {MenuKind::separator, "mnuWidokLinia1", ""},
+    {MenuKind::checkableItem, "mnuWidokNorma", "&Formy według dzisiejszej normy", MenuState::ready},
 
     {MenuKind::menu, "mnuPomoc", "Pomo&c", MenuState::ready},
     {MenuKind::item, "mnuPomocTematy", "&Tematy pomocy", MenuState::ready, "F1"},

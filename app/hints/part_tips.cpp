@@ -71,7 +71,8 @@ std::string PartTips::formTipOf(int slot) const {
                   .text = text,
                   .flags = conjugation.flags,
                   .isOwn = isShown && conjugation.source == engine::Source::user,
-                  .isEditing = window_.isEditing()});
+                  .isEditing = window_.isEditing(),
+                  .norm = isShown ? window_.normOf(slot) : std::string_view()});
 }
 
 }  // namespace odmiennik::app

@@ -193,12 +193,6 @@ std::string phraseOrReason(const ShownForm& shown) {
   return formPhrase(shown.slot, shown.text, shown.flags);
 }
 
-std::string normLine(std::string_view norm) {
-  if (norm.empty()) return {};
-  if (norm == engine::kShownMissing) return std::string(hint(HintId::normLacksForm));
-  return hint(HintId::norm, engine::toUtf8(norm));
-}
-
 }  // namespace
 
 std::string formPhrase(int slot, std::string_view text, const engine::EngineFlags& flags) {
@@ -206,6 +200,12 @@ std::string formPhrase(int slot, std::string_view text, const engine::EngineFlag
   Phrase phrase(slot, flags);
   for (const std::string& variant : variantsOf(slot, text, flags.hAspirate)) phrase.add(variant);
   return phrase.utf8();
+}
+
+std::string normLine(std::string_view norm) {
+  if (norm.empty()) return {};
+  if (norm == engine::kShownMissing) return std::string(hint(HintId::normLacksForm));
+  return hint(HintId::norm, engine::toUtf8(norm));
 }
 
 std::string formTip(const ShownForm& shown) {

@@ -28,6 +28,10 @@ struct ShownForm {
   std::string_view norm = {};  // what today's norm has in its place, if it departs
 };
 
+// What is told of a form that departs from today's norm, UTF-8: normLine("lit") -> "Dzisiejsza
+// norma: lit"; of a form that the norm lacks, " -- ", it says so; nothing of the empty text.
+[[nodiscard]] std::string normLine(std::string_view norm);
+
 // What a form box says of itself, line below line, UTF-8: the phrase, the norm that it departs
 // from, where it comes from, what the keys do. Nothing of a box that is empty, but for the entry
 // box, which says what is typed there. Example: "je parle", below it "F1: kiedy używa się tej

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "app/logic/silent_shell.h"
 #include "engine/driver.h"
 
 namespace odmiennik::app {
@@ -36,10 +37,6 @@ class NormOfVerb {
               std::uint8_t& /*storedAux*/) override {
       return false;
     }
-  };
-  struct SilentShell final : engine::Shell {
-    void show(engine::Notice /*notice*/) override {}
-    void resetSettings() override {}
   };
 
   void compareSlots(const engine::Display& shown);

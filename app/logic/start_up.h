@@ -20,6 +20,7 @@ inline constexpr std::string_view kStoreSection = "Ustawienia";
 inline constexpr std::string_view kTipAtStartKey = "Pokazuj poradę dnia";
 inline constexpr std::string_view kCompletionKey = "Autouzupełnianie";
 inline constexpr std::string_view kHelpZoomKey = "Powiększenie pomocy";
+inline constexpr std::string_view kNormKey = "Norma";
 
 struct Version {
   int major = 0;

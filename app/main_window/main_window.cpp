@@ -9,6 +9,7 @@
 #include "app/common/text.h"
 #include "app/controls/form_surface.h"
 #include "app/controls/main_menu.h"
+#include "app/logic/form_phrase.h"
 #include "app/logic/spoken_verb.h"
 #include "app/logic/start_up.h"
 #include "engine/windows1252.h"
@@ -54,8 +55,8 @@ class ConjugationBackup {
 
 }  // namespace
 
-MainWindow::MainWindow(engine::Driver& driver)
-    : driver_(driver),
+MainWindow::MainWindow(Conjugators conjugators)
+    : conjugators_(conjugators),
       surface_(*new FormSurface(this)),
       controls_(surface_),
       columns_(controls_),
@@ -114,7 +115,8 @@ void MainWindow::conjugate() {
   const QScopedValueRollback<bool> conjugating(isConjugating_, true);
   const std::string typed = toFrench(boxes_.entry().text());
   ConjugationBackup backup(conjugation_);
-  const engine::Outcome outcome = driver_.conjugate(conjugation_, typed);
+  isAuxiliaryChosen_ = false;
+  const engine::Outcome outcome = conjugators_.driver.conjugate(conjugation_, typed);
   if (outcome == engine::Outcome::reset) return;
   backup.discard();
   emit conjugated();
@@ -126,7 +128,8 @@ void MainWindow::conjugate() {
 void MainWindow::conjugateForEditing() {
   const std::string typed = toFrench(boxes_.entry().text());
   ConjugationBackup backup(conjugation_);
-  if (driver_.conjugateForEditing(conjugation_, typed) == engine::Outcome::reset) return;
+  if (conjugators_.driver.conjugateForEditing(conjugation_, typed) == engine::Outcome::reset)
+    return;
   backup.discard();
   showConjugation();
 }
@@ -135,11 +138,44 @@ void MainWindow::setEditing(bool isEditing) {
   const FormColumns::Pause pause(columns_);
   isEditing_ = isEditing;
   boxes_.setEditable(isEditing);
+  showDepartures();
+}
+
+// The auxiliary that the user has chosen and what is being typed stay.
+void MainWindow::setVariety(engine::Variety variety) {
+  conjugation_.variety = variety;
+  if (isEditing_ || infinitive().empty()) return;
+  const QString typed = boxes_.entry().text();
+  const std::uint8_t chosen = auxiliary();
+  conjugators_.silentDriver.conjugate(conjugation_, infinitive());
+  if (isAuxiliaryChosen_ && chosen != auxiliary())
+    engine::Driver::toggleAuxiliary(conjugation_, chosen == engine::kAvoir, false);
+  showConjugation();
+  if (typed != boxes_.entry().text()) boxes_.entry().setText(typed);
+}
+
+std::string_view MainWindow::normOf(int slot) const {
+  return isEditing_ ? std::string_view() : conjugators_.norm.of(slot);
+}
+
+// A form that was typed and not saved is none of the program's.
+void MainWindow::showDepartures() {
+  if (isEditing_)
+    conjugators_.norm.forget();
+  else
+    conjugators_.norm.compareWith(conjugation_, isAuxiliaryChosen_);
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+    FormBox& box = boxes_[slot];
+    const bool isShown =
+        box.text() == fromFrench(conjugation_.shown.boxes[static_cast<std::size_t>(slot)]);
+    box.markDeparture(isShown ? fromUtf8(normLine(conjugators_.norm.of(slot))) : QString());
+  }
 }
 
 // deliberate: the whole table is displayed, the entry box with it, also where nothing was
 // conjugated. While a verb is edited the boxes are the user's.
 void MainWindow::toggleAuxiliary(bool isAvoir) {
+  isAuxiliaryChosen_ = true;
   engine::Driver::toggleAuxiliary(conjugation_, isAvoir, isEditing_);
   if (isEditing_)
     auxiliary_.show(conjugation_);
@@ -173,6 +209,7 @@ void MainWindow::showConjugation() {
   boxes_.show(conjugation_.shown);
   information_.show(conjugation_.information);
   auxiliary_.show(conjugation_);
+  showDepartures();
   surface_.setUpdatesEnabled(true);
 }
 

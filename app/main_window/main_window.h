@@ -6,6 +6,7 @@
 #include "app/controls/controls.h"
 #include "app/controls/form_columns.h"
 #include "app/layout/window_scaling.h"
+#include "app/logic/norm_of_verb.h"
 #include "app/main_window/auxiliary_box.h"
 #include "app/main_window/form_boxes.h"
 #include "app/main_window/live_colours.h"
@@ -16,12 +17,20 @@ namespace odmiennik::app {
 
 class FormSurface;
 
-// Assembled from its parts; holds the conjugation that it shows. `driver` outlives it.
+// What conjugates for the window: with messages; without, where a verb is shown once more; and what
+// today's norm says of it. They outlive the window.
+struct Conjugators {
+  engine::Driver& driver;
+  engine::Driver& silentDriver;
+  NormOfVerb& norm;
+};
+
+// Assembled from its parts; holds the conjugation that it shows.
 class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(engine::Driver& driver);
+  explicit MainWindow(Conjugators conjugators);
   ~MainWindow() override;
 
   // Conjugates the entry box's text, shows it, and selects the text for the next verb; edit mode
@@ -30,6 +39,13 @@ class MainWindow final : public QMainWindow {
 
   // Fills the boxes with the conjugation of the entry box's text as the starting point of editing.
   void conjugateForEditing();
+
+  // The forms that are asked for from now on; the shown verb is shown anew, unless it is edited.
+  void setVariety(engine::Variety variety);
+
+  // What today's norm has in the place of the form that a box shows (Windows-1252); empty where the
+  // form does not depart, is the user's own, or is being edited.
+  [[nodiscard]] std::string_view normOf(int slot) const;
 
   // The infinitive that the shown conjugation belongs to, Windows-1252.
   [[nodiscard]] std::string infinitive() const {
@@ -81,10 +97,13 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] QString spokenInformation() const;
   void tellInformation();
 
-  engine::Driver& driver_;
+  void showDepartures();
+
+  Conjugators conjugators_;
   engine::Conjugation conjugation_;
   bool isConjugating_ = false;
   bool isEditing_ = false;
+  bool isAuxiliaryChosen_ = false;  // by a click on its box, for the verb that is shown
   FormSurface& surface_;
   Controls controls_;
   FormColumns columns_;

@@ -3,6 +3,7 @@
 
 #include <QScreen>
 
+#include "app/common/user_store.h"
 #include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
 #include "app/platform/platform.h"
@@ -17,19 +18,32 @@ Screen screenOf(const QWidget& window) {
   return {size.width(), size.height(), twipsPerPixel, twipsPerPixel};
 }
 
+engine::Variety varietyOf(bool isNorm) {
+  return isNorm ? engine::Variety::norm : engine::Variety::system;
+}
+
 }  // namespace
 
-ViewMenu::ViewMenu(MainWindow& window, ColourChooser& chooser)
-    : window_(window), chooser_(chooser) {
+ViewMenu::ViewMenu(MainWindow& window, ColourChooser& chooser, UserStore& store)
+    : window_(window), chooser_(chooser), store_(store) {
   connect(&menuItem(*window.menuBar(), "mnuWidokNaWierzchu"), &QAction::triggered, this,
           &ViewMenu::setOnTop, Qt::QueuedConnection);
   connect(&menuItem(*window.menuBar(), "mnuWidokKolory"), &QAction::triggered, this,
           &ViewMenu::showColours, Qt::QueuedConnection);
+  QAction& norm = menuItem(*window.menuBar(), "mnuWidokNorma");
+  norm.setChecked(store.isNormShown());
+  window_.setVariety(varietyOf(norm.isChecked()));
+  connect(&norm, &QAction::toggled, this, &ViewMenu::showNorm);
 }
 
 // The check mark is the item's own.
 void ViewMenu::setOnTop(bool isOnTop) {
   platform::setAlwaysOnTop(window_.winId(), isOnTop, screenOf(window_));
+}
+
+void ViewMenu::showNorm(bool isShown) {
+  store_.setNormShown(isShown);
+  window_.setVariety(varietyOf(isShown));
 }
 
 void ViewMenu::showColours() { ColourWindow(window_.colours(), chooser_, &window_).exec(); }

@@ -7,19 +7,22 @@ namespace odmiennik::app {
 
 class ColourChooser;
 class MainWindow;
+class UserStore;
 
 class ViewMenu final : public QObject {
   Q_OBJECT
 
  public:
-  ViewMenu(MainWindow& window, ColourChooser& chooser);
+  ViewMenu(MainWindow& window, ColourChooser& chooser, UserStore& store);
 
  private:
   void setOnTop(bool isOnTop);
   void showColours();
+  void showNorm(bool isShown);
 
   MainWindow& window_;
   ColourChooser& chooser_;
+  UserStore& store_;
 };
 
 }  // namespace odmiennik::app

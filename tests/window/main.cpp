@@ -44,6 +44,7 @@ int main(int argumentCount, char** arguments) {
       {"locked_boxes", lockedBoxesSuite},
       {"menu", menuSuite},
       {"message_box", messageBoxSuite},
+      {"norm", normSuite},
       {"own_verbs", ownVerbsSuite},
       {"pointer", pointerSuite},
       {"print_queue", printQueueSuite},

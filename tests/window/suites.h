@@ -39,6 +39,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> lockedBoxesSuite();
 [[nodiscard]] std::unique_ptr<QObject> menuSuite();
 [[nodiscard]] std::unique_ptr<QObject> messageBoxSuite();
+[[nodiscard]] std::unique_ptr<QObject> normSuite();
 [[nodiscard]] std::unique_ptr<QObject> ownVerbsSuite();
 [[nodiscard]] std::unique_ptr<QObject> pointerSuite();
 [[nodiscard]] std::unique_ptr<QObject> printQueueSuite();

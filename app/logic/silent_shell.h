@@ -1,0 +1,13 @@
+// Where nothing is to be said: a verb conjugated for the program itself, or shown once more.
+#pragma once
+
+#include "engine/ports.h"
+
+namespace odmiennik::app {
+
+struct SilentShell final : engine::Shell {
+  void show(engine::Notice /*notice*/) override {}
+  void resetSettings() override {}
+};
+
+}  // namespace odmiennik::app
