@@ -12,7 +12,7 @@ inline constexpr int kLetterD = 4;  // the longest
 inline constexpr int kLetterE = 5;
 inline constexpr int kLetterX = 24;  // no verb begins with it
 
-struct NotingCommands final : MainCommands {
+struct NotingCommands final : app::MainCommands {
   [[nodiscard]] bool isEditing() const override { return isBeingEdited; }
   [[nodiscard]] bool edit() override { return note("edit"); }
   [[nodiscard]] bool newVerb() override { return note("new"); }
@@ -35,7 +35,7 @@ struct ListUnderTest {
       : folder(saved), verbs(folder.prefix(), count, messages) {
     main.show();
     verbs.tellOfChanges([this] { window.followUserVerbs(); });
-    window.showFor(ListPurpose::list);
+    window.showFor(app::ListPurpose::list);
     if (!QTest::qWaitForWindowActive(&window)) qFatal("the list does not become active");
   }
 

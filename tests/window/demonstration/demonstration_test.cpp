@@ -141,7 +141,7 @@ void DemonstrationSuite::inEditModeItAsksToSaveFirst() {
 
 // deliberate: edit mode is left like by every other command; what stops these stops it too.
 void DemonstrationSuite::anEditedVerbThatIsKeptKeepsItFromBeginning() {
-  struct Kept final : MainCommands {
+  struct Kept final : app::MainCommands {
     int asked = 0;
     bool isEditing() const override { return true; }
     bool edit() override { return ++asked == 0; }

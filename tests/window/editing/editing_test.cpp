@@ -220,7 +220,7 @@ void EditingSuite::theListLeavesEditModeFirst() {
   program_->box(0).setText("parlix");
   program_->messages.answer = Button::no;
   auto& commands = program_->program.editing();
-  QVERIFY(runListButton(ListButton::cmdEdytuj, "finir", commands));
+  QVERIFY(runListButton(app::ListButton::cmdEdytuj, "finir", commands));
   QCOMPARE(program_->messages.shown, Messages{MessageId::saveEditedVerb});
   QVERIFY(program_->isEditing());
   QCOMPARE(program_->form(0), "finis");

@@ -121,7 +121,7 @@ void ListCommandsSuite::deletingAVerbThatIsNotTheUsersChangesNothing() {
 void ListCommandsSuite::deleteModeShowsOneMovedButton() {
   ListUnderTest program({"finir", "aimer"}, 2);
   const QPoint designed = program.button("cmdOdmień").pos();
-  program.window.showFor(ListPurpose::deletion);
+  program.window.showFor(app::ListPurpose::deletion);
   QCOMPARE(program.window.windowTitle(), "Usuń czasownik");
   for (const char* name : {"cmdOdmień", "cmdEdytuj", "cmdNowy", "cmdDrukuj"})
     QVERIFY2(!program.button(name).isVisible(), name);
@@ -132,7 +132,7 @@ void ListCommandsSuite::deleteModeShowsOneMovedButton() {
 
 void ListCommandsSuite::aDoubleClickInDeleteModeDoesNothing() {
   ListUnderTest program({"finir"}, 1);
-  program.window.showFor(ListPurpose::deletion);
+  program.window.showFor(app::ListPurpose::deletion);
   program.list().setFocus();
   QTest::keyClick(&program.list(), Qt::Key_Return);
   const QPoint place = program.list().visualItemRect(program.list().item(0)).center();
@@ -145,9 +145,9 @@ void ListCommandsSuite::aDoubleClickInDeleteModeDoesNothing() {
 void ListCommandsSuite::openedAsAListItStandsAsDesignedAgain() {
   ListUnderTest program({"finir"}, 1);
   const QPoint designed = program.button("cmdUsuń").pos();
-  program.window.showFor(ListPurpose::deletion);
+  program.window.showFor(app::ListPurpose::deletion);
   QTRY_VERIFY(program.button("cmdUsuń").pos() != designed);
-  program.window.showFor(ListPurpose::list);
+  program.window.showFor(app::ListPurpose::list);
   QCOMPARE(program.window.windowTitle(), "Lista czasowników");
   QTRY_COMPARE(program.button("cmdUsuń").pos(), designed);
   for (const char* name : {"cmdOdmień", "cmdEdytuj", "cmdNowy", "cmdDrukuj"})
@@ -158,7 +158,7 @@ void ListCommandsSuite::aClosedListBeginsAgain() {
   ListUnderTest program({"finir"}, 1);
   program.choose(kLetterD);
   program.window.close();
-  program.window.showFor(ListPurpose::list);
+  program.window.showFor(app::ListPurpose::list);
   QCOMPARE(program.widget<QComboBox>("cmbLista").currentIndex(), 0);
   QCOMPARE(program.entries(), QStringList{"finir"});
 }
@@ -167,7 +167,7 @@ void ListCommandsSuite::escapeAndZamknijClose() {
   ListUnderTest program({"finir"}, 1);
   QTest::keyClick(&program.list(), Qt::Key_Escape);
   QVERIFY(!program.window.isVisible());
-  program.window.showFor(ListPurpose::list);
+  program.window.showFor(app::ListPurpose::list);
   program.press("cmdZamknij");
   QVERIFY(!program.window.isVisible());
   QVERIFY(program.main.isVisible());

@@ -198,11 +198,11 @@ void ListSuite::aLetterWithoutVerbsSaysSo() {
 
 void ListSuite::anEmptyListForDeletingSaysSo() {
   const ListUnderTest program({}, 0);
-  program.window.showFor(ListPurpose::deletion);
+  program.window.showFor(app::ListPurpose::deletion);
   QVERIFY(program.hint().isVisible());
   QCOMPARE(program.hint().text(),
            "Nie masz jeszcze własnych czasowników, więc nie ma czego usuwać.");
-  program.window.showFor(ListPurpose::list);
+  program.window.showFor(app::ListPurpose::list);
   QVERIFY(program.hint().text().contains("„Nowy”"));
 }
 

@@ -108,7 +108,7 @@ std::unique_ptr<QDialog> AccessibilitySuite::made(const QString& window) {
     auto list = std::make_unique<app::ListWindow>(program_->folder.path().string() + "/",
                                                   program_->program.userVerbs(),
                                                   program_->program.editing(), &parent);
-    list->showFor(ListPurpose::list);
+    list->showFor(app::ListPurpose::list);
     list->findChild<QComboBox*>("cmbLista")->setCurrentIndex(1);
     return list;
   }
