@@ -77,7 +77,8 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
                                                "mnuEdycjaWyszukaj &Wyszukaj"};
   QTest::newRow("mnuWidok") << "&Widok"
                             << QStringList{"mnuWidokNaWierzchu &Zawsze na wierzchu",
-                                           "mnuWidokKolory &Kolory"};
+                                           "mnuWidokKolory &Kolory", "mnuWidokLinia1 -",
+                                           "mnuWidokNorma &Formy według dzisiejszej normy"};
   QTest::newRow("mnuPomoc") << "Pomo&c"
                             << QStringList{"mnuPomocTematy &Tematy pomocy",
                                            "mnuPomocPoradaDnia &Porada dnia",
@@ -105,7 +106,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 35);
+  QCOMPARE(items, 37);
   QCOMPARE(names.size(), items);
 }
 
