@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 using tools::Paths;
 
 const std::string kData = ODMIENNIK_SOURCE_DIR "/data/";
+const std::string kTenses = kData + "tenses.txt";
 
 // The source under test; in memory where the system has such a folder.
 const std::string& sourceName() {
@@ -38,29 +39,39 @@ struct Kind {
   Compile compile;
 };
 constexpr Kind kKinds[] = {
+    {"tenses",
+     [](const std::string& source, std::ostream& out) {
+       tools::generateTenses({source}, out);
+       tools::generateTenseHelp({source}, out);
+     }},
     {"models",
      [](const std::string& source, std::ostream& out) {
-       tools::generateRules("OtherGroups", {kData + "rules/third_group_dispatch.txt", source}, out);
+       tools::generateRules("OtherGroups",
+                            {kTenses, kData + "rules/third_group_dispatch.txt", source}, out);
      }},
     {"dispatch",
      [](const std::string& source, std::ostream& out) {
-       tools::generateRules("OtherGroups", {source, kData + "rules/third_group_models.txt"}, out);
+       tools::generateRules("OtherGroups",
+                            {kTenses, source, kData + "rules/third_group_models.txt"}, out);
      }},
     {"first_dispatch",
      [](const std::string& source, std::ostream& out) {
-       tools::generateRules("FirstGroup", {source, kData + "rules/first_group_models.txt"}, out);
+       tools::generateRules("FirstGroup", {kTenses, source, kData + "rules/first_group_models.txt"},
+                            out);
      }},
     {"strings",
      [](const std::string& source, std::ostream& out) {
-       tools::generateStrings({source, kData + "tips.txt", kData + "builtin_verbs.txt"}, out);
+       tools::generateStrings({kTenses, source, kData + "tips.txt", kData + "builtin_verbs.txt"},
+                              out);
      }},
     {"tips",
      [](const std::string& source, std::ostream& out) {
-       tools::generateStrings({kData + "strings.txt", source, kData + "builtin_verbs.txt"}, out);
+       tools::generateStrings({kTenses, kData + "strings.txt", source, kData + "builtin_verbs.txt"},
+                              out);
      }},
     {"builtin",
      [](const std::string& source, std::ostream& out) {
-       tools::generateStrings({kData + "strings.txt", kData + "tips.txt", source}, out);
+       tools::generateStrings({kTenses, kData + "strings.txt", kData + "tips.txt", source}, out);
      }},
     {"index",
      [](const std::string& source, std::ostream& out) { tools::generateVerbIndex({source}, out); }},
@@ -74,14 +85,16 @@ constexpr Kind kKinds[] = {
      }},
     {"norm_verbs",
      [](const std::string& source, std::ostream& out) {
-       tools::generateNormModels({kData + "norm/models.txt", source}, out);
+       tools::generateNormModels({kTenses, kData + "norm/models.txt", source}, out);
      }},
     {"hints",
      [](const std::string& source, std::ostream& out) { tools::generateHints({source}, out); }},
     {"messages",
      [](const std::string& source, std::ostream& out) { tools::generateMessages({source}, out); }},
     {"window",
-     [](const std::string& source, std::ostream& out) { tools::generateWindow({source}, out); }},
+     [](const std::string& source, std::ostream& out) {
+       tools::generateWindow({kTenses, source}, out);
+     }},
 };
 
 std::string_view kindOf(std::string_view source) {
