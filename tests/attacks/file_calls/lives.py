@@ -55,7 +55,7 @@ LIVES = (
          {"CZASOWNIKI.DAT": records(*KEPT), "WERBOLIN.CFG": settings(3)},
          ("start", "save:courir", "exit"), records(*KEPT, "courir")),
     Life("delete a verb", _ordinary() | {"Czas.dat": b"older"},
-         ("start", "delete:finir", "exit"), records("aimer", "rendre"), short=True),
+         ("start", "delete:finir", "exit"), records("aimer", "rendre")),
     Life("reset the settings", _ordinary(), ("start", "reset"), records(*KEPT)),
     Life("start after a crash",
          {"Czas.dat": records(*KEPT), "Werbolin.cfg": settings(3), "Czasowniki.dat.new": b"half",
