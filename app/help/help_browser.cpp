@@ -60,7 +60,6 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
   document()->setDocumentMargin(kMargin);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // one that comes lays out the page once more
   connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::sayPage);
-  connect(this, &QTextBrowser::highlighted, this, &HelpBrowser::sayLink);
 }
 
 // Every answer holds something, if only an empty text: without one the text view looks for a local
@@ -144,14 +143,18 @@ QString HelpBrowser::heading() const { return document()->begin().text(); }
 
 void HelpBrowser::sayPage() {
   markAll({});
-  setAccessibleDescription(heading());
-  announce(heading());
+  setAccessibleDescription(typedText(heading()));
+  announce(accessibleDescription());
 }
 
-// A link that Tab comes to is selected; one that the pointer comes to is not, and is not said.
-void HelpBrowser::sayLink(const QUrl& address) {
-  if (!address.isEmpty() && textCursor().hasSelection())
-    announce(QStringLiteral("Odsyłacz: %1").arg(textCursor().selectedText()));
+// The signal "highlighted" does not come when Tab selects a link: the view has noted the link
+// already.
+bool HelpBrowser::focusNextPrevChild(bool next) {
+  const bool hasMoved = QTextBrowser::focusNextPrevChild(next);
+  const QTextCursor link = textCursor();
+  if (hasFocus() && link.hasSelection() && link.charFormat().isAnchor())
+    announce(QStringLiteral("Odsyłacz: %1").arg(typedText(link.selectedText())));
+  return hasMoved;
 }
 
 // The caret stands in a link as well when it was not Tab that led there.

@@ -40,6 +40,7 @@ class HelpBrowser final : public QTextBrowser {
 
  protected:
   void doSetSource(const QUrl& address, QTextDocument::ResourceType type) override;
+  bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
@@ -49,7 +50,6 @@ class HelpBrowser final : public QTextBrowser {
   void readAnew();
   void markAll(const QString& typed);
   void sayPage();
-  void sayLink(const QUrl& address);
 
   const HelpBook& book_;
   QUrl page_;  // to which the addresses inside a page are relative

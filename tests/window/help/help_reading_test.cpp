@@ -6,6 +6,7 @@
 #include <QTextTable>
 #include <QToolTip>
 
+#include "app/common/announcement.h"
 #include "app/help/help_browser.h"
 #include "app/help/help_sheet.h"
 #include "app/help/help_zoom.h"
@@ -29,6 +30,7 @@ class HelpReadingSuite : public QObject {
   void enterOpensTheLinkUnderTheCaret();
   void aPageBeginsAtItsTop();
   void thePageSaysItsTitle();
+  void theLinkThatTabLeadsToIsTold();
   void thePageHasTheFontOfTheWindow();
   void sizesGoUpAndDownAndStayInTheirLimits();
   void keysMakeThePageLargerAndSmaller();
@@ -114,6 +116,23 @@ void HelpReadingSuite::tabLeadsFromLinkToLink() {
   QVERIFY(pages().source().path() != "/strony/default.htm");
 }
 
+// As it would be typed: blanks and hyphens that hold a line together have no sound.
+void HelpReadingSuite::theLinkThatTabLeadsToIsTold() {
+  QStringList told;
+  app::announceTo([&told](const QString& sentence) { told += sentence; });
+  const auto silent = qScopeGuard([] { app::announceTo({}); });
+  help_->viewer().open("strony\\default.htm");
+  QTRY_VERIFY(!told.isEmpty() && told.last().endsWith("Witaj w Odmienniku"));
+  told.clear();
+  pages().setFocus();
+  for (int links = 1; links <= 5; ++links) {
+    QTest::keyClick(&pages(), Qt::Key_Tab);
+    QTRY_COMPARE(told.size(), links);
+  }
+  QCOMPARE(told[0], "Odsyłacz: Jak odmienić czasownik");
+  QCOMPARE(told[4], "Odsyłacz: Litery, menu Edycja i wygląd okna");
+}
+
 void HelpReadingSuite::enterOpensTheLinkUnderTheCaret() {
   help_->viewer().open("strony\\default.htm");
   QTextCursor place = pages().document()->find("Passé antérieur");
@@ -134,6 +153,8 @@ void HelpReadingSuite::thePageSaysItsTitle() {
   QVERIFY(pages().accessibleDescription().startsWith("Passé composé"));
   help_->viewer().open("strony\\PasseSimple.htm");
   QVERIFY(pages().accessibleDescription().startsWith("Passé simple"));
+  help_->viewer().open("strony\\default.htm");
+  QCOMPARE(pages().accessibleDescription(), "Witaj w Odmienniku");
 }
 
 void HelpReadingSuite::sizesGoUpAndDownAndStayInTheirLimits() {
