@@ -21,6 +21,7 @@ FILE = "Czasowniki.dat"
 SLOTS = 101
 WRONG = ("", " ", "x", "se", "s'", "xyz", "zzzer", "a" * 300 + "er", "123", "aller aller", "'", "?!",
          "SE LAVER", " finir ", "être né", "oir", "éér", "--", "infinitif")
+MISSING = " -- "
 FORMS = ("a", "changé", "deux mots", "avec, virgule", '"guillemet', " -- ", "", "  blancs  ",
          "x" * 400, "œuvrât", "*", "s'est")
 # What a question is answered with; any other gets a button by chance.
@@ -140,7 +141,8 @@ class User:
             self.note_conjugated(self.entry().text)
 
     def note_conjugated(self, verb):
-        self.shown, self.options, self.is_typed_over = verb, (), False
+        is_empty = verb == MISSING  # what the box of an empty infinitive says
+        self.shown, self.options, self.is_typed_over = "" if is_empty else verb, (), False
 
     def item(self, menu, *names):
         """The item of a menu that has one of these captions."""
@@ -266,7 +268,8 @@ def change_forms(user):
     if not user.is_editing():
         return
     for _ in range(user.chance.randrange(1, 4)):
-        user.chance.choice(user.boxes).write(user.chance.choice(FORMS))
+        slot = user.chance.choice([slot for slot in range(SLOTS) if slot != 96])
+        user.boxes[slot].write(user.chance.choice(FORMS))
 
 
 def name_the_verb(user):
