@@ -29,6 +29,10 @@ void tell(const std::string& text, bool isError);
 // started.
 bool start(const std::string& program);
 
+// Whether a program places its windows, keeps them above others and moves the pointer; under
+// Wayland the compositor alone decides of all that, and tells neither places nor panels.
+[[nodiscard]] bool mayPlaceWindows();
+
 // Lays a window over the whole screen, above all others or no longer, without activating it.
 // `handle` is the system's name of the window: QWidget::winId().
 void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen);

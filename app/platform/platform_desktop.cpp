@@ -112,6 +112,10 @@ std::string characterMap() { return firstFound({"gucharmap", "gnome-characters",
 
 std::string systemInformation() { return firstFound({"hardinfo2", "hardinfo", "kinfocenter"}); }
 
+bool mayPlaceWindows() {
+  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 // The flag of the living window is changed: a window made anew would leave the screen for a moment.
 void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen) {
   QWindow* window = windowOf(handle);
@@ -129,6 +133,7 @@ bool start(const std::string& program) {
 
 // A desktop that refuses says nothing: the pointer is where it was.
 bool movePointer(int x, int y) {
+  if (!mayPlaceWindows()) return false;
   const QPoint place = scaledPlace({x, y});
   const QPoint before = QCursor::pos();
   QCursor::setPos(place);

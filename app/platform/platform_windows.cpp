@@ -135,6 +135,8 @@ bool start(const std::string& program) {
   return true;
 }
 
+bool mayPlaceWindows() { return true; }
+
 // The size is limited by the system itself.
 void setAlwaysOnTop(std::uintptr_t handle, bool isOnTop, const Screen& screen) {
   const WindowPlace place = placeOnTop(isOnTop, screen);

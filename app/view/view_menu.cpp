@@ -26,8 +26,9 @@ engine::Variety varietyOf(bool isNorm) {
 
 ViewMenu::ViewMenu(MainWindow& window, ColourChooser& chooser, UserStore& store)
     : window_(window), chooser_(chooser), store_(store) {
-  connect(&menuItem(*window.menuBar(), "mnuWidokNaWierzchu"), &QAction::triggered, this,
-          &ViewMenu::setOnTop, Qt::QueuedConnection);
+  QAction& onTop = menuItem(*window.menuBar(), "mnuWidokNaWierzchu");
+  onTop.setEnabled(platform::mayPlaceWindows());
+  connect(&onTop, &QAction::triggered, this, &ViewMenu::setOnTop, Qt::QueuedConnection);
   connect(&menuItem(*window.menuBar(), "mnuWidokKolory"), &QAction::triggered, this,
           &ViewMenu::showColours, Qt::QueuedConnection);
   QAction& norm = menuItem(*window.menuBar(), "mnuWidokNorma");
