@@ -62,6 +62,7 @@ DemonstrationRunner::DemonstrationRunner(QMainWindow& window, MainCommands& comm
 void DemonstrationRunner::run(int way) {
   if (isRunning_ || (commands_.isEditing() && !commands_.edit())) return;
   isRunning_ = true;
+  hasBegun_ = false;
   rememberAndSwitchOff();
   steps_ = stepsOf(way == 0 ? Demonstration::typing : Demonstration::picking);
   attempts_ = 0;
@@ -117,10 +118,19 @@ bool DemonstrationRunner::isDisturbed() const {
          window_.isMinimized();
 }
 
+// Where the keys that stop it arrive, and what a click opens may stay open. The list counts too.
+bool DemonstrationRunner::isInFront() const {
+  const QWidget* active = QApplication::activeWindow();
+  return active == &window_ || (active != nullptr && active == places_.list());
+}
+
 void DemonstrationRunner::takeStep() {
   if (isDisturbed()) return stop();
+  if (!hasBegun_ && !isInFront()) return timCzas.start(kPlaceInterval);
+  hasBegun_ = true;
   const DemonstrationStep step = steps_.front();
   target_ = places_.find(step.place);
+  if (!target_ && isOpenedByClick(step.place)) return doWithout(step);
   if (!target_) return waitForPlace();
   attempts_ = 0;
   steps_ = steps_.subspan(1);
@@ -131,6 +141,22 @@ void DemonstrationRunner::takeStep() {
 void DemonstrationRunner::waitForPlace() {
   if (++attempts_ >= kPlaceAttempts) return stop();
   timCzas.start(kPlaceInterval);
+}
+
+// Some desktops close at once what no key and no button of the user has opened. What would have
+// been clicked there is chosen all the same.
+void DemonstrationRunner::doWithout(const DemonstrationStep& step) {
+  steps_ = steps_.subspan(1);
+  if (step.action == DemonstrationAction::click) choose(step.place);
+  proceed();
+}
+
+// A drop-down list that is closed takes its entry's first letter from the keyboard.
+void DemonstrationRunner::choose(DemonstrationPlace place) {
+  if (place == DemonstrationPlace::listItem)
+    return menuItem(*window_.menuBar(), "mnuEdycjaLista").trigger();
+  const auto letters = places_.find(DemonstrationPlace::letterChoice);
+  if (letters) hand_.strike(*letters->widget, Qt::Key_unknown, fromUtf8(kPickedVerb).first(1));
 }
 
 void DemonstrationRunner::take(DemonstrationAction action) {

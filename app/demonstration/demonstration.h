@@ -18,9 +18,9 @@
 
 namespace odmiennik::app {
 
-// Runs on the main window, one demonstration at a time. Any key or mouse button of the user stops
-// it and does nothing else. Afterwards, however it ended, the timers rest, the verb list is closed,
-// and completion and the pointer are as they were before.
+// Runs on the main window, one demonstration at a time, and begins when the program is in front.
+// Any key or mouse button of the user stops it and does nothing else. Afterwards, however it ended,
+// the timers rest, the verb list is closed, and completion and the pointer are as they were before.
 class DemonstrationRunner final : public QObject {
   Q_OBJECT
 
@@ -57,6 +57,8 @@ class DemonstrationRunner final : public QObject {
   void takeStep();
   void take(DemonstrationAction action);
   void waitForPlace();
+  void doWithout(const DemonstrationStep& step);
+  void choose(DemonstrationPlace place);
   void beginPath();
   void followPath();
   void releaseButton();
@@ -64,6 +66,7 @@ class DemonstrationRunner final : public QObject {
   void typeLetter();
   void startAfter(QTimer& timer, std::chrono::milliseconds interval);
   [[nodiscard]] bool isDisturbed() const;
+  [[nodiscard]] bool isInFront() const;
   [[nodiscard]] QLineEdit& entryBox() const;
 
   QMainWindow& window_;
@@ -77,6 +80,7 @@ class DemonstrationRunner final : public QObject {
   QTimer& timCzasLiterki;  // the letters of the verb
   double pace_ = 1;
   bool isRunning_ = false;
+  bool hasBegun_ = false;  // with the program in front
 
   std::span<const DemonstrationStep> steps_;  // those still to be taken
   int attempts_ = 0;                          // to find the next step's place

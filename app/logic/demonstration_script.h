@@ -24,6 +24,11 @@ enum class DemonstrationPlace : std::uint8_t {
   closeButton       // "Zamknij"
 };
 
+// Whether a place is in what a click opens and a desktop may close again: a menu, a drop-down list.
+[[nodiscard]] constexpr bool isOpenedByClick(DemonstrationPlace place) {
+  return place == DemonstrationPlace::listItem || place == DemonstrationPlace::letter;
+}
+
 enum class DemonstrationAction : std::uint8_t { movePointer, click, typeVerb, pressEnter, rest };
 
 struct DemonstrationStep {

@@ -8,6 +8,25 @@
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
+namespace {
+
+// A desktop that closes every menu and drop-down list which the user did not open himself.
+class RefusedPopups final : public QObject {
+ public:
+  RefusedPopups() { qApp->installEventFilter(this); }
+  int closed = 0;
+
+  bool eventFilter(QObject* shown, QEvent* event) override {
+    auto* widget = qobject_cast<QWidget*>(shown);
+    if (event->type() != QEvent::Show || widget == nullptr) return false;
+    if (widget->windowType() != Qt::Popup) return false;
+    ++closed;
+    QMetaObject::invokeMethod(widget, &QWidget::close, Qt::QueuedConnection);
+    return false;
+  }
+};
+
+}  // namespace
 
 class DemonstrationSuite : public QObject {
   Q_OBJECT
@@ -21,6 +40,9 @@ class DemonstrationSuite : public QObject {
   void theSecondPicksAVerbFromTheList();
   void thePointerGoesToTheBoxInSmallSteps();
   void wherePointersCannotBeMovedBothStillConjugate();
+  void whereNothingStaysOpenTheSecondStillPicksItsVerb();
+  void aLetterTakenDirectlyCanBeChosenAgain();
+  void itWaitsUntilTheWindowIsActive();
   void nothingIsCompletedWhileAVerbIsTyped();
   void theSwitchOfTheCompletionIsNotTouched();
   void everythingIsAsBeforeAfterTheEnd_data();
@@ -81,6 +103,46 @@ void DemonstrationSuite::wherePointersCannotBeMovedBothStillConjugate() {
   QTRY_COMPARE(shown_->form(0), "nais");
   QVERIFY(shown_->pointer.path.empty());
   shown_->verifyAtRest();
+}
+
+void DemonstrationSuite::whereNothingStaysOpenTheSecondStillPicksItsVerb() {
+  const RefusedPopups desktop;
+  shown_->pointer.isMovable = false;
+  shown_->toItsEnd(1);
+  QTRY_COMPARE(shown_->form(0), "nais");
+  QCOMPARE(desktop.closed, 2);  // the menu and the letters
+  shown_->verifyAtRest();
+}
+
+// The list has learnt of the letter as of any other choice: the user's verbs are read anew.
+void DemonstrationSuite::aLetterTakenDirectlyCanBeChosenAgain() {
+  const RefusedPopups desktop;
+  shown_->toItsEnd(1);
+  shown_->item("mnuEdycjaLista").trigger();
+  QTRY_VERIFY(shown_->list() != nullptr && shown_->list()->isVisible());
+  auto& choice = *shown_->list()->findChild<QComboBox*>("cmbLista");
+  QCOMPARE(choice.currentIndex(), 0);
+  QCOMPARE(shown_->list()->findChild<QListWidget*>("lstCzasowniki")->count(), 0);
+  QTest::keyClick(&choice, Qt::Key_N);
+  QCOMPARE(choice.currentText(), "n");
+  QVERIFY(shown_->list()->findChild<QListWidget*>("lstCzasowniki")->count() > 0);
+}
+
+void DemonstrationSuite::itWaitsUntilTheWindowIsActive() {
+  int ticks = 0;
+  for (const QTimer* timer : shown_->window.findChildren<QTimer*>("timCzas"))
+    connect(timer, &QTimer::timeout, this, [&] { ++ticks; });
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&other));
+  shown_->runner.run(0);
+  other.activateWindow();  // the desktop's answer to the demonstration, which asked for itself
+  QTRY_VERIFY(ticks > 3);
+  QCOMPARE(shown_->entry().text(), "infinitif");
+  QVERIFY(shown_->runner.isRunning());
+  shown_->window.activateWindow();
+  QTRY_COMPARE_WITH_TIMEOUT(shown_->form(0), "chante", kDemonstrationLimit);
 }
 
 void DemonstrationSuite::nothingIsCompletedWhileAVerbIsTyped() {
