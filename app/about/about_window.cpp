@@ -50,6 +50,7 @@ AboutWindow::AboutWindow(QWidget* parent, const Usage& usage, dictionary::Messag
   setWindowTitle(QStringLiteral("O programie Odmiennik"));
   setFont(programFont());  // the outline is cut for it
   setFixedSize(kAboutSize);
+  setAttribute(Qt::WA_TranslucentBackground);  // shapes the window where a mask does not
   setMask(aboutRegion());
   create(usage);
   arrange();
@@ -102,10 +103,11 @@ void AboutWindow::arrange() {
   ok_->setFocus();
 }
 
-// The mask cuts the outer half of the border away: what remains is sharp.
+// The outline cuts the outer half of the border away: what remains is sharp.
 void AboutWindow::paintEvent(QPaintEvent* /*event*/) {
   constexpr qreal kBorder = 4;
   QPainter painter(this);
+  painter.setClipRegion(aboutRegion());
   painter.fillRect(rect(), palette().color(QPalette::Base));
   painter.fillRect(QRect(0, 0, width(), kBandHeight), QColor(kBand));
   painter.setPen(Qt::NoPen);

@@ -23,6 +23,7 @@ class AboutSuite : public QObject {
   void theSentenceCountsWhatTheProgramDid();
   void allTextsHaveRoom();
   void itsOutlineIsNotRectangular();
+  void outsideItsOutlineNothingIsPainted();
   void theOutlineIsOneClosedShapeWithinTheWindow();
   void itClosesWithOk();
   void itClosesWithEscape();
@@ -105,6 +106,22 @@ void AboutSuite::itsOutlineIsNotRectangular() {
        {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)})
     QVERIFY(!about.mask().contains(corner));
   QVERIFY(about.mask().contains(about.rect().center()));
+}
+
+// Where a mask does not shape what is seen, what is painted does.
+void AboutSuite::outsideItsOutlineNothingIsPainted() {
+  AnsweredMessages messages;
+  app::AboutWindow about(nullptr, {}, messages);
+  about.show();
+  QImage picture(about.size(), QImage::Format_ARGB32);
+  picture.fill(Qt::transparent);
+  about.render(&picture, {}, {},
+               QWidget::DrawWindowBackground | QWidget::DrawChildren | QWidget::IgnoreMask);
+  QRegion painted;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (qAlpha(picture.pixel(x, y)) != 0) painted += QRect(x, y, 1, 1);
+  QCOMPARE(painted, app::aboutRegion());
 }
 
 void AboutSuite::theOutlineIsOneClosedShapeWithinTheWindow() {
