@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QPrintDialog>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -14,6 +13,7 @@
 #include "app/common/text.h"
 #include "app/common/user_store.h"
 #include "app/help/help_printing.h"
+#include "app/layout/screen_room.h"
 #include "app/logic/tense_topics.h"
 
 namespace odmiennik::app {
@@ -42,7 +42,7 @@ HelpWindow::HelpWindow(HelpBook& book, UserStore& store, QWidget* parent)
   connectControls();
   connectKeys();
   connectZoom();
-  resize(kDesignedSize.boundedTo(screen()->availableSize() * 9 / 10));
+  resize(kDesignedSize.boundedTo(availableSize(*this) * 9 / 10));
 }
 
 // In the order of the Tab key.

@@ -1,0 +1,38 @@
+// Screens, panels and frames.
+#include "app/layout/screen_room.h"
+
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+
+#include "app/platform/platform.h"
+
+namespace odmiennik::app {
+namespace {
+
+// Thin edges and a title bar; under Wayland those that Qt draws itself.
+constexpr QSize kLikelyFrame(2, 28);
+constexpr QSize kFrameOfQt(6, 33);
+
+// Desktops of today have panels of 32 to 44 pixels.
+constexpr int kLikelyPanel = 44;
+
+}  // namespace
+
+QSize frameOf(const QWidget& window) {
+  const QWindow* native = window.windowHandle();
+  const QMargins frame = native == nullptr ? QMargins() : native->frameMargins();
+  if (!frame.isNull()) return QSize(0, 0).grownBy(frame);
+  return platform::mayPlaceWindows() ? kLikelyFrame : kFrameOfQt;
+}
+
+QSize availableSize(const QWidget& window) {
+  const QScreen& screen = *window.screen();
+  const QSize available = screen.availableSize();
+  if (platform::mayPlaceWindows() || available != screen.size()) return available;
+  return available - QSize(0, kLikelyPanel);
+}
+
+QSize screenRoom(const QWidget& window) { return availableSize(window) - frameOf(window); }
+
+}  // namespace odmiennik::app
