@@ -12,6 +12,10 @@ from waiting import wait_for
 KEPT = ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
 
 
+class CannotRun(Exception):
+    """What a scenario needs is installed but does not work here; says why."""
+
+
 def ended(process, seconds=5):
     """Ends a process that was started here."""
     process.terminate()
@@ -23,15 +27,17 @@ def ended(process, seconds=5):
 
 
 @contextlib.contextmanager
-def screen(size):
+def screen(size, shown=None):
     """A screen of `size` ("1024x768"), as the value of DISPLAY.
 
-    It is not reset when its last client leaves: that would throw out the one just coming.
+    It is not reset when its last client leaves: that would throw out the one just coming. What is
+    on it is kept in the folder `shown`, for picture.py.
     """
     reading, writing = os.pipe()
+    kept = [] if shown is None else ["-fbdir", shown]
     server = subprocess.Popen(
         ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
-         "-noreset"],
+         "-noreset", *kept],
         pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writing)
     try:

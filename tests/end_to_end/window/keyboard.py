@@ -1,5 +1,6 @@
 """The keyboard of the private screen."""
 
+import contextlib
 import subprocess
 
 
@@ -11,3 +12,18 @@ def keys(*names):
 def type_text(text):
     """Types letters of the keyboard's layout into whatever has the focus."""
     subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", text], check=True)
+
+
+@contextlib.contextmanager
+def held(*names):
+    """Keeps keys down, one after the other, and lets them go afterwards: held("alt", "c").
+
+    What a compositor opens for a key it opens while the key is down.
+    """
+    for name in names:
+        subprocess.run(["xdotool", "keydown", name], check=True)
+    try:
+        yield
+    finally:
+        for name in reversed(names):
+            subprocess.run(["xdotool", "keyup", name], check=True)

@@ -107,6 +107,10 @@ class Program:
         self.message("Czy na pewno chcesz zakończyć program?").answer("Tak")
         self.await_end()
 
+    def told(self):
+        """What it has written so far where it was started."""
+        return pathlib.Path(self._log.name).read_text(encoding="utf-8")
+
     def clean_up(self):
         self.kill()
         if self._log.closed:

@@ -64,13 +64,8 @@ def _records(program):
     return (program.folder / "Czasowniki.dat").read_bytes().splitlines()
 
 
-def a_verb_is_picked_and_conjugated_by_keys_alone(program):
-    program.start()
-    keyboard.keys("alt+c")
-    item = program.menu_item("Czasownik", "Lista")
-    wait_for(lambda: item.has("focused"), "the open menu")
-    keyboard.keys("l")
-    listed = _opened(program)
+def _work_in(listed, program):
+    """Two verbs of the list that has come forward are conjugated, and it is closed, by keys alone."""
     _choose_letter(listed, "b", 329)
     _pick(listed, "boire", typed="boi")
     keyboard.keys("Return")
@@ -82,6 +77,15 @@ def a_verb_is_picked_and_conjugated_by_keys_alone(program):
     program.box(FORM).await_text("boise")
     keyboard.keys("alt+z")
     listed.await_end()
+
+
+def a_verb_is_picked_and_conjugated_by_keys_alone(program):
+    program.start()
+    keyboard.keys("alt+c")
+    item = program.menu_item("Czasownik", "Lista")
+    wait_for(lambda: item.has("focused"), "the open menu")
+    keyboard.keys("l")
+    _work_in(_opened(program), program)
 
 
 def a_double_click_conjugates(program):
