@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "app/common/text.h"
+#include "app/common/whole_window.h"
 
 namespace odmiennik::app {
 namespace {
@@ -77,6 +78,10 @@ class AnsweredBox final : public QMessageBox {
   void closeEvent(QCloseEvent* event) override {
     if (mayEscape_) return QMessageBox::closeEvent(event);
     event->ignore();
+  }
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ScreenChangeInternal) makeWholeLater(*this);
+    return QMessageBox::event(event);
   }
 
  private:

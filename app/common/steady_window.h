@@ -3,6 +3,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
+
+#include "app/common/whole_window.h"
 
 namespace odmiennik::app {
 
@@ -15,6 +18,7 @@ namespace odmiennik::app {
 // A window that is not closed, and so not deleted, while a message or another modal window stands
 // over it: the mouse and the keys cannot reach it then, but a screen reader can press its buttons,
 // and the program can be told to close it. Whoever opened the message finds its window as it was.
+// On whatever screen it stands, it is large enough for what is in it.
 //
 //   class ListWindow final : public SteadyWindow<> { ... };
 template <typename Dialog = QDialog>
@@ -25,6 +29,12 @@ class SteadyWindow : public Dialog {
   // Every way to close a dialog leads here.
   void done(int result) override {
     if (!isUnderModalWindow(*this)) Dialog::done(result);
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ScreenChangeInternal) makeWholeLater(*this);
+    return Dialog::event(event);
   }
 };
 

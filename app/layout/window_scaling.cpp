@@ -7,6 +7,7 @@
 #include <chrono>
 #include <utility>
 
+#include "app/common/whole_window.h"
 #include "app/controls/form_surface.h"
 #include "app/layout/screen_fit.h"
 
@@ -76,6 +77,17 @@ void WindowScaling::stateChanged() {
   endDrag();
 }
 
+// Another screen may have less room, and draw in other pixels: the forms are fitted anew even where
+// the window has kept its size.
+void WindowScaling::screenChanged() {
+  endDrag();
+  if (largeStates(window_) == Qt::WindowNoState) {
+    fitToScreen(window_);
+    moveOntoScreen(window_);
+  }
+  gathered_.start();
+}
+
 void WindowScaling::endDrag() {
   dragEnd_.stop();
   scaled_.dragged().end();
@@ -85,6 +97,8 @@ bool WindowScaling::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &surface_ && event->type() == QEvent::Resize) surfaceResized();
   if (watched == &window_ && event->type() == QEvent::Show && !event->spontaneous())
     fitToScreen(window_);
+  if (watched == &window_ && event->type() == QEvent::ScreenChangeInternal)
+    QTimer::singleShot(0, this, &WindowScaling::screenChanged);
   if (watched == &window_ && event->type() == QEvent::WindowStateChange) stateChanged();
   return false;
 }

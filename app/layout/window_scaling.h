@@ -15,7 +15,8 @@ namespace odmiennik::app {
 // one drag start from the layout that stood before it. Maximising and restoring rescale at once,
 // inside the resize itself, unless the question of the resolution has to be put first: nothing
 // modal opens while the window is being resized. The window's Width and Height are those of its
-// surface: the client area without the menu bar. The first layout is the designed one.
+// surface: the client area without the menu bar. The first layout is the designed one. On another
+// screen the window is fitted to that one.
 class WindowScaling final : public QObject {
   Q_OBJECT
 
@@ -39,6 +40,7 @@ class WindowScaling final : public QObject {
  private:
   void surfaceResized();
   void stateChanged();
+  void screenChanged();
   void rescaleAtOnce();
   void endDrag();
   [[nodiscard]] TwipSize windowSize() const;

@@ -22,7 +22,7 @@ Widget& createNamed(QDialog& window, const char* name) {
 }  // namespace
 
 PrinterDialog::PrinterDialog(const PrintChoices& choices, QWidget* parent)
-    : QDialog(parent),
+    : SteadyWindow(parent),
       printers_(createNamed<QComboBox>(*this, "cmbDrukarka")),
       papers_(createNamed<QComboBox>(*this, "cmbPapier")),
       copies_(createNamed<QSpinBox>(*this, "txtKopie")),

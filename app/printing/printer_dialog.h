@@ -3,17 +3,17 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "app/common/steady_window.h"
 #include "app/printing/print_choices.h"
 
 namespace odmiennik::app {
 
 // Offers what is kept and nothing else: the system's own dialog has pages, duplex and much that a
 // picture of one window has no use for, and half of it in English.
-class PrinterDialog final : public QDialog {
+class PrinterDialog final : public SteadyWindow<> {
   Q_OBJECT
 
  public:
