@@ -1,6 +1,7 @@
 // Screens, panels and frames.
 #include "app/layout/screen_room.h"
 
+#include <QLayout>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -34,5 +35,18 @@ QSize availableSize(const QWidget& window) {
 }
 
 QSize screenRoom(const QWidget& window) { return availableSize(window) - frameOf(window); }
+
+void drawTogether(QWidget& window) {
+  constexpr int kGap = 2;
+  if (window.sizeHint().height() <= screenRoom(window).height()) return;
+  for (QLayout* layout : window.findChildren<QLayout*>()) {
+    layout->setSpacing(kGap);
+    layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  }
+  const QWidget* framed = &window;
+  while (framed->parentWidget() != nullptr) framed = framed->parentWidget()->window();
+  const QPoint inside = framed->geometry().topLeft() - framed->frameGeometry().topLeft();
+  window.move(window.screen()->availableGeometry().topLeft() + inside);
+}
 
 }  // namespace odmiennik::app

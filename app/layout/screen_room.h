@@ -18,4 +18,9 @@ namespace odmiennik::app {
 // What is left of that for the inside of the window.
 [[nodiscard]] QSize screenRoom(const QWidget& window);
 
+// Moves the parts of a window that is higher than that closer together, and the window, not yet
+// shown, to the top of its screen, below a title bar like the main window's. For
+// one of Qt's own, which has nothing that could be lower.
+void drawTogether(QWidget& window);
+
 }  // namespace odmiennik::app

@@ -4,15 +4,19 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QStackedLayout>
+#include <algorithm>
 
 #include "app/common/caption.h"
 #include "app/common/text.h"
+#include "app/layout/screen_room.h"
 
 namespace odmiennik::app {
 namespace {
 
 constexpr int kBarHeight = 14;
 constexpr int kListHeight = 300;
+constexpr int kListLines = 12;  // at least, however large the letters: room for the longest hint
+constexpr int kFewestLines = 4;
 constexpr int kHintMargin = 24;
 constexpr int kPlaceOfUsuń = 3;  // in the column of buttons, as designed
 const QColor kBlue(30, 90, 168);
@@ -62,7 +66,6 @@ ListControls::ListControls(QDialog& dialog)
 void ListControls::furnish() {
   for (const std::string_view item : kListChoices) cmbLista.addItem(fromUtf8(item));
   lstCzasowniki.setAccessibleName(QStringLiteral("Czasowniki"));
-  lstCzasowniki.setMinimumHeight(kListHeight);
   lstCzasowniki.setUniformItemSizes(true);  // a long list is laid out at once
   cmdOdmień.setDefault(true);               // the Enter key in the list
   shpStatusBar.setFrameShape(QFrame::Box);
@@ -117,6 +120,20 @@ void ListControls::layOut() {
   auto* columns = new QHBoxLayout(&window);
   columns->addLayout(lists, 1);
   columns->addLayout(&buttons_);
+  fitToScreen();
+}
+
+void ListControls::fitToScreen() {
+  const int line = window.fontMetrics().lineSpacing();
+  const int designed = std::max(kListHeight, kListLines * line);
+  const auto setHeight = [this](int height) {
+    lstCzasowniki.setMinimumHeight(height);
+    window.layout()->invalidate();
+    window.layout()->activate();  // the layouts inside it learn of the height now
+  };
+  setHeight(designed);
+  const int excess = window.sizeHint().height() - screenRoom(window).height();
+  if (excess > 0) setHeight(std::max(kFewestLines * line, designed - excess));
 }
 
 // The place is that of the button's row; the hidden ones give theirs up.

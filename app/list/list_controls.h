@@ -29,6 +29,9 @@ class ListControls {
   // Puts the label and the empty bar in the place of the list, and back.
   void showFilling(bool isFilling);
 
+  // Makes the list as high as designed, lower where the window's screen has not the room.
+  void fitToScreen();
+
   // Says `text` in the place of the verbs; nothing hides what says it.
   void showHint(const QString& text);
 

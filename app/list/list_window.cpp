@@ -54,6 +54,11 @@ void ListWindow::connectControls() {
   connect(&controls_.cmbLista, &QComboBox::activated, this, &ListWindow::chooseAgain);
 }
 
+bool ListWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ScreenChangeInternal) controls_.fitToScreen();
+  return SteadyWindow::event(event);
+}
+
 void ListWindow::showFor(ListPurpose purpose) {
   purpose_ = purpose;
   controls_.present(appearanceOf(purpose));

@@ -31,6 +31,10 @@ class ListWindow final : public SteadyWindow<> {
   // anew, with choice and place as they were.
   void followUserVerbs();
 
+ protected:
+  // The list goes by the room on its screen.
+  bool event(QEvent* event) override;
+
  private:
   void connectControls();
   void ŁadujListęUżytkownika();

@@ -3,6 +3,8 @@
 
 #include <QColorDialog>
 
+#include "app/layout/screen_room.h"
+
 namespace odmiennik::app {
 
 std::optional<QColor> QtColourChooser::choose(QWidget& parent, const QColor& start) {
@@ -10,6 +12,7 @@ std::optional<QColor> QtColourChooser::choose(QWidget& parent, const QColor& sta
   dialog.setObjectName(QStringLiteral("CommonDialog1"));
   dialog.setWindowTitle(QStringLiteral("Wybierz kolor"));
   dialog.setOption(QColorDialog::DontUseNativeDialog);  // that one speaks the system's language
+  drawTogether(dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.selectedColor();
 }

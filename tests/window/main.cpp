@@ -61,7 +61,8 @@ int main(int argumentCount, char** arguments) {
       {"stopped_demonstration", stoppedDemonstrationSuite},
       {"tense_headings", tenseHeadingsSuite},
       {"tip", tipSuite},
-      {"tooltips", tooltipsSuite}};
+      {"tooltips", tooltipsSuite},
+      {"whole_windows", wholeWindowsSuite}};
   if (argumentCount < 2 || !suites.contains(arguments[1])) {
     std::fputs("usage: window_test SUITE [options]\n", stderr);
     return 2;

@@ -57,5 +57,6 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> tenseHeadingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> tipSuite();
 [[nodiscard]] std::unique_ptr<QObject> tooltipsSuite();
+[[nodiscard]] std::unique_ptr<QObject> wholeWindowsSuite();
 
 }  // namespace odmiennik::window_test

@@ -4,6 +4,8 @@ import os
 import pathlib
 import struct
 
+from waiting import wait_for
+
 
 class Picture:
     """The screen at this moment."""
@@ -24,3 +26,20 @@ class Picture:
 
     def row(self, y):
         return [self.pixel(x, y) for x in range(self.width)]
+
+    def __eq__(self, other):
+        return self._data == other._data
+
+
+def settled(is_there):
+    """The first picture for which `is_there` and which is followed by one like it."""
+    before = [Picture()]
+
+    def is_settled():
+        now = Picture()
+        is_same = now == before[0]
+        before[0] = now
+        return is_same and is_there(now)
+
+    wait_for(is_settled, "a picture that stays as it is")
+    return before[0]

@@ -78,7 +78,9 @@ def manager(module):
     """Who places the windows: Wayland where a file asks for it with WAYLAND, else a window manager."""
     from desktop import window_manager
     wayland = parts_of(module).get("WAYLAND")
-    return window_manager() if wayland is None else wayland.compositor()
+    if wayland is None:
+        return window_manager()
+    return wayland.compositor(getattr(module, "SCALE", 1))
 
 
 def listener(module):

@@ -32,6 +32,11 @@ PANEL = 32  # pixels at the top
 GROUND = (0x33, 0x66, 0x99)  # the colour behind the windows
 
 
+def is_shown(picture):
+    """Whether a window is seen in the picture, where the main window stands."""
+    return any(colour != GROUND for colour in picture.row(picture.height // 2))
+
+
 def obstacle():
     """Why there can be no Wayland desktop here; nothing when there can."""
     if shutil.which("weston") is None or not glob.glob(LIBRARIES + "libweston-*/x11-backend.so"):
@@ -45,13 +50,13 @@ def _log():
     return pathlib.Path(os.environ["HOME"], "log of Weston")
 
 
-def _started():
+def _started(scale):
     settings = pathlib.Path(os.environ["HOME"], "weston.ini")
     settings.write_text(SETTINGS, encoding="utf-8")
-    width, height = os.environ["SCREEN"].split("x")
+    width, height = (int(pixels) // scale for pixels in os.environ["SCREEN"].split("x"))
     return subprocess.Popen(
         ["weston", "--backend=x11-backend.so", "--use-pixman", f"--width={width}",
-         f"--height={height}", f"--socket={SOCKET}", f"--config={settings}",
+         f"--height={height}", f"--scale={scale}", f"--socket={SOCKET}", f"--config={settings}",
          f"--log={_log()}"],
         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
@@ -70,9 +75,11 @@ def _take_keyboard():
 
 
 @contextlib.contextmanager
-def compositor():
-    """The compositor, ready: it gives each new window the focus. What is started sees it alone."""
-    weston = _started()
+def compositor(scale):
+    """The compositor, ready: it gives each new window the focus. What is started sees it alone, and is
+    drawn `scale` times as large as usual.
+    """
+    weston = _started(scale)
     socket = pathlib.Path(os.environ["XDG_RUNTIME_DIR"], SOCKET)
     try:
         wait_for(lambda: socket.exists() or weston.poll() is not None, "Weston's start")

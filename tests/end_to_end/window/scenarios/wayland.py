@@ -1,11 +1,11 @@
 """The main job on a Wayland desktop, by keyboard; what the compositor decides is accepted."""
 
 import keyboard
-from picture import Picture
+from picture import Picture, settled
 from program import ENTRY
 from scenarios import about, editing, list_work, tips
 from waiting import wait_equal, wait_for
-from wayland import PANEL
+from wayland import PANEL, is_shown
 
 WAYLAND = True
 FORM = "Indicatif présent, je"
@@ -110,7 +110,7 @@ def _bubble(picture):
 
 def the_about_window_shows_what_is_behind_its_bubble(program):
     program.start()
-    before = Picture()
+    before = settled(is_shown)
     program.menu_item("Pomoc", "O programie...").press()
     window = program.dialog(about.TITLE)
     wait_for(window.is_active, "the window to come forward")

@@ -1,8 +1,7 @@
 """A Wayland desktop of 800 by 600 pixels with a panel, of which the compositor tells nothing."""
 
-from picture import Picture
-from waiting import wait_for
-from wayland import GROUND, PANEL
+from picture import settled
+from wayland import GROUND, PANEL, is_shown
 
 SCREEN = "800x600"
 WAYLAND = True
@@ -17,8 +16,7 @@ def the_window_leaves_room_for_panel_and_title_bar(program):
 
 def nothing_of_the_window_is_off_the_screen(program):
     program.start()
-    wait_for(lambda: any(colour != GROUND for colour in Picture().row(300)), "the window")
-    shown = Picture()
+    shown = settled(is_shown)
     assert set(shown.row(PANEL)) == {GROUND} == set(shown.row(shown.height - 1))
     # Both edges of its frame are seen, in one colour.
     assert shown.pixel(0, 300) == shown.pixel(shown.width - 1, 300)
