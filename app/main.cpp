@@ -1,6 +1,7 @@
 // The program `odmiennik`: puts the parts together and starts.
 #include <QApplication>
 
+#include "app/common/dialog_bars.h"
 #include "app/common/look.h"
 #include "app/common/qt_message_boxes.h"
 #include "app/lifetime/program_arguments.h"
@@ -13,6 +14,7 @@ namespace {
 
 int runWindow(QApplication& application, const ProgramArguments& given) {
   prepare(application);
+  if (!platform::mayPlaceWindows()) new DialogBars(&application);
   QtMessageBoxes messages;
   UserStore store;
   Program program({.folder = programFolderOf(given.folder),

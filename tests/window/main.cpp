@@ -23,6 +23,7 @@ int main(int argumentCount, char** arguments) {
       {"damaged_settings", damagedSettingsSuite},
       {"demonstration", demonstrationSuite},
       {"design", designSuite},
+      {"dialog_bars", dialogBarsSuite},
       {"edit_menu", editMenuSuite},
       {"editing", editingSuite},
       {"editing_keys", editingKeysSuite},

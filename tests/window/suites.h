@@ -18,6 +18,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> damagedSettingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> demonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
+[[nodiscard]] std::unique_ptr<QObject> dialogBarsSuite();
 [[nodiscard]] std::unique_ptr<QObject> editMenuSuite();
 [[nodiscard]] std::unique_ptr<QObject> editingSuite();
 [[nodiscard]] std::unique_ptr<QObject> editingKeysSuite();

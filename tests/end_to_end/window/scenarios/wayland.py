@@ -122,3 +122,15 @@ def the_about_window_shows_what_is_behind_its_bubble(program):
     keyboard.keys("Return")
     window.await_end()
     assert program.told() == ""
+
+
+def dialogs_have_one_button_in_their_title_bars_and_it_closes_them(program):
+    program.start()
+    for keys, caption in ((["ctrl+l"], "Lista czasowników"), (["ctrl+q"], "Odmiennik")):
+        keyboard.keys(*keys)
+        window = program.dialog(caption)
+        wait_for(window.is_active, f"{caption!r} in front")
+        window.button("Zamknij okno").press()
+        window.await_end()
+    assert program.is_running()
+    assert program.told() == ""
