@@ -10,6 +10,7 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include "app/common/accessible_line.h"
 #include "app/common/program_style.h"
 #include "app/common/text.h"
 #include "dictionary/messages.h"
@@ -69,6 +70,7 @@ void prepare(QApplication& application) {
   QApplication::setApplicationVersion(QStringLiteral(ODMIENNIK_VERSION));
   QApplication::setOrganizationName(fromUtf8(dictionary::kApplicationTitle));
   QApplication::setStyle(new ProgramStyle);  // the application owns it
+  answerForLines();
   carryFonts();
   replaceMissingFont();
   speakPolish(application);

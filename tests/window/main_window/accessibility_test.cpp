@@ -12,6 +12,7 @@
 #include "app/logic/tense_topics.h"
 #include "app/tips/tip_window.h"
 #include "app/view/colour_window.h"
+#include "tests/window/edited_program.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
 
@@ -91,6 +92,10 @@ class AccessibilitySuite : public QObject {
   void everyCaptionOfTheInformationLabelsItsValue();
   void everyHeadingThatOpensAPageHasBoxesWhoseF1OpensIt();
   void theMainWindowsControlsAreUsedWithoutAMouse();
+  void aBoxAnswersForEveryOffsetAndBoundary();
+  void theWordAtTheEndIsTheLastOne();
+  void aLockedBoxIsReadAndNotWritten();
+  void aBoxThatIsEditedIsWrittenWithinItsLetters();
 
  private:
   [[nodiscard]] std::unique_ptr<QDialog> made(const QString& window);
@@ -266,6 +271,79 @@ void AccessibilitySuite::theMainWindowsControlsAreUsedWithoutAMouse() {
   button.setFocus();
   QTest::keyClick(&button, Qt::Key_Space);
   QTRY_COMPARE(program_->form(0), "finis");
+}
+
+namespace {
+
+QAccessibleTextInterface& textOf(QWidget& box) {
+  return *QAccessible::queryAccessibleInterface(&box)->textInterface();
+}
+
+}  // namespace
+
+// Every question a reader may put is answered, and ends.
+void AccessibilitySuite::aBoxAnswersForEveryOffsetAndBoundary() {
+  ProgramUnderTest& program = *program_;
+  program.conjugate("se lever");
+  for (const int slot : {24, 0, 93}) {  // of several words, of two, of none
+    QAccessibleTextInterface& text = textOf(program.box(slot));
+    const QString form = program.form(slot);
+    for (int offset = 0; offset <= form.size(); ++offset)
+      for (int boundary = QAccessible::CharBoundary; boundary <= QAccessible::NoBoundary;
+           ++boundary) {
+        const auto kind = static_cast<QAccessible::TextBoundaryType>(boundary);
+        int start = 0, end = 0;
+        for (const QString& part : {text.textBeforeOffset(offset, kind, &start, &end),
+                                    text.textAfterOffset(offset, kind, &start, &end),
+                                    text.textAtOffset(offset, kind, &start, &end)})
+          QVERIFY(form.contains(part));
+      }
+  }
+}
+
+void AccessibilitySuite::theWordAtTheEndIsTheLastOne() {
+  ProgramUnderTest& program = *program_;
+  program.conjugate("se lever");
+  QAccessibleTextInterface& text = textOf(program.box(24));
+  const auto at = [&](int offset) {
+    int start = 0, end = 0;
+    const QString word = text.textAtOffset(offset, QAccessible::WordBoundary, &start, &end);
+    return QStringLiteral("%1 %2-%3").arg(word).arg(start).arg(end);
+  };
+  QCOMPARE(program.form(24), "me suis levé(e)");
+  QCOMPARE(at(0), "me  0-3");
+  QCOMPARE(at(4), "suis  3-8");
+  QCOMPARE(at(15), "levé(e) 8-15");
+  int start = 0, end = 0;
+  QCOMPARE(text.textBeforeOffset(15, QAccessible::WordBoundary, &start, &end), "suis ");
+  QCOMPARE(text.textAfterOffset(0, QAccessible::WordBoundary, &start, &end), "suis ");
+  QCOMPARE(text.textAtOffset(15, QAccessible::LineBoundary, &start, &end), "me suis levé(e)");
+}
+
+void AccessibilitySuite::aLockedBoxIsReadAndNotWritten() {
+  ProgramUnderTest& program = *program_;
+  program.conjugate("finir");
+  QAccessibleInterface& box = *QAccessible::queryAccessibleInterface(&program.box(0));
+  QVERIFY(box.state().readOnly && !box.state().editable);
+  QCOMPARE(box.role(), QAccessible::EditableText);
+  QCOMPARE(box.text(QAccessible::Value), "finis");
+  box.setText(QAccessible::Value, "x");
+  box.editableTextInterface()->insertText(0, "x");
+  QCOMPARE(program.form(0), "finis");
+}
+
+void AccessibilitySuite::aBoxThatIsEditedIsWrittenWithinItsLetters() {
+  program_.reset();
+  EditedProgram program;
+  program.edit("finir");
+  QAccessibleInterface& box = *QAccessible::queryAccessibleInterface(&program.box(0));
+  QVERIFY(box.state().editable && !box.state().readOnly);
+  box.editableTextInterface()->replaceText(4, 5, "tł");
+  QCOMPARE(program.form(0), "finit");
+  box.editableTextInterface()->deleteText(0, 2);
+  QCOMPARE(program.form(0), "nit");
+  box.textInterface()->setSelection(0, 1, 3);
+  QCOMPARE(program.box(0).selectedText(), "it");
 }
 
 std::unique_ptr<QObject> accessibilitySuite() { return std::make_unique<AccessibilitySuite>(); }

@@ -95,3 +95,23 @@ def the_list_says_its_choice_and_each_verb(program):
     program.reader.await_said("abaisser")
     keyboard.keys("Down")
     program.reader.await_said("abandonner")
+
+
+def a_form_that_departs_from_the_norm_tells_it(program):
+    _start(program)
+    _type(program, ENTRY, "lire")
+    keyboard.keys("Return")
+    program.reader.await_said("lire: grupa trzecia")
+    program.box("Indicatif présent, il").focus()
+    program.reader.await_said("Indicatif présent, il")
+    program.reader.await_said("Dzisiejsza norma: lit")
+
+
+def words_are_read_up_to_the_end_of_a_form(program):
+    _start(program)
+    _type(program, ENTRY, "se laver")
+    keyboard.keys("Return")
+    program.reader.await_said("se laver: grupa pierwsza")
+    keyboard.keys("End", "ctrl+Left", "ctrl+Left", "ctrl+Right", "ctrl+Right")
+    keyboard.keys("ctrl+i")
+    program.reader.await_said("se laver: grupa pierwsza")
