@@ -164,7 +164,8 @@ void FormBox::markDeparture(const QString& norm) {
   update();
 }
 
-// A corner as of a folded page: seen by its shape, beside the letters and never over them.
+// A corner as of a folded page: seen by its shape, above the line of the letters; in a box that its
+// form fills it touches the last one.
 void FormBox::paintMark() {
   constexpr double kShare = 0.3;  // of the box's height
   const double size = std::max(5.0, height() * kShare);
