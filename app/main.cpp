@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program `odmiennik`: puts the parts together and starts.
 #include <QApplication>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What most files of the window include, compiled once. It saves time only: every file still
 // includes what it uses, and a build with -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON shows that it does.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole program but for its main function: all parts, put together.
 #pragma once
 

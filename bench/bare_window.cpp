@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The floor of every start-up figure: a window of 101 line edits, and nothing behind them.
 #include <QApplication>
 #include <QLineEdit>

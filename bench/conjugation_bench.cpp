@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole result for one verb: forms, boxes, pronouns, labels, with index and built-in look-up.
 #include <benchmark/benchmark.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help: opening of each of its pages, and a search over all pages, first and again.
 #include <benchmark/benchmark.h>
 

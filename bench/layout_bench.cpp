@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Applying the layout to the main window, without painting: a frame of a drag has 16 ms.
 #include <benchmark/benchmark.h>
 

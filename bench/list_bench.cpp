@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Filling the verb list with the longest letter: out of sight, which is all but painting, and
 // shown.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The application that a benchmark of widgets needs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user waits for at the keyboard, painting included: a letter that is completed, and Enter
 // until all boxes are painted.
 #include <benchmark/benchmark.h>

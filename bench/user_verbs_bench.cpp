@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long it takes to look up the last of 10,000 user verbs, about 15 MB.
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Times programs from their start to the first pixel of their window, side by side.
 
 window_start.py [-n RUNS] [--most RATIO] PROGRAM... starts the programs in turns on an X server of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Answers one question after another, each as a program just started would.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command `odmien`: what its arguments ask for is done.
 #pragma once
 

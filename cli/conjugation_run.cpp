@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One run over all verbs asked for.
 #include "cli/conjugation_run.h"
 

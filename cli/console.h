@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the command speaks: data to standard output, sentences to standard error.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comparison of the two varieties.
 #include "cli/departures.h"
 

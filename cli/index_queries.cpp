@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Questions to the verb index and the string table.
 #include "cli/index_queries.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The questions to the verb index and the string table that need no conjugation.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // JSON strings of the two encodings that the program knows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of lines from a source of bytes, in bounded memory.
 #pragma once
 

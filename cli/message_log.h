@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The message boxes of the command: gathered for the answer at hand instead of being shown.
 #pragma once
 

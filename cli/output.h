@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Standard output: texts are gathered and written in large blocks; a failure is remembered.
 #pragma once
 

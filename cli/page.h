@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a text table: pieces in colours, filled up with blanks to columns.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // French text without control characters.
 #include "dictionary/printable.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program folder as the command sees it: a place to read from; it never writes there.
 #pragma once
 

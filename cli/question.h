@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What one line of input or one argument asks: an infinitive, perhaps with a record.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one seam between the command and the system: standard streams as bytes, and the arguments.
 #pragma once
 

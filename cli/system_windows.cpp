@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The seam on Windows: UTF-8 in the console, no translation of line ends.
 #include <fcntl.h>
 #include <io.h>

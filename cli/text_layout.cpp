@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The arrangement of the text table.
 #include "cli/text_layout.h"
 

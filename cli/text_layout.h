@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the tenses stand in the text table: which of them side by side, and in how many columns.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The options that every target of the project is compiled with: link to project_options.
 add_library(project_options INTERFACE)
 target_compile_features(project_options INTERFACE cxx_std_20)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What most files without a window include, compiled once. It saves time only: every file still
 // includes what it uses.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Look-up in the built-in verbs.
 #include "dictionary/builtin_verbs.h"
 

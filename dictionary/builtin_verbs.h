@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The built-in verbs: 84 irregular and defective ones that no rule covers.
 #pragma once
 

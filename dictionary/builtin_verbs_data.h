@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the build makes of the built-in verbs beside their texts: the keys under which they are
 // found.
 #pragma once

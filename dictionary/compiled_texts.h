@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts compiled into one block, and their look-up by hash.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Building the resource script and joining texts.
 #include "dictionary/developer_tools.h"
 

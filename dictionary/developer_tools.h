@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Two tools that prepare the data of built-in verbs; no user ever meets them.
 #pragma once
 

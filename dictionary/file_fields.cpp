@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cutting a line into fields.
 #include "dictionary/file_fields.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Free-form field input: the fields of a line, divided by commas.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cutting a file into lines within one buffer.
 #include "dictionary/file_lines.h"
 

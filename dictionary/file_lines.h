@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A text file line by line, in little memory whatever the file holds.
 #pragma once
 

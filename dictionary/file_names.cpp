@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding files by name.
 #include "dictionary/file_names.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The names of files in the program's folder: found without regard to case on every system.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replacing a file so that at every moment either the old or the new content is complete on disk.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The system calls behind reading and replacing files: the one seam between systems, and the place
 // where a test lets a disk fill up or the power fail.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files by the calls of POSIX systems.
 #include <dirent.h>
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files by the calls of Windows.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shape of the table of message boxes that the build makes of data/messages.txt.
 #pragma once
 

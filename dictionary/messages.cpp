@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wording of message boxes.
 #include "dictionary/messages.h"
 

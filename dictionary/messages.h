@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wording of every message box, asked for by name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Escapes for what a terminal would obey.
 #include "dictionary/printable.h"
 

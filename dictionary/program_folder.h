@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which folder is the program's: where the user's verbs and the settings file are kept.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file Werbolin.cfg: five lines of numbers.
 #pragma once
 

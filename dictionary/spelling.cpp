@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Looking for a verb whatever its accents.
 #include "dictionary/spelling.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verb that was meant: written without its accents, or in the spelling of 1990.
 #pragma once
 

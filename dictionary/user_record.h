@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One line of the user-verbs file: 101 forms and the auxiliary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Telling records from damaged lines.
 #include "dictionary/user_record_reader.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The records of an open user-verbs file, one after the other, damaged ones included.
 #pragma once
 

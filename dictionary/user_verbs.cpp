@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Looking up, listing, saving and deleting the user's own verbs.
 #include "dictionary/user_verbs.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The user's own verbs: one record a verb in the file Czasowniki.dat of the program's folder.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copying the user-verbs file.
 #include "dictionary/user_verbs_rewrite.h"
 

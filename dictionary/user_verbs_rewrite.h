@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copying that saving and deleting a user verb have in common.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Look-up in the general verb index.
 #include "dictionary/verb_index.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The general verb index: 7342 French verbs with group, transitivity and auxiliary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wording of a verb's information.
 #include "dictionary/verb_labels.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wording of what is known of a verb, UTF-8: Polish, with the auxiliaries' French infinitives.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """take_pictures.py PROGRAM FOLDER: takes the pictures of docs/pictures anew.
 
 Each picture is taken on a desktop of its own, like the scenarios of tests/end_to_end/window, whose

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Completion of a stored verb: every "*" becomes the form that the rules derive.
 #pragma once
 

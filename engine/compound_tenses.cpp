@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Builder of the compound tenses.
 #include "engine/compound_tenses.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The compound tenses: auxiliary, blank, past participle.
 #pragma once
 

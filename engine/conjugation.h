@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One conjugation: all that the driver reads and writes.
 #pragma once
 

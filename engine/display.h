@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window shows of a conjugation: the texts of the boxes, pronouns and captions.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The driver: takes an infinitive to a filled and displayed form table.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's shared flags: what is known of the verb being conjugated beside its forms.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The form table: one bare conjugated form a slot.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // French literals: written in readable UTF-8, turned into Windows-1252 by the compiler.
 #pragma once
 

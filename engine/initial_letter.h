@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The letter under which a dictionary files a word.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copying of a few letters: forms are short, and a call for each piece would cost more than the
 // copy.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Today's norm where the program's own forms depart from it: what is known beside the rules.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tables that the build makes of data/norm for the engine.
 #pragma once
 

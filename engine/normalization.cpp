@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Trimming, lower case and the reflexive prefix of infinitives.
 #include "engine/normalization.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is done to an infinitive before it is looked up or compared.
 #pragma once
 

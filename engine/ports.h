@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the driver needs of the rest of the system, as small interfaces that are given to it once.
 #pragma once
 

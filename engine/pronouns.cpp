@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Subject and reflexive pronouns.
 #include "engine/pronouns.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Subject and reflexive pronouns, and the elision that both follow.
 #pragma once
 

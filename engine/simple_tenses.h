@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The builders of the simple tenses: stem and endings, written into fixed slots.
 #pragma once
 

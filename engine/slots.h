@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The 101 slots of a conjugation and the tenses they belong to: the central contract of the system.
 #pragma once
 

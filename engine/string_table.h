@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbered string table: read-only texts addressed by a numeric identifier.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the build makes of the string table's sources: one block of bytes and the place of every
 // text.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A tense, as the build reads it from data/tenses.txt.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hash under which compiled-in texts are looked up; the build and the program share it.
 #pragma once
 

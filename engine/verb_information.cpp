@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of the verb-information record.
 #include "engine/verb_information.h"
 

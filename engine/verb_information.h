@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is known of a verb beside its forms: group, uses, auxiliary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Conversion between Windows-1252 and UTF-8, used only at the program's edges.
 #include "engine/windows1252.h"
 

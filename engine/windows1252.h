@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1252, the one-byte encoding of all French text inside the program and in its files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // First group: every infinitive in -er.
 #include <algorithm>
 #include <string_view>

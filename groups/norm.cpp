@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What today's norm writes over the forms of a verb.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Third-group dispatch: every infinitive that does not end in -er, the second group among them.
 #include "data/other_groups.h"
 #include "groups/rule_engine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Carrying out of models.
 #include "groups/rule_engine.h"
 

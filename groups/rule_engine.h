@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finds the row of a dispatch and carries out the steps of its model on the form table.
 #pragma once
 

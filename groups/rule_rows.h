@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shape of the rule tables that the build makes of data/rules: endings, models and their steps.
 #pragma once
 

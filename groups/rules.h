@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of the three verb groups, as the driver asks for them.
 #pragma once
 

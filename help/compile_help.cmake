@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DCHMCMD=… -DPROJECT=folder -DRESULT=file -P compile_help.cmake: compiles PROJECT/Werbolin.hhp
 # into RESULT. chmcmd leaves an empty file or none behind a fault (exit 217: a page of the project is
 # missing), so an old RESULT goes first, and the build stops with what chmcmd said.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The outline of the about window.
 #include "app/about/about_outline.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The outline of the about window: a speech bubble cut with straight edges, one corner folded.
 #pragma once
 

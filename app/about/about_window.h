@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The about window: version, statistics of use, and the way to the system's information.
 #pragma once
 

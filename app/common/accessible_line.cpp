@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines for screen readers.
 #include "app/common/accessible_line.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sentences for screen readers. What they speak was tried: a change of a name or of a description
 // reaches them from Qt 6.4 without its text and stays unspoken; a notification that comes into
 // sight is spoken wherever the focus is.

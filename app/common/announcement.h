@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Telling whoever listens to the window that something has happened.
 #pragma once
 

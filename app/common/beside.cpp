@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Placing a window beside the main one.
 #include "app/common/beside.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a part of a window says of itself, in a small window below it.
 #pragma once
 

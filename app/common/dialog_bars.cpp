@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Title bars that the program draws.
 #include "app/common/dialog_bars.h"
 

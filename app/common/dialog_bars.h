@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The title bars of dialogs where a compositor leaves frames to the program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Style, font and language.
 #include "app/common/look.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the whole program looks and speaks like: style, font, Qt's own Polish texts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drawing of the message boxes' icons.
 #include "app/common/message_icons.h"
 

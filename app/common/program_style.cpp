@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The frames of boxes.
 #include "app/common/program_style.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The style of the windows: Fusion, with frames of boxes that are painted once and contrasts that
 // hold in every theme.
 #pragma once

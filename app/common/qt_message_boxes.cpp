@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Message boxes over QMessageBox.
 #include "app/common/qt_message_boxes.h"
 

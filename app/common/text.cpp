@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1252 and Qt's strings.
 #include "app/common/text.h"
 

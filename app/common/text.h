@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts between the engine (Windows-1252) and Qt.
 #pragma once
 

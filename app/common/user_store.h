@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The per-user settings store: what belongs to the user and not to the program's folder.
 #pragma once
 

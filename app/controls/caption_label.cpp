@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fitting of a label's letters.
 #include "app/controls/caption_label.h"
 

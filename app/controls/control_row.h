@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One control of a window's design, as the build reads it from data/window.
 #pragma once
 

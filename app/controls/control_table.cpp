@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Proof of the main window's table while the program is compiled; no code comes of it.
 #include "app/controls/control_table.h"
 

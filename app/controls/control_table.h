@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's table of controls, and how its rows are found.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Building of the main window's widgets.
 #include "app/controls/controls.h"
 

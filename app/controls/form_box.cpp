@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A box of one form.
 #include "app/controls/form_box.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A box of one form, and what may be typed into it.
 #pragma once
 

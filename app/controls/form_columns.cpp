@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fitting of the forms to their boxes, column by column.
 #include "app/controls/form_columns.h"
 

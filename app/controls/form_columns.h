@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The width of the letters in the columns of the table.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ground of the main window.
 #include "app/controls/form_surface.h"
 

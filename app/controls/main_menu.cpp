@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Building of the menu bar.
 #include "app/controls/main_menu.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Proof of the menu tree while the program is compiled; no code comes of it.
 #include "app/controls/menu_table.h"
 

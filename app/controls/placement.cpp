@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Twips and points to pixels.
 #include "app/controls/placement.h"
 

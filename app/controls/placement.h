@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From the table's twips and points to Qt's pixels and fonts.
 #pragma once
 

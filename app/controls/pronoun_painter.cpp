@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting of the subject pronouns.
 #include "app/controls/pronoun_painter.h"
 

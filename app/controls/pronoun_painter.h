@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The subject pronouns in front of the boxes, painted on the window itself.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Running of the demonstrations.
 #include "app/demonstration/demonstration.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two demonstrations of the tip of the day: the program conjugates a verb before the user's
 // eyes.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Clicking and typing of a demonstration.
 #include "app/demonstration/demonstration_hand.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hand of a demonstration: it clicks and types in the user's stead.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding the places of the demonstrations.
 #include "app/demonstration/demonstration_places.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where on the screen a demonstration's places are, and how they are clicked.
 #pragma once
 

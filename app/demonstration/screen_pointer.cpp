@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Moving the pointer of the desktop.
 #include "app/demonstration/screen_pointer.h"
 

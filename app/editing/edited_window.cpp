@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window as edit mode sees it.
 #include "app/editing/edited_window.h"
 

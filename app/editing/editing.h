@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that edit and conjugate, from the menu, the keys and the other windows.
 #pragma once
 

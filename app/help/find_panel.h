@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searching in all pages: a field and the list of the pages found.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Folding of letters.
 #include "app/help/folded_text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text as a search sees it: without accents, case and kinds of apostrophes, hyphens and blanks.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's help file: where it is, and its pages, with a page for each thing that can be
 // wrong.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shows the pages of the help file, and nothing from anywhere else.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ways to the help and to the about window.
 #include "app/help/help_commands.h"
 

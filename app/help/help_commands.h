@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every way from the main window to the help and to the about window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of a contents file.
 #include "app/help/help_contents.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of a compiled help file's directory.
 #include "app/help/help_file_check.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether a compiled help file is built soundly enough to be read with libchm.
 #pragma once
 

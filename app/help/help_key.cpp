@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // F1. The key of the menu item does not reach into modal windows; this one does.
 #include "app/help/help_key.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the parts of the window open the help, without knowing what shows it.
 #pragma once
 

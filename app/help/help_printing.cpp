@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing of pages.
 #include "app/help/help_printing.h"
 

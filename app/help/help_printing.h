@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages of the help on paper, made to be handed out.
 #pragma once
 

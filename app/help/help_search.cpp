@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searching in a page of the help.
 #include "app/help/help_search.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Style sheets made larger and smaller.
 #include "app/help/help_sheet.h"
 

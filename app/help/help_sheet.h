@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The style sheets of the pages: on a light and on a dark screen, larger and smaller.
 #pragma once
 

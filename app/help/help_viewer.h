@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The opener of the help: makes the viewer when it is first needed.
 #pragma once
 

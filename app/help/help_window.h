@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help viewer: contents, index and search, pages, the way back, print.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sizes of pages.
 #include "app/help/help_zoom.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The index beside the pages: keywords, and a field that leaves those that hold what is typed.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys of a field for its list.
 #include "app/help/list_keys.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A field above a list: the keys that move in the list do so from the field as well.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colours of pages.
 #include "app/help/page_colours.h"
 

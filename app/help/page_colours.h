@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of a page beside those of its style sheets.
 #pragma once
 

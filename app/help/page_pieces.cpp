@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines and rows of a document.
 #include "app/help/page_pieces.h"
 

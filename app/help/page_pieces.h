@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines and table rows of a document that is laid out.
 #pragma once
 

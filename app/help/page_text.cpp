@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages without their mark-up.
 #include "app/help/page_text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a reader sees of a page, without the widget that shows it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages laid out for paper.
 #include "app/help/paper_document.h"
 

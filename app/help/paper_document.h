@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A page of the help as it is laid out for paper.
 #pragma once
 

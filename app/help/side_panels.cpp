@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The panels beside the pages.
 #include "app/help/side_panels.h"
 

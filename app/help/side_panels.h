@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands beside the pages: table of contents, index, search over all pages.
 #pragma once
 

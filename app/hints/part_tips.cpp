@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The texts of the main window's parts.
 #include "app/hints/part_tips.h"
 

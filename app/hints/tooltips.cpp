@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tips under the pointer and below the focus.
 #include "app/hints/tooltips.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tips of the main window's parts: under the pointer, and below the control that has the focus.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From the layout's twips to widgets.
 #include "app/layout/scaled_layout.h"
 

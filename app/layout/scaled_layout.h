@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's table as it stands in a window of any size.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fitting of the main window to its screen.
 #include "app/layout/screen_fit.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Screens, panels and frames.
 #include "app/layout/screen_room.h"
 

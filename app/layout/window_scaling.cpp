@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Resizes of the main window.
 #include "app/layout/window_scaling.h"
 

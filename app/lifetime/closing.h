@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end of the program: what is asked before, and what is saved.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The developers' tools on their buttons.
 #include "app/lifetime/developer_buttons.h"
 

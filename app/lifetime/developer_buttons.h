@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two hidden buttons behind which the developers' tools stand.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's folder.
 #include "app/lifetime/program_arguments.h"
 

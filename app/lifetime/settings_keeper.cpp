@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading, writing and resetting the settings.
 #include "app/lifetime/settings_keeper.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings of the running program: read at start, written at the end.
 #pragma once
 

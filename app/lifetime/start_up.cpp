@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The steps of the start, carried out.
 #include "app/lifetime/start_up.h"
 

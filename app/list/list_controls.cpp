@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look of the verb list.
 #include "app/list/list_controls.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the verb list is filled with: the user's own verbs, or those of a letter.
 #pragma once
 

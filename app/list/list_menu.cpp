@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening the verb list.
 #include "app/list/list_menu.h"
 

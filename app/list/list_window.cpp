@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verb list.
 #include "app/list/list_window.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window frmLista: verbs to pick one from, the user's own or those of a letter.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of verbs.
 #include "app/list/verb_list_box.h"
 

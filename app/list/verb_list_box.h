@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of verbs: a list box that hands over what is typed into it.
 #pragma once
 

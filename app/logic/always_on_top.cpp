@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Always on top.
 #include "app/logic/always_on_top.h"
 

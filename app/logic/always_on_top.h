@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the main window is put when it is to stay above all others, and when no longer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The scripts of the demonstrations.
 #include "app/logic/demonstration_script.h"
 

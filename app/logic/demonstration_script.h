@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the two demonstrations do, step by step, and how the pointer moves meanwhile.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Availability of the edit commands.
 #include "app/logic/edit_commands.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which commands of the "&Edycja" menu are available.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Edit mode.
 #include "app/logic/edit_mode.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Edit mode: its commands, and what they do to the window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Completion of the infinitive while it is typed.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When a key in a read-only box is answered with the hint that leads to the entry box.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Forms with their pronouns, read out.
 #include "app/logic/form_phrase.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A form as it is said: with its pronoun, its variants and its agreement read out.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comparison of the shown verb with the norm.
 #include "app/logic/norm_of_verb.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What today's norm says of the verb that is shown.
 #pragma once
 

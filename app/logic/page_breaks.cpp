@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cutting into pages.
 #include "app/logic/page_breaks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of the command line.
 #include "app/logic/program_arguments.h"
 

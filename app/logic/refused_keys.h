@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys whose letters a box has not taken, from the moment they go down until they go up.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The arithmetic that keeps the main window's layout in proportion to its size.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is saved of an edited verb.
 #include "app/logic/saving.h"
 

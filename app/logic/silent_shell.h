@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where nothing is to be said: a verb conjugated for the program itself, or shown once more.
 #pragma once
 

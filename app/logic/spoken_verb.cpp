@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A verb's information as a sentence.
 #include "app/logic/spoken_verb.h"
 

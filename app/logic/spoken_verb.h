@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is known of a verb beside its forms, as one sentence to be heard.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the start of the program decides, and the names that it knows.
 #pragma once
 

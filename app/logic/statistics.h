@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sentence of the about window that tells how much the program was used.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The system's information tool.
 #include "app/logic/system_information.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the system's information tool is found on Windows.
 #pragma once
 

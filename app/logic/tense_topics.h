@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The headings of the tenses and their pages in the help.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tip of the day.
 #include "app/logic/tips.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tip of the day: which one is drawn, and how it reads.
 #pragma once
 

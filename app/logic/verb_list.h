@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verb list: what stands in it and which of its controls are enabled.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons of the list window.
 #include "app/logic/verb_list_commands.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons of the list window: what they ask of the main window, and when they can be seen.
 #pragma once
 

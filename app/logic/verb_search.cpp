@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing into the list.
 #include "app/logic/verb_search.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing into the list: the letters of one go, and the verb that they lead to.
 #pragma once
 

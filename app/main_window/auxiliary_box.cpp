@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The auxiliary's check box.
 #include "app/main_window/auxiliary_box.h"
 

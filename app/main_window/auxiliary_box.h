@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check box that says with which auxiliary the compound tenses are built.
 #pragma once
 

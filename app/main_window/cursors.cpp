@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drawing of the program's pointers.
 #include "app/main_window/cursors.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes of the conjugation.
 #include "app/main_window/form_boxes.h"
 

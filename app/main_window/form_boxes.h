@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The 101 boxes of the conjugation and the captions that stand above them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colouring of the headings.
 #include "app/main_window/live_colours.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window, put together from its parts.
 #include "app/main_window/main_window.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window: a verb's whole conjugation at once.
 #pragma once
 

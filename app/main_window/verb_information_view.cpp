@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The labels of the verb's information.
 #include "app/main_window/verb_information_view.h"
 

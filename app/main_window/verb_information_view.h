@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The frame that tells what is known of the verb.
 #pragma once
 

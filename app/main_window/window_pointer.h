@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mouse pointer of the main window: the program's arrow, or the hourglass while it is busy.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the driver asks of the window's side: messages, and the reset of the settings.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starting the character map.
 #include "app/platform/character_map.h"
 

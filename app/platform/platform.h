@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What differs between systems, and nothing else: one source for Windows, one for other desktops.
 // Free of Qt, so that each source is compiled with its system's own headers alone.
 #pragma once

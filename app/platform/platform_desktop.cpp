@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The seam on desktops other than Windows.
 #include <sys/socket.h>
 #include <unistd.h>

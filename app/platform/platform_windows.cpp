@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The seam on Windows: the system's own calls. Paths stay in the system's code page, since they
 // only go from one of its calls to another.
 #define WIN32_LEAN_AND_MEAN

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the system's printers are asked beyond what Qt knows; one source for Windows, one for other
 // desktops.
 #pragma once

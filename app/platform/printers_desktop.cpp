@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printers of desktops other than Windows: CUPS.
 #include <QLibrary>
 #include <QProcess>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printers of Windows.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX

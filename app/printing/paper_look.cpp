@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // White ground, dark letters.
 #include "app/printing/paper_look.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The choices for printing.
 #include "app/printing/print_choices.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user has chosen for printing beside the printer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing of a widget.
 #include "app/printing/printed_picture.h"
 

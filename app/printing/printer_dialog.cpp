@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The choice of the printer.
 #include "app/printing/printer_dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window in which the printer is chosen, and how it prints.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printer dialog.
 #include "app/printing/printer_setup.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing the main window.
 #include "app/printing/printing.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Showing the tip of the day.
 #include "app/tips/tip_of_the_day.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When the tip of the day is shown: at start, and when the Help menu asks for it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tip of the day: its controls and their places.
 #include "app/tips/tip_window.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Completion of the entry box.
 #include "app/typing/autocompletion.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The focus after a click on the check box.
 #include "app/typing/auxiliary_focus.h"
 

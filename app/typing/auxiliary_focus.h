@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the focus is once the auxiliary's check box has been clicked.
 #pragma once
 

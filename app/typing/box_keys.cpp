@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys of the form boxes.
 #include "app/typing/box_keys.h"
 

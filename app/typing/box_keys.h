@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the keys of the form boxes do besides typing: completion, and the hint of read-only boxes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The current box.
 #include "app/typing/current_box.h"
 

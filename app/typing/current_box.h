@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The box that the user was last working in, with its caret and selection.
 #pragma once
 

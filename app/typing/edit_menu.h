@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The edit commands of the menu and of the boxes' context menus, on whichever control has the
 // focus.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Enter outside of the entry box.
 #include "app/typing/enter_key.h"
 

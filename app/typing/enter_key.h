@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What Enter does outside of the entry box, where it conjugates.
 #pragma once
 

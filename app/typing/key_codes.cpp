@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Virtual-key codes: the table, and the key of an event.
 #include "app/typing/key_codes.h"
 

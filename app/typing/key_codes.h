@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows virtual-key codes of Qt's keys, by which the boxes tell keys apart on every system.
 #pragma once
 

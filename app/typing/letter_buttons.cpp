@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing letters by clicking.
 #include "app/typing/letter_buttons.h"
 

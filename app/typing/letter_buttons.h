@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The French letters that are typed by clicking.
 #pragma once
 

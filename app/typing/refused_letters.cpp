@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Letters that a box does not take.
 #include "app/typing/refused_letters.h"
 

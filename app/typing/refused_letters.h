@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Why a letter has not come: said at the box that did not take it.
 #pragma once
 

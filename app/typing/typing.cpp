@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing into the boxes.
 #include "app/typing/typing.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Everything about typing into the boxes, put together.
 #pragma once
 

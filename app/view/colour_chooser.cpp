@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colour chooser over QColorDialog.
 #include "app/view/colour_chooser.h"
 

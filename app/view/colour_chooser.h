@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The system's colour chooser, which a test answers in the user's stead.
 #pragma once
 

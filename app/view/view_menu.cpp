@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Always on top, and the colours.
 #include "app/view/view_menu.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One JSON object a line, its keys in the contract's order.
 #include <span>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table that a person reads: what is known of the verb, then its tenses by mood.
 #include <algorithm>
 

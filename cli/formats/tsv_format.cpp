@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tab-separated values: a header, then 101 lines a verb.
 #include "cli/format.h"
 

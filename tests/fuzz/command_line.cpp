@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any arguments of the window and of the command, and any line given to the command.
 #include <algorithm>
 #include <string>

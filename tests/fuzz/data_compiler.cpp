@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes as a source of the program's data; each is compiled, or refused with its
 // file, a line and a reason.
 #include <unistd.h>

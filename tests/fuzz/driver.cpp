@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: the driver on any typed bytes, with any verb-information record and user verb.
 #include <map>
 #include <string>

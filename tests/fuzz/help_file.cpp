@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes as a compiled help file: the check of it, and what is read of a file that
 // passes.
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file system of a fuzz target's own: files are texts in memory, and nothing ever fails.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes as the settings file; what is read, written and read again is the same.
 #include "dictionary/settings.h"
 

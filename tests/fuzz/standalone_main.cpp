@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a fuzz target without libFuzzer: every file of the corpus, then pseudo-random changes of
 // them from a fixed seed, so that the test is the same everywhere. Usage: fuzz_NAME RUNS CORPUS…
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes as the file of the user's verbs; what is read, written and read again is
 // the same.
 #include <string>

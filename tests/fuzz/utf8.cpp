@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes read as UTF-8, and any bytes written as UTF-8.
 #include <string>
 #include <string_view>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of the two golden files of the verb index.
 #include <sstream>
 #include <stdexcept>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stems and participles taken out of the forms of a verb and put back in.
 #include "tests/golden/index_snapshot.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The compact form in which the conjugation of the whole verb index is kept as a golden file.
 #pragma once
 

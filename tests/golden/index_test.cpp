@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole verb index: the 101 boxes of all verbs against the golden snapshot.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Golden conjugations: every model of the three groups, and the built-in verbs.
 #include <gtest/gtest.h>
 

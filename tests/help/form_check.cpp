@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Accepted writings of a form.
 #include "tests/help/form_check.h"
 

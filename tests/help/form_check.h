@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether a French form written on a help page is the one the engine gives.
 #pragma once
 

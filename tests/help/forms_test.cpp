@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every French form that a page marks is the one that the program shows.
 #include <gtest/gtest.h>
 

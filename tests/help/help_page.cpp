@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Taking pages apart. The pages are our own, so plain patterns suffice.
 #include "tests/help/help_page.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A page of the help taken apart: its headings, text, links and marked French forms.
 #pragma once
 

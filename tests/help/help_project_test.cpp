@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The build of the help: encodings and the project's files.
 #include <gtest/gtest.h>
 #include <unistd.h>

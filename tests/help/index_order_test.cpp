@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The index is looked through by eye, so it stands as a Polish reader expects it.
 #include <gtest/gtest.h>
 

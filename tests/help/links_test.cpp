@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every link leads somewhere, and every page can be found.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pages there are and how they are built up.
 #include <gtest/gtest.h>
 

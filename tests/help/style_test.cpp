@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One hand: what help/README.md settles about titles, links, marks and signs.
 #include <gtest/gtest.h>
 

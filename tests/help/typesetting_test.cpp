@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hyphens and blanks at which no line may end.
 #include "tools/build_help/typesetting.h"
 

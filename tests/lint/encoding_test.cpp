@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sources and data are UTF-8 without a mark at the front, with LF line ends and no stray blanks.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine and the rules neither print nor read, write or end anything: they only compute.
 #include <gtest/gtest.h>
 

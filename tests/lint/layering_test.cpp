@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An arrow points only downward: a folder includes only what stands below it.
 #include <gtest/gtest.h>
 

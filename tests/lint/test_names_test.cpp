@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Names of tests are words with underscores, which read as a sentence.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A literal of bytes that are no UTF-8 is refused like a letter outside.
 #include "engine/french.h"
 

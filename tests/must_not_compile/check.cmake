@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Compiles SOURCE; fails unless the outcome is the one wanted (REASON empty: it compiles).
 execute_process(
   COMMAND ${COMPILER} ${FLAGS} -I${INCLUDE} -I${DATA} ${SOURCE}

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A check box is no QLabel.
 #include "app/controls/control_table.h"
 

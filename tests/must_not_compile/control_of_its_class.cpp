@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The control: a check box of the table is a QCheckBox, and a QAbstractButton.
 #include "app/controls/control_table.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The control: all these letters are in Windows-1252, so the literal compiles.
 #include "engine/french.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One letter outside spoils a text of good ones.
 #include "engine/french.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for every verb of the index in the norm.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every form of the index in which the system departs from the norm.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The forms that were written by hand.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Layout of golden conjugations.
 #include "tests/support/form_layout.h"
 

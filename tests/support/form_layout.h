@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The readable layout in which golden files show a conjugation: a tense a line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading, comparing and updating of golden files.
 #include "tests/support/golden_file.h"
 

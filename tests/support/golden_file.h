@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Golden files: expected output kept beside the tests, compared by them and reviewed like code.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What every test of GoogleTest includes, compiled once. It saves time only: every file still
 // includes what it uses.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The driver with its fakes.
 #include "tests/support/test_program.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The driver put together as in the program, with fakes around it that a test can fill and
 // question.
 #pragma once

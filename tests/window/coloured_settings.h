@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A settings file with colours of its own, and the colours that the window shows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program that demonstrates itself without a pause, with a pointer that is only written down.
 #pragma once
 

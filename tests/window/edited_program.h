@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program under test whose verbs are edited and saved.
 #pragma once
 

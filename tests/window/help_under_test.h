@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program with its help viewer, on the help file that is built.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A verb list over a folder of its own, with a main window that notes what it is asked for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // window_test SUITE [options of Qt Test]: runs one suite on a program prepared like the real one.
 #include <QTest>
 #include <cstdio>

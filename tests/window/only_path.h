@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A search path of one folder, and programs in it that write down that they were started.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A print server of a test's own.
 #include "tests/window/print_server.h"
 

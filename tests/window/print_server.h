@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A print server of a test's own, with real queues that write what they are handed into files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs of the program in one folder: what is written before, shown meanwhile and left behind.
 #pragma once
 

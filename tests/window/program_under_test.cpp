@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program under test. What every suite starts and types with is compiled here, once.
 #include "tests/window/program_under_test.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The suites of this folder; each is run by its name.
 #pragma once
 

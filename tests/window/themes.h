@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The themes that a desktop may have, and what is seen on them.
 #pragma once
 

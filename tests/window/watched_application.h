@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An application that knows which events are being delivered.
 #pragma once
 

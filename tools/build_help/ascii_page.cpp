@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages to ASCII.
 #include "tools/build_help/ascii_page.h"
 

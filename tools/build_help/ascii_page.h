@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A help page in pure ASCII: every viewer shows it alike, whatever encoding it believes in.
 #pragma once
 

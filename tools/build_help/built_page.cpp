@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages as viewers get them.
 #include "tools/build_help/built_page.h"
 

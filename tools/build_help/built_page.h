@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A help page as the build puts it into the help file.
 #pragma once
 

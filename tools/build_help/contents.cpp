@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of spis.txt and indeks.txt.
 #include "tools/build_help/contents.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table of contents and the index of the help, as they stand in help/.
 #pragma once
 

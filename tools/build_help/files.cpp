@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading, writing and listing of files.
 #include "tools/build_help/files.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files of the help: names are UTF-8 on every system, a file that cannot be read or written throws.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // build_help HELP OUTPUT: turns the folder of the help's sources into a project for a help
 // compiler.
 #include <cstdio>

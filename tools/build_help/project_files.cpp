@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing of the project's files.
 #include "tools/build_help/project_files.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The project of the compiled help: its main file, table of contents and index, in Windows-1250.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Setting of pages, letter by letter of what a reader sees.
 #include "tools/build_help/typesetting.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a writer of pages need not think of: hyphens and blanks at which no line may end.
 #pragma once
 

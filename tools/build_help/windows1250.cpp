@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1250 from UTF-8.
 #include "tools/build_help/windows1250.h"
 

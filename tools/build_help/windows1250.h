@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1250, the encoding in which a Polish help project is read by help compilers and viewers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The source of the built-in verbs: a block a verb, a line a tense.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of a dispatch: its rows, each with its model.
 #include <algorithm>
 

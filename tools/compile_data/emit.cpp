@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing of C++ sources.
 #include "tools/compile_data/emit.h"
 

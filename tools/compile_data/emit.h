@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing C++ sources: literals and blocks of texts.
 #pragma once
 

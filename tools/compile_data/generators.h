@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The generators: each turns some sources in data/ into one C++ file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Taking a line of a source apart.
 #include "tools/compile_data/line_reader.h"
 

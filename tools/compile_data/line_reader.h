@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Taking a line of a source apart, from left to right: what is not expected is a fault that names
 // its file and line, and nothing on a line is passed over.
 #pragma once

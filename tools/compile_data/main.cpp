@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // compile_data KIND OUTPUT SOURCE…: turns the text sources in data/ into C++ during the build.
 #include <cstdio>
 #include <exception>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of models: what every block has, and the two notations of its steps.
 #include <algorithm>
 

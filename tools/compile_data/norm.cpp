@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Today's norm where it departs from the program's own forms: what is written over them, and lists.
 #include <algorithm>
 #include <map>

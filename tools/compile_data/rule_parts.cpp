@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of what both notations of a model are made of.
 #include "tools/compile_data/rule_parts.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What both notations of a model are made of: a tense, a condition, forms, a builder's base.
 #pragma once
 

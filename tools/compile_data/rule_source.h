@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The source of the rules: models as steps, and dispatches that choose among them.
 #pragma once
 

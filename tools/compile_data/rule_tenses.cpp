@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tenses and their builders.
 #include "tools/compile_data/rule_tenses.h"
 

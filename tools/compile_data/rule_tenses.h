@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tenses that the rules write, each with its builder.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of text sources.
 #include "tools/compile_data/source_file.h"
 

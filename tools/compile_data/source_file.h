@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading the text sources in data/: lines with their numbers, and errors that name the place.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbered string table: small texts, tips and built-in verbs.
 #include <map>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tenses as tables: for the engine, and for the window's headings and help.
 #include <map>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading of the tenses.
 #include "tools/compile_data/tenses.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The source of the tenses: a row a tense, below its mood.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The general verb index: infinitives in dictionary order, with their records.
 #include <algorithm>
 #include <array>

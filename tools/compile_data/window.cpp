@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The design of a window: a table of controls.
 #include <array>
 #include <sstream>

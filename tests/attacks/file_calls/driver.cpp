@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // file_call_driver FOLDER STEP…: what the window does with its files, without a window. Steps:
 // start, save:VERB, delete:VERB, load:VERB, list, exit, reset. Every answer and every message is a
 // line of standard output.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stands between a program and the file calls of the system (LD_PRELOAD): counts and writes down
 // those below one folder, and as ordered ends the program before one of them, lets it fail, or has
 // it do a part of its work only.

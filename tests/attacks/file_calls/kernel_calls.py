@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """kernel_calls.py LIBRARY DRIVER: the calls that are counted are those that the kernel gets.
 
 Each life is run under strace; what the kernel was asked of the folder and of the library's counting

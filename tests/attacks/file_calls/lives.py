@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What a program does with its files from start to end: each life is swept call by call."""
 
 import dataclasses

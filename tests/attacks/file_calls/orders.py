@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What the library of faulty file calls is told to do, and what it has counted."""
 
 import mmap

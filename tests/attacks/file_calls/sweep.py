@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """sweep.py LIBRARY DRIVER TABLE [--all]: strikes each file call of each life, one after the other.
 
 Whatever is struck, nothing is lost: the program ends by itself (or where it was ended), says what it

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """attack.py PROGRAM MODULE [ARGUMENT…]: runs one attack on the real window, on a desktop of its own.
 
 An attack is a module of this folder with a function `run(program, *arguments)`; it fails with an

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The file calls of the real window, struck in turn: of a save, a delete, an exit, a reset, a start.
 
 run(program, LIBRARY, DRIVER, TABLE, EVERY, ACTION…): every call in every way where EVERY is 1, else

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A user who does one thing after the other without a plan: the seed tells which.
 
 After every step the 101 boxes are what the command answers, edit mode is whole, and the program has

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Surroundings that nobody plans for. Each case is a function; its first line says what is expected.
 
 run(program, TABLE, CASE…)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input: each line has its defined answer or a clear error, and the next line is still served.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command as a user meets it: arguments, formats, exit codes, streams.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The forms of the regular groups, as a user reads them.
 #include <gtest/gtest.h>
 

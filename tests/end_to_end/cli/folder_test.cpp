@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program folder: the user's verbs and their count are read, nothing is ever written.
 #include <gtest/gtest.h>
 

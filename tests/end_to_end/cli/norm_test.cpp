@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Today's norm, as a user of the command meets it.
 #include <gtest/gtest.h>
 

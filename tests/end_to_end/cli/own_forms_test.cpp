@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Forms that the user has saved, and what the program makes of them.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starting the real command, talking to it and waiting for its end, all with a time limit.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands before a form: pronouns and auxiliaries.
 #include <gtest/gtest.h>
 

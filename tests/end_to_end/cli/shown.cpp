@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the command shows of one verb, read from its JSON object.
 #include "shown.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program folder made for one test.
 #include "verb_folder.h"
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Starts PROGRAM with ARGUMENTS where no screen is and expects EXIT_CODE and a text that matches
 # PATTERN: on standard output when all is well, else on standard error.
 list(APPEND command ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A private desktop: a screen, a session bus, a window manager and a home that nobody else uses."""
 
 import contextlib

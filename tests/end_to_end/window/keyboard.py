@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The keyboard of the private screen."""
 
 import contextlib

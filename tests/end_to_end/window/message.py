@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A message box or another secondary window of the program."""
 
 from element import gone

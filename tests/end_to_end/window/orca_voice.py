@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A voice for Orca that writes down what it is given to say, a line a sentence."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """run_scenario.py PROGRAM MODULE SCENARIO: runs one scenario on a desktop of its own.
 
 A scenario is a function of scenarios/MODULE.py that gets the program. It fails with an exception,

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The screen reader Orca beside the program, and what it says."""
 
 import contextlib

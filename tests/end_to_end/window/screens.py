@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The screens of the private desktop: their resolution, and several beside each other."""
 
 import ctypes

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """start_orca.py FOLDER: the screen reader Orca, with its settings in FOLDER and a voice that writes.
 
 Not the program `orca` itself: that one ends every other Orca of the user, another scenario's too.

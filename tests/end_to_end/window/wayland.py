@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A Wayland desktop: the compositor Weston in a window that covers the private screen."""
 
 import contextlib

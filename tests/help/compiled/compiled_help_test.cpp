@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Werbolin.chm as it was built: every page is in it, whole, under the name by which it is asked
 // for.
 #include <gtest/gtest.h>

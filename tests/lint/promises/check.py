@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """check.py registered BUILD PAGE | check.py ran RESULTS PAGE
 
 Fails when the page of promises names a test that the build BUILD has not, or that did not run and

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The check of the page of promises refuses what it is there to refuse.
 
 The tests are those of a build made up here, which the real ctest lists and runs.

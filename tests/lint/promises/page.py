@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """docs/promises.md as data: what is promised, where it stands, and the tests that show it."""
 
 import dataclasses

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The tests that have run and passed, from the results that ctest writes for one run."""
 
 import re

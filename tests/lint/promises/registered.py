@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The tests that a build has: those of ctest, and the functions of the window's suites."""
 
 import json

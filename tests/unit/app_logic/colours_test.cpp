@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colours as numbers, and the colour window.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When the edit commands are available.
 #include "app/logic/edit_commands.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saving an edited verb: every way to it, and that a refused or failed save loses nothing.
 #include <gtest/gtest.h>
 

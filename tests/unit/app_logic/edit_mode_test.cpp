@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entering and leaving edit mode, its captions and its saved flag.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window without widgets for edit mode: it conjugates by upper-casing and keeps a diary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hint that answers keys in read-only boxes.
 #include "app/logic/entry_box_hint.h"
 

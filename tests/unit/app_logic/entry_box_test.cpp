@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Completion in the entry box.
 #include "app/logic/entry_box.h"
 

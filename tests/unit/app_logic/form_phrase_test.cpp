@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Forms as they are said.
 #include "app/logic/form_phrase.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The quiet texts of the window.
 #include "app/logic/hints.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the norm says of the verb that is shown.
 #include "app/logic/norm_of_verb.h"
 

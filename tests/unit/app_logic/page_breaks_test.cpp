@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a long text is cut into pages.
 #include "app/logic/page_breaks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys whose letters a box has not taken.
 #include "app/logic/refused_keys.h"
 

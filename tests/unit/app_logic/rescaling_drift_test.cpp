@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How far the layout drifts when the window is resized again and again.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The arithmetic of rescaling, control by control.
 #include "app/logic/rescaling.h"
 

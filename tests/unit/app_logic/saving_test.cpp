@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The coarse test of infinitives, and the record that is made of the boxes.
 #include "app/logic/saving.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader says of a verb.
 #include "app/logic/spoken_verb.h"
 

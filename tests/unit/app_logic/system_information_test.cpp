@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order in which the system's information tool is looked for.
 #include "app/logic/system_information.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pages of the tenses and the underlining of their headings.
 #include "app/logic/tense_topics.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draw of a tip and its text.
 #include "app/logic/tips.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the list's buttons ask of the main window.
 #include "app/logic/verb_list_commands.h"
 

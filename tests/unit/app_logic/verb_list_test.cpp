@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands in the verb list and what is enabled.
 #include "app/logic/verb_list.h"
 

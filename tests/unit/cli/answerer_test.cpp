@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every question is answered as by a program just started.
 #include "cli/answerer.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Asking the command's parts without a process: one line in, one answer or its text out.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which folder is the program's.
 #include "dictionary/program_folder.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every faulty source that is kept: the build stops and names the file, the line and the reason.
 #include <gtest/gtest.h>
 #include <sys/wait.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every damaged file that is kept: the message names the damage, and what is good is still used.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every built-in verb, completed, has exactly the forms that its source says it has.
 #include <gtest/gtest.h>
 

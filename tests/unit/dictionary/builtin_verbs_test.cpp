@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The 84 built-in verbs as a numbered table and as they are looked up.
 #include "dictionary/builtin_verbs.h"
 

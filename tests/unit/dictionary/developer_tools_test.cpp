@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tools that prepare the data of built-in verbs.
 #include "dictionary/developer_tools.h"
 

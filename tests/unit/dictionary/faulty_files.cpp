@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Failing on purpose.
 #include "tests/unit/dictionary/faulty_files.h"
 

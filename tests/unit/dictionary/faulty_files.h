@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file system whose power fails, or whose disk is full, after a number of steps.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a file: the three line ends, wherever reading happens to stop, and lines without end.
 #include "dictionary/file_lines.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Foreign text on a terminal.
 #include "dictionary/printable.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Test folders and records.
 #include "tests/unit/dictionary/program_files.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program folder of a test's own, and what it takes to fill it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The prefix of file names.
 #include "dictionary/program_folder.h"
 

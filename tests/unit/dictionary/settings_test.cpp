@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file: five numbers, the last one encoded.
 #include "dictionary/settings.h"
 

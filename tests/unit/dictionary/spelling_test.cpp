@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verb that was meant by another spelling.
 #include "dictionary/spelling.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One record: free-form fields, the flag, the writer's format.
 #include "dictionary/user_record.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The power fails at every step of a save and of a delete: nothing is lost, and the next start
 // tidies up.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Deleting user verbs.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A disk that does not answer for a moment, and another program in the same folder: nothing is
 // lost.
 #include <gtest/gtest.h>

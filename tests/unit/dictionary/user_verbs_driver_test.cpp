@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The user's own verbs seen from the driver.
 #include <gtest/gtest.h>
 

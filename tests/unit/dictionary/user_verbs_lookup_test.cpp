@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Looking up and listing the user's own verbs.
 #include <gtest/gtest.h>
 

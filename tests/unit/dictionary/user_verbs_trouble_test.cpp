@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Trouble that only a real system makes: no rights, a full disk, links, a file without line ends.
 #ifndef _WIN32
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The general verb index: records, counts, order, completion.
 #include "dictionary/verb_index.h"
 

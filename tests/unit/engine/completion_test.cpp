@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Completion of stored verbs: the order, and that only the first slot of a tense counts.
 #include "engine/completion.h"
 

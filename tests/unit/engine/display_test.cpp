@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The display step: boxes of a form table.
 #include "engine/display.h"
 

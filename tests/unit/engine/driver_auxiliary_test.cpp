@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The click on the auxiliary's check box.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Edit mode: the table as the starting point of editing.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Conjugate command from the typed text to the boxes.
 #include "engine/driver.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The French literal: readable in the source, Windows-1252 in the program.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Elision, reflexive pronouns, subject pronouns and captions.
 #include "engine/pronouns.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The slot map: the central contract of the system.
 #include "engine/slots.h"
 

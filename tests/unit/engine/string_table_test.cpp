@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbered string table: pronouns, captions and the auxiliaries' forms.
 #include "engine/string_table.h"
 

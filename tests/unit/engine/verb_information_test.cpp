@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verb-information record: fields by position, unknown codes, flags.
 #include "engine/verb_information.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows-1252 and UTF-8: the round trip of every byte, and what is refused.
 #include "engine/windows1252.h"
 

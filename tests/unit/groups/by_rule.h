@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An infinitive conjugated by the rule sets alone, without stored verbs or the verb index.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // First-group dispatch: one verb for every row reaches the model that the row names.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The regular paradigm and the spelling models of the first group.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The third-group models: their own forms, and what the builders make of them.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The title bars that dialogs get where Qt draws frames: the offscreen platform has such frames.
 #include <QLabel>
 #include <QMessageBox>

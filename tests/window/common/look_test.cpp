@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Font, language and colours.
 #include <QApplication>
 #include <QFontInfo>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // No window is closed, and none dies, under a message that stands over it.
 #include <QMessageBox>
 #include <QPointer>

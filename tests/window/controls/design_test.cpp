@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window against its table of controls.
 #include <QGroupBox>
 #include <QSet>

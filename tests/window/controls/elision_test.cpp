@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pronouns on the window: which they are, and that none stands twice.
 #include "app/controls/form_surface.h"
 #include "tests/window/edited_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The letters of the forms follow the size of their boxes.
 #include <QLabel>
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The demonstrations, with their clock sped up, from their beginning to their end.
 #include <QComboBox>
 #include <QListWidget>

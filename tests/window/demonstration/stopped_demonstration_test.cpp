@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A demonstration that the user stops: what he stops it with does nothing else, all is as before.
 #include <QSignalSpy>
 

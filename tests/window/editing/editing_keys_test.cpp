@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The keys that lead through an edited verb and out of it.
 #include <QMenu>
 

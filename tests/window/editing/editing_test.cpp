@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Editing a verb in its boxes: entering and leaving edit mode.
 #include <QWindow>
 

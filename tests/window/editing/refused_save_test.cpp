@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whoever asks whether to save an edited verb: a save that is refused or fails loses nothing.
 #include <QComboBox>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Giving up one's own forms of a verb for the program's.
 #include <QListWidget>
 

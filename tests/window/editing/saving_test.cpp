@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saving an edited verb.
 #include <QClipboard>
 #include <QGuiApplication>

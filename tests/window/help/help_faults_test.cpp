@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help viewer without its file or a page of it, and on a file that is damaged or comes later.
 #ifndef _WIN32
 #include <sys/stat.h>

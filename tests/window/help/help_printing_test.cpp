@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages of the help on paper, printed to a real queue.
 #include <QDir>
 #include <QPrinter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading a page of the help: with the keyboard, larger, in the dark.
 #include <QClipboard>
 #include <QFontInfo>

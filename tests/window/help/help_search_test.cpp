@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding in the help: in a page, in all pages, in the index, in the table of contents.
 #include <QClipboard>
 #include <QListWidget>

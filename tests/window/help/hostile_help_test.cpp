@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Help files that were made to do harm: nothing crashes, hangs, or is read from outside the file.
 #include <QFile>
 #include <QImage>

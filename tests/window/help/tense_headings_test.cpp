@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tense headings as links to the help.
 #include <QTest>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window's parts say of themselves.
 #include <QHelpEvent>
 #include <QToolTip>

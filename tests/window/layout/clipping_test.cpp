@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever size the window has been given, nothing overlaps and everything can be read.
 #include <QCheckBox>
 #include <QGroupBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window on a screen of 640 by 480 pixels.
 #include <QScreen>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // On a screen whose desktop draws everything larger no window is larger than the screen, and
 // nothing in it is cut.
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What closing the program asks, saves and ends.
 #include <QCloseEvent>
 #include <QGuiApplication>

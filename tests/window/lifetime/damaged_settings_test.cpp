@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A settings file that is damaged, or can be neither read nor written: the program works on.
 #include "tests/unit/dictionary/faulty_files.h"
 #include "tests/window/coloured_settings.h"

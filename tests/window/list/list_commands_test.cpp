@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the verb list does: commands of the main window, deleting, opening and closing.
 #include <QScrollBar>
 

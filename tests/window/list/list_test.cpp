@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands in the verb list, and what can be done with it.
 #include "dictionary/verb_index.h"
 #include "tests/window/list_under_test.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file of the user's own verbs, as the user meets it in the window.
 #include <QComboBox>
 #include <QDir>

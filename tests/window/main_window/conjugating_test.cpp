@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From a typed infinitive to the filled window.
 #include "app/controls/form_surface.h"
 #include "tests/window/program_under_test.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What can be seen and read in every theme, measured on what is painted.
 #include <QCheckBox>
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pointers that the window shows: while it starts, over itself and over the headings.
 #include "app/main_window/cursors.h"
 #include "tests/window/program_run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing to real queues of a private print server.
 #include <QCheckBox>
 #include <QComboBox>

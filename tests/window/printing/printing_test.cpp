@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing without a printer, and the picture that is printed.
 #include "app/common/colours.h"
 #include "app/printing/paper_look.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the tip of the day.
 #include "app/common/text.h"
 #include "app/logic/tips.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The auxiliary's check box between one verb and the next: where the focus is, and what Enter does.
 #include "tests/window/edited_program.h"
 #include "tests/window/suites.h"

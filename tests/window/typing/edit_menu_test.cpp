@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The edit commands: when they are available, and what they do.
 #include <QClipboard>
 #include <QImage>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What may be typed, and how boxes show long forms.
 #include <QClipboard>
 #include <QToolTip>

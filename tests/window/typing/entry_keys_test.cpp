@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What keys do in the boxes besides typing: completion, and the hint of read-only boxes.
 #include <QClipboard>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // French letters typed by clicking.
 #include <QCheckBox>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Boxes show whether they can be typed into.
 #include "app/common/colours.h"
 #include "tests/window/edited_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command "Zawsze na wierzchu".
 #include <QScreen>
 #include <QWindow>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Today's norm: the mark of a form that departs from it, and the forms at one tick.
 #include <QCheckBox>
 #include <QHelpEvent>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A learner chooses other colours."""
 
 import keyboard

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A learner corrects and adds verbs."""
 
 import keyboard

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What a blind learner hears in the help, said by the real Orca."""
 
 import keyboard

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A learner looks something up in the help."""
 
 import keyboard

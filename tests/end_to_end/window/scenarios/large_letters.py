@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Screens that show everything, or the texts alone, half as large again or twice as large."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """French letters by the mouse, for keyboards that have none."""
 
 import keyboard

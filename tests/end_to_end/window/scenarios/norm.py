@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A learner sees where a form departs from today's norm, and asks for the norm."""
 
 from waiting import wait_equal

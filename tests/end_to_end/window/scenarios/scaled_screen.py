@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A screen of exactly 800 pixels whose desktop draws everything half as large again."""
 
 SCREEN = "800x600"

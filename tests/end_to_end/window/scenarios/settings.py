@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What is kept between two runs, and what is asked before it is given up."""
 
 import fcntl

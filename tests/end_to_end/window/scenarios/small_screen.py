@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A screen of 640 by 480 pixels, where every new size of the window is asked about."""
 
 import subprocess

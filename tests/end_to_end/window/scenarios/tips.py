@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The tip of the day, and the demonstrations that it offers."""
 
 import subprocess

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Two screens side by side, the right one of which shows everything twice as large."""
 
 import subprocess

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The list of verbs beside the main window."""
 
 from program import ENTRY

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The main job on a Wayland desktop, by keyboard; what the compositor decides is accepted."""
 
 import keyboard

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A Wayland desktop that draws everything twice as large on 1366 by 768 pixels."""
 
 import keyboard

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A Wayland desktop of 800 by 600 pixels with a panel, of which the compositor tells nothing."""
 
 from picture import settled
