@@ -6,11 +6,15 @@
 
 #ifdef _WIN32
 #include <windows.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
 #endif
 #ifdef __APPLE__
 #include <mach-o/dyld.h>
 #endif
 
+#include <cerrno>
 #include <cstdlib>
 #include <system_error>
 
@@ -25,6 +29,10 @@ bool isInstalled(const fs::path& folder) {
          fs::is_directory(folder.parent_path() / "share" / "odmiennik", ignored);
 }
 
+// Whether the system lets this user put no file into the folder. What it cannot tell is no refusal:
+// a network folder that is silent for a moment must not make the verbs in it seem lost.
+bool refusesFiles(const fs::path& folder);
+
 std::string utf8Of(const fs::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};
@@ -34,7 +42,8 @@ std::string utf8Of(const fs::path& path) {
 
 fs::path programFolder(const fs::path& executable, const fs::path& userData) {
   const fs::path folder = executable.parent_path();
-  return isInstalled(folder) && !userData.empty() ? userData : folder;
+  const bool isForReading = isInstalled(folder) || refusesFiles(folder);
+  return isForReading && !userData.empty() ? userData : folder;
 }
 
 std::string programFolder() {
@@ -49,6 +58,23 @@ std::string_view withoutTrailingSeparators(std::string_view folder) {
 
 #if defined(_WIN32)
 
+namespace {
+
+// The folder is opened for adding a file, and none is added: its attributes tell nothing of rights.
+bool refusesFiles(const fs::path& folder) {
+  constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE opened = CreateFileW(folder.c_str(), FILE_ADD_FILE, kShared, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (opened != INVALID_HANDLE_VALUE) {
+    CloseHandle(opened);
+    return false;
+  }
+  const DWORD fault = GetLastError();
+  return fault == ERROR_ACCESS_DENIED || fault == ERROR_WRITE_PROTECT;
+}
+
+}  // namespace
+
 fs::path executablePath() {
   std::wstring path(32768, L'\0');
   const DWORD size = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
@@ -62,6 +88,15 @@ fs::path userDataFolder() {
 }
 
 #else
+
+namespace {
+
+bool refusesFiles(const fs::path& folder) {
+  if (::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0) return false;
+  return errno == EACCES || errno == EPERM || errno == EROFS;
+}
+
+}  // namespace
 
 fs::path executablePath() {
 #ifdef __APPLE__

@@ -8,9 +8,10 @@
 
 namespace odmiennik::dictionary {
 
-// The folder of the executable; but for an installation (the executable in PREFIX/bin with
-// PREFIX/share/odmiennik beside it) `userData`, since users may not write where programs are
-// installed. Nothing is created. Example: "/opt/o/odmien" -> "/opt/o".
+// The folder of the executable; but `userData` where nothing can be kept there: for an installation
+// (the executable in PREFIX/bin with PREFIX/share/odmiennik beside it), and where the system lets
+// this user write no file (a folder of the administrator's, an image or disk for reading only).
+// Nothing is created. Example: "/opt/o/odmien" -> "/opt/o".
 [[nodiscard]] std::filesystem::path programFolder(const std::filesystem::path& executable,
                                                   const std::filesystem::path& userData);
 

@@ -8,6 +8,8 @@
 namespace odmiennik::end_to_end {
 namespace {
 
+namespace fs = std::filesystem;
+
 bool holds(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }
@@ -128,20 +130,61 @@ TEST_F(folder, that_does_not_exist_is_not_created) {
   EXPECT_FALSE(std::filesystem::exists(missing));
 }
 
-TEST_F(folder, of_an_installed_command_is_the_users_and_not_created) {
-  namespace fs = std::filesystem;
-  fs::create_directories(folder_.file("bin"));
+// A copy of the command in a folder "bin", and the user's data folder beside it.
+class command_of_its_own : public folder {
+ protected:
+  command_of_its_own() {
+    fs::create_directories(folder_.file("bin"));
+    fs::copy_file(ODMIEN, folder_.file("bin/odmien"));
+  }
+  ~command_of_its_own() override { setPermissions(0755); }
+
+  void setPermissions(unsigned rights) { fs::permissions(folder_.file("bin"), fs::perms(rights)); }
+
+  // Started with the rights of an ordinary user, also by the superuser.
+  Result answer() {
+    const Arguments arguments{
+        "/bin/sh",
+        "-c",
+        "[ \"$(id -u)\" != 0 ] || set -- setpriv --bounding-set=-all \"$@\"; exec \"$@\"",
+        "sh",
+        folder_.file("bin/odmien").string(),
+        "--format",
+        "json",
+        "parler"};
+    return run(arguments, {}, {"XDG_DATA_HOME=" + data_.string()});
+  }
+
+  bool isCreating() {
+    EXPECT_EQ(answer().exitCode, 0);
+    return fs::exists(data_);
+  }
+
+  bool takesTheUsersVerb() {
+    fs::create_directories(data_ / "odmiennik");
+    folder_.write("dane/odmiennik/Werbolin.cfg", "1\r\n0\r\n0\r\n0\r\n10\r\n");
+    folder_.write("dane/odmiennik/Czasowniki.dat", record("parler", 1));
+    return holds(answer().out, "\"source\":\"user\"");
+  }
+
+  std::filesystem::path data_ = folder_.file("dane");
+};
+
+TEST_F(command_of_its_own, installed_takes_the_users_folder_and_does_not_create_it) {
   fs::create_directories(folder_.file("share/odmiennik"));
-  fs::copy_file(ODMIEN, folder_.file("bin/odmien"));
-  const std::string command = folder_.file("bin/odmien").string();
-  const std::string data = folder_.file("dane").string();
-  const Arguments arguments{"/bin/sh", "-c", "exec \"$1\" --format json parler", "sh", command};
-  EXPECT_EQ(run(arguments, {}, {"XDG_DATA_HOME=" + data}).exitCode, 0);
-  EXPECT_FALSE(fs::exists(data));
-  fs::create_directories(fs::path(data) / "odmiennik");
-  folder_.write("dane/odmiennik/Werbolin.cfg", "1\r\n0\r\n0\r\n0\r\n10\r\n");
-  folder_.write("dane/odmiennik/Czasowniki.dat", record("parler", 1));
-  EXPECT_TRUE(holds(run(arguments, {}, {"XDG_DATA_HOME=" + data}).out, "\"source\":\"user\""));
+  EXPECT_FALSE(isCreating());
+  EXPECT_TRUE(takesTheUsersVerb());
+}
+
+TEST_F(command_of_its_own, takes_the_folder_that_it_lies_in) {
+  EXPECT_FALSE(isCreating());
+  EXPECT_FALSE(takesTheUsersVerb());
+}
+
+TEST_F(command_of_its_own, where_it_may_not_write_takes_the_users_folder_and_does_not_create_it) {
+  setPermissions(0555);
+  EXPECT_FALSE(isCreating());
+  EXPECT_TRUE(takesTheUsersVerb());
 }
 
 }  // namespace

@@ -28,6 +28,7 @@ class Program:
         self.reader = None  # Orca, in scenarios that ask for it
         self.environment = {}  # what the program shall see otherwise: {"PATH": "/tmp"}
         self.wrapper = []  # what starts it: ["sh", "-c", 'exec "$@"', "sh"]
+        self.is_told_its_folder = True
         self.folder = pathlib.Path(home, "program folder")
         self.folder.mkdir(parents=True)
         self.user_store = pathlib.Path(home, ".config", "Odmiennik", "Odmiennik.conf")
@@ -42,7 +43,8 @@ class Program:
     def launch(self):
         """Starts the process; the window may still be on its way, or a message before it."""
         self._known = {}
-        command = [*self.wrapper, self.executable, "--folder", str(self.folder)]
+        told = ["--folder", str(self.folder)] if self.is_told_its_folder else []
+        command = [*self.wrapper, self.executable, *told]
         self._process = subprocess.Popen(command, env=os.environ | self.environment,
                                          stdout=self._log, stderr=self._log)
 

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 #include <cstdlib>
 
 #include "tests/support/scratch_folder.h"
@@ -40,6 +44,47 @@ TEST_F(program_folder, of_a_user_without_a_home_is_the_executables_own) {
   fs::create_directories(root_ / "share" / "odmiennik");
   EXPECT_EQ(programFolder(root_ / "bin" / "odmien", {}), root_ / "bin");
 }
+
+TEST_F(program_folder, of_a_folder_that_cannot_be_looked_at_is_the_executables_own) {
+  EXPECT_EQ(programFolder(root_ / "gone" / "odmien", "/data"), root_ / "gone");
+}
+
+#ifndef _WIN32
+
+// Nobody in particular for as long as it lives: to the superuser, permissions mean nothing.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() : isSuperuser_(::geteuid() == 0) { become(kNobody); }
+  ~OrdinaryUser() { become(0); }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  void become(uid_t user) const {
+    if (!isSuperuser_) return;
+    EXPECT_EQ(::seteuid(user), 0);
+  }
+
+  bool isSuperuser_;
+};
+
+TEST_F(program_folder, that_the_user_may_not_write_is_the_users) {
+  const fs::path executable = root_ / "bin" / "odmien";
+  fs::permissions(root_, fs::perms(0777));
+  fs::permissions(root_ / "bin", fs::perms(0777));
+  const auto found = [&](const fs::path& userData) {
+    const OrdinaryUser user;
+    return programFolder(executable, userData);
+  };
+  EXPECT_EQ(found("/data"), root_ / "bin");
+  fs::permissions(root_ / "bin", fs::perms(0555));
+  EXPECT_EQ(found("/data"), "/data");
+  EXPECT_EQ(found({}), root_ / "bin");
+  fs::permissions(root_ / "bin", fs::perms(0755));
+}
+
+#endif
 
 TEST(without_trailing_separators, drops_all_of_them_and_blanks) {
   EXPECT_EQ(withoutTrailingSeparators("/home/ala//"), "/home/ala");

@@ -3,6 +3,7 @@
 
 import fcntl
 import os
+import pathlib
 import signal
 
 from message import Message
@@ -165,6 +166,24 @@ def a_second_signal_ends_a_program_that_waits(program):
     program.terminate()
     program.await_death(signal.SIGTERM)
     os.close(folder)
+
+
+def where_it_may_not_write_its_files_are_kept_with_the_user(program):
+    program.leave_its_files_behind()
+    own = pathlib.Path(program.executable).parent
+    if os.geteuid() == 0:  # whom permissions mean nothing
+        program.wrapper = ["setpriv", "--bounding-set=-all"]
+    program.is_told_its_folder = False
+    program.folder = pathlib.Path(os.environ["HOME"], ".local", "share", "odmiennik")
+    own.chmod(0o555)
+    try:
+        for run_count in ("11", "12"):
+            program.start()
+            program.quit()
+            assert program.settings()[4] == run_count
+        assert os.listdir(own) == [os.path.basename(program.executable)]
+    finally:
+        own.chmod(0o755)
 
 
 def a_folder_is_taken_byte_for_byte(program):
