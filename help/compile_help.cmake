@@ -1,22 +1,41 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# cmake -DCHMCMD=… -DPROJECT=folder -DRESULT=file -P compile_help.cmake: compiles PROJECT/Werbolin.hhp
-# into RESULT. chmcmd leaves an empty file or none behind a fault (exit 217: a page of the project is
-# missing), so an old RESULT goes first, and the build stops with what chmcmd said.
-set(compiled ${PROJECT}/Werbolin.chm)
-file(REMOVE ${compiled} ${RESULT})
-execute_process(
-  COMMAND ${CHMCMD} --no-html-scan Werbolin.hhp
-  WORKING_DIRECTORY ${PROJECT}
-  RESULT_VARIABLE status
-  OUTPUT_VARIABLE said
-  ERROR_VARIABLE said)
+# cmake -DBUILD_HELP=… -DCHMCMD=… -DCHMLS=… -DHELP=folder -DPROJECT=folder -DRESULT=file -P compile_help.cmake:
+# makes the help's sources into PROJECT and compiles PROJECT/Werbolin.hhp into RESULT. The same pages
+# give the same bytes.
+function(run)
+  execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${PROJECT}
+    RESULT_VARIABLE status OUTPUT_VARIABLE said ERROR_VARIABLE said)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "${ARGN} failed (${status}):\n${said}")
+  endif()
+endfunction()
 
-set(size 0)
-if(EXISTS ${compiled})
-  file(SIZE ${compiled} size)
-endif()
-if(NOT status EQUAL 0 OR size EQUAL 0)
-  message(FATAL_ERROR "chmcmd failed (exit ${status}, ${size} bytes):\n${said}")
-endif()
-get_filename_component(folder ${RESULT} DIRECTORY)
-file(COPY ${compiled} DESTINATION ${folder})
+# chmcmd leaves an empty file or none behind a fault (exit 217: a page of the project is missing), so an
+# old file goes first, and the build stops with what chmcmd said.
+set(compiled ${PROJECT}/Werbolin.chm)
+function(compile)
+  file(REMOVE ${compiled})
+  execute_process(
+    COMMAND ${CHMCMD} --no-html-scan Werbolin.hhp
+    WORKING_DIRECTORY ${PROJECT}
+    RESULT_VARIABLE status
+    OUTPUT_VARIABLE said
+    ERROR_VARIABLE said)
+  set(size 0)
+  if(EXISTS ${compiled})
+    file(SIZE ${compiled} size)
+  endif()
+  if(NOT status EQUAL 0 OR size EQUAL 0)
+    message(FATAL_ERROR "chmcmd failed (exit ${status}, ${size} bytes):\n${said}")
+  endif()
+endfunction()
+
+file(REMOVE ${RESULT})
+file(MAKE_DIRECTORY ${PROJECT})
+run(${BUILD_HELP} project ${HELP} ${PROJECT})
+compile()
+# Where the strings stand is known once they are compiled; contexts name their pages by it.
+run(${CHMLS} extract ${compiled} /\#STRINGS ${PROJECT}/strings)
+run(${BUILD_HELP} contexts ${PROJECT}/strings ${PROJECT})
+compile()
+run(${BUILD_HELP} finish ${compiled} ${RESULT})

@@ -5,6 +5,7 @@
 
 #include "tools/build_help/ascii_page.h"
 #include "tools/build_help/built_page.h"
+#include "tools/build_help/compiled_file.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
@@ -120,6 +121,38 @@ TEST(project_files, deeper_entries_stand_in_a_list_of_their_own) {
 TEST(project_files, links_of_the_index_are_percent_encoded) {
   EXPECT_NE(indexFile({{"czas", "Passé.htm"}}).find("\"strony/Pass%C3%A9.htm\""),
             std::string::npos);
+}
+
+TEST(compiled_file, context_2_names_the_place_of_its_page_among_the_strings) {
+  const std::string strings = std::string("\0Aspekt\0", 8) + std::string(kContextPage) + '\0';
+  EXPECT_EQ(contextRecord(strings), std::string("\x08\0\0\0\x02\0\0\0\x08\0\0\0", 12));
+}
+
+TEST(compiled_file, strings_without_the_page_of_the_context_are_refused) {
+  const std::string strings = std::string("\0/root/", 7) + std::string(kContextPage) + '\0';
+  EXPECT_THROW(static_cast<void>(contextRecord(strings)), std::runtime_error);
+}
+
+// The head of a help file and its compiler's record, with the given letter in every byte of a time.
+std::string helpFileOfTime(char letter) {
+  const std::string time(4, letter);
+  return std::string("ITSF\3\0\0\0\x60\0\0\0\1\0\0\0", 16) + time + "pages" +
+         std::string("\3\0\0\0\x0A\0\4\0", 8) + time +
+         std::string("\x09\0\x16\0HHA Version 4.74.8702", 25);
+}
+
+TEST(compiled_file, both_times_are_taken_out_and_nothing_else) {
+  EXPECT_EQ(withoutTimes(helpFileOfTime('t')), helpFileOfTime('\0'));
+}
+
+TEST(compiled_file, a_file_of_another_kind_is_refused) {
+  EXPECT_THROW(static_cast<void>(withoutTimes("ITSP" + helpFileOfTime('t'))), std::runtime_error);
+}
+
+TEST(compiled_file, a_file_whose_compiler_keeps_its_time_elsewhere_is_refused) {
+  std::string file = helpFileOfTime('t');
+  file.replace(file.find("\x0A"), 1, "\x0B");
+  EXPECT_THROW(static_cast<void>(withoutTimes(file)), std::runtime_error);
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// build_help HELP OUTPUT: turns the folder of the help's sources into a project for a help
+// build_help project HELP OUTPUT: turns the folder of the help's sources into a project for a help
 // compiler.
+// build_help contexts STRINGS OUTPUT: gives the project OUTPUT its contexts once it was compiled,
+// from the strings of the help file; it is then to be compiled again. build_help finish COMPILED
+// RESULT: the help file that goes with the programs.
 #include <cstdio>
 #include <exception>
 
 #include "tools/build_help/built_page.h"
+#include "tools/build_help/compiled_file.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
@@ -35,17 +39,35 @@ void buildHelp(const fs::path& help, const fs::path& output) {
   writeFile(output / "Werbolin.hhp", projectFile(pages));
   writeFile(output / "Werbolin.hhc", contentsFile(contents.contents));
   writeFile(output / "Werbolin.hhk", indexFile(contents.index));
+  writeFile(output / kContextFile, emptyContextRecord());
+}
+
+void addContexts(const fs::path& strings, const fs::path& output) {
+  writeFile(output / kContextFile, contextRecord(readFile(strings)));
+}
+
+void finish(const fs::path& compiled, const fs::path& result) {
+  writeFile(result, withoutTimes(readFile(compiled)));
+}
+
+using Task = void (*)(const fs::path& from, const fs::path& to);
+
+Task taskOf(std::string_view name) {
+  if (name == "project") return buildHelp;
+  if (name == "contexts") return addContexts;
+  return name == "finish" ? finish : nullptr;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::fputs("usage: build_help HELP PROJECT\n", stderr);
+  const Task task = argc == 4 ? taskOf(argv[1]) : nullptr;
+  if (task == nullptr) {
+    std::fputs("usage: build_help project|contexts|finish FROM TO\n", stderr);
     return 2;
   }
   try {
-    buildHelp(argv[1], argv[2]);
+    task(argv[2], argv[3]);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 1;

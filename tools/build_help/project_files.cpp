@@ -2,6 +2,7 @@
 // Writing of the project's files.
 #include "tools/build_help/project_files.h"
 
+#include "tools/build_help/compiled_file.h"
 #include "tools/build_help/windows1250.h"
 
 namespace odmiennik::tools {
@@ -37,24 +38,33 @@ std::string object(const std::string& title, const std::string& page) {
 }  // namespace
 
 std::string projectFile(const std::vector<std::string>& pages) {
+  // A binary index would hold a byte that chmcmd sets to nothing; viewers read the other index.
   std::string text = windows1250(
       "[OPTIONS]\r\n"
       "Compatibility=1.1 or later\r\n"
       "Compiled file=Werbolin.chm\r\n"
       "Contents file=Werbolin.hhc\r\n"
       "Index file=Werbolin.hhk\r\n"
+      "Binary Index=No\r\n"
       "Default topic=strony\\default.htm\r\n"
+      "Default Window=main\r\n"
       "Full-text search=Yes\r\n"
       "Language=0x415 Polish (Poland)\r\n"
       "Title=Odmiennik – pomoc\r\n\r\n"
       "[FILES]\r\n");
+  text += std::string(kContextFile) + "\r\n";
   for (const char* sheet : kStyleSheets) text += std::string(sheet) + "\r\n";
   for (const std::string& page : pages) text += "strony\\" + page + "\r\n";
-  // Context 2 is what the Help button of the entry box's hint asks for. chmcmd knows a page of an
-  // alias by its forward slash alone, and writes its path as on the machine that compiles the help.
+  // chmcmd would write a context's page as its path on the machine that compiles the help. So the
+  // record of contexts is a file of the project, and the page is brought among the strings by the
+  // window, as the page of a button that it does not show.
   return text +
-         "\r\n[ALIAS]\r\nJakOdmienic=strony/JakOdmienic.htm\r\n"
-         "\r\n[MAP]\r\n#define JakOdmienic 2\r\n";
+         windows1250(
+             "\r\n[WINDOWS]\r\n"
+             "main=\"Odmiennik – pomoc\",\"Werbolin.hhc\",\"Werbolin.hhk\",\"strony/default.htm\","
+             "\"strony/default.htm\",\"") +
+         std::string(kContextPage) +
+         windows1250("\",\"Jak odmienić czasownik\",,,0x23520,,0x10304e,,,,,,,,0\r\n");
 }
 
 std::string contentsFile(const std::vector<ContentsEntry>& entries) {

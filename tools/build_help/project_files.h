@@ -14,6 +14,9 @@ namespace odmiennik::tools {
 // behind it on a dark screen and on paper.
 inline constexpr std::array<const char*, 3> kStyleSheets{"styl.css", "ciemny.css", "druk.css"};
 
+// The file of the project that becomes the record of contexts of the help file.
+inline constexpr const char* kContextFile = "#IVB";
+
 // The project file, with the style sheets and the names of all pages (as they stand in strony/).
 [[nodiscard]] std::string projectFile(const std::vector<std::string>& pages);
 

@@ -3,6 +3,9 @@
 // for.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <random>
+
 #include "tests/help/compiled/help_file.h"
 #include "tools/build_help/built_page.h"
 #include "tools/build_help/contents.h"
@@ -65,7 +68,23 @@ TEST(compiled_help, starts_on_the_welcome_page) {
 
 TEST(compiled_help, context_2_is_the_page_about_conjugating_a_verb) {
   const HelpFile file(ODMIENNIK_COMPILED_HELP);
-  EXPECT_TRUE(pageOfContext(file, 2).ends_with("strony/JakOdmienic.htm"));
+  EXPECT_EQ(pageOfContext(file, 2), "strony/JakOdmienic.htm");
+}
+
+// That the file is whole is told by the other tests; the folder's name is long enough to move what
+// stands behind it.
+TEST(compiled_help, compiled_again_in_another_folder_it_is_the_same_byte_for_byte) {
+  const std::filesystem::path folder =
+      std::filesystem::path(::testing::TempDir()) /
+      ("a_folder_with_a_long_name_" + std::to_string(std::random_device{}()));
+  const std::string command = std::string(ODMIENNIK_COMPILE_HELP) +
+                              " -DPROJECT=" + (folder / "project").string() +
+                              " -DRESULT=" + (folder / "Werbolin.chm").string() + " -P " +
+                              (kSources / "compile_help.cmake").string();
+  ASSERT_EQ(std::system(command.c_str()), 0) << command;
+  const std::string again = tools::readFile(folder / "Werbolin.chm");
+  std::filesystem::remove_all(folder);
+  EXPECT_TRUE(again == tools::readFile(ODMIENNIK_COMPILED_HELP));
 }
 
 TEST(compiled_help, a_page_that_was_never_written_is_not_found) {
