@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""check.py registered BUILD PAGE | check.py ran RESULTS PAGE
+"""check.py registered BUILD PAGE | check.py ran RESULTS… PAGE
 
 Fails when the page of promises names a test that the build BUILD has not, or that did not run and
-pass in the run that wrote RESULTS (ctest --output-junit RESULTS --test-output-size-passed 1000000).
+pass in the runs that wrote RESULTS: those of ctest (--output-junit RESULTS
+--test-output-size-passed 1000000), and those of test programs run whole (--gtest_output=xml:RESULTS).
 """
 
 import argparse
@@ -40,13 +41,13 @@ def check(path, tests, least):
 def main(arguments):
     parser = argparse.ArgumentParser(usage=__doc__)
     parser.add_argument("question", choices=("registered", "ran"))
-    parser.add_argument("source")
+    parser.add_argument("sources", nargs="+")
     parser.add_argument("page")
     parser.add_argument("--ctest", default="ctest")
     parser.add_argument("--least", type=int, default=LEAST)
     asked = parser.parse_args(arguments)
-    tests = (Registered(asked.source, asked.ctest) if asked.question == "registered"
-             else Ran(asked.source))
+    tests = (Registered(asked.sources[0], asked.ctest) if asked.question == "registered"
+             else Ran(asked.sources))
     return check(asked.page, tests, asked.least)
 
 

@@ -48,6 +48,8 @@ GOOD = "- A folder is found.\n  `folder.is_found`\n"
 
 
 class Check(unittest.TestCase):
+    others = ()  # results of other runs
+
     @classmethod
     def setUpClass(cls):
         cls._scratch = tempfile.TemporaryDirectory()
@@ -70,10 +72,11 @@ class Check(unittest.TestCase):
         """(exit code, what is said) of the check of a page."""
         path = self.folder / "promises.md"
         path.write_text(page, encoding="utf-8")
-        source = self.folder / ("results.xml" if question == "ran" else "")
+        sources = ([self.folder / "results.xml", *self.others] if question == "ran"
+                   else [self.folder])
         said = io.StringIO()
         with contextlib.redirect_stderr(said), contextlib.redirect_stdout(said):
-            code = check.main([question, str(source), str(path), "--ctest", CTEST,
+            code = check.main([question, *map(str, sources), str(path), "--ctest", CTEST,
                                "--least", str(least)])
         return code, said.getvalue()
 
@@ -117,7 +120,7 @@ class NamedTests(Check):
     def test_a_disabled_test_is_refused(self):
         self.assert_refused(self.shown_by("folder.is_disabled"), "folder.is_disabled is disabled",
                             ["registered"])
-        self.assert_refused(self.shown_by("folder.is_disabled"), "ctest says 'disabled'", ["ran"])
+        self.assert_refused(self.shown_by("folder.is_disabled"), "its run says 'disabled'", ["ran"])
 
     def test_a_test_of_another_configuration_is_refused(self):
         self.assert_refused(self.shown_by("attacks.are_made_in_full"), "does not exist in ./test",
@@ -169,6 +172,35 @@ class TestsThatDidNotRun(Check):
             page.write_text(GOOD, encoding="utf-8")
             self.assertEqual(check.main(["registered", empty, str(page), "--ctest", CTEST,
                                          "--least", "1"]), 1)
+
+
+class TestsOfAProgramRunWhole(Check):
+    """As GoogleTest writes them down."""
+
+    PROGRAM = """<testsuites><testsuite name="file">
+      <testcase name="is_read" status="run" result="completed" classname="file"/>
+      <testcase name="is_lost" status="run" result="completed" classname="file">
+        <failure message="it is there"/></testcase>
+      <testcase name="is_too_large" status="run" result="skipped" classname="file"/>
+      <testcase name="is_left_out" status="notrun" result="suppressed" classname="file"/>
+      </testsuite></testsuites>"""
+
+    def setUp(self):
+        path = self.folder / "program.xml"
+        path.write_text(self.PROGRAM, encoding="utf-8")
+        self.others = (path,)
+
+    def test_one_that_passed_counts_beside_those_of_ctest(self):
+        self.assertEqual(self.told("ran", self.shown_by("file.is_read"))[0], 0)
+
+    def test_one_that_failed_is_refused(self):
+        self.assert_refused(self.shown_by("file.is_lost"), "its run says 'failed'", ["ran"])
+
+    def test_one_that_skipped_itself_is_refused(self):
+        self.assert_refused(self.shown_by("file.is_too_large"), "its run says 'skipped'", ["ran"])
+
+    def test_one_that_was_left_out_is_refused(self):
+        self.assert_refused(self.shown_by("file.is_left_out"), "'suppressed'", ["ran"])
 
 
 class Pages(Check):

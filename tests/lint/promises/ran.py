@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The tests that have run and passed, from the results that ctest writes for one run."""
+"""The tests that have run and passed, from the results that ctest and test programs write."""
 
 import re
 import xml.etree.ElementTree
@@ -17,10 +17,15 @@ class Ran:
     def __init__(self, results):
         self._tests = {}
         self._functions = {}
-        for case in xml.etree.ElementTree.parse(results).iter("testcase"):
-            name = case.get("name")
-            self._tests[name] = case.get("status")
-            self._functions[name] = _verdicts(case.findtext("system-out") or "")
+        for path in results:
+            root = xml.etree.ElementTree.parse(path).getroot()
+            is_program = root.tag == "testsuites"
+            for case in root.iter("testcase"):
+                self._add(*(_of_program(case) if is_program else _of_ctest(case)))
+
+    def _add(self, name, status, output):
+        self._tests[name] = status
+        self._functions[name] = _verdicts(output)
 
     def fault(self, name):
         """Why a test does not count; nothing when it ran and passed."""
@@ -38,7 +43,18 @@ class Ran:
 
     def _fault_of(self, name):
         status = self._tests[name]
-        return None if status == PASSED else f"did not run and pass: ctest says {status!r}"
+        return None if status == PASSED else f"did not run and pass: its run says {status!r}"
+
+
+def _of_ctest(case):
+    return case.get("name"), case.get("status"), case.findtext("system-out") or ""
+
+
+def _of_program(case):
+    """GoogleTest's: what ran may have failed or skipped itself."""
+    status = "failed" if case.find("failure") is not None else case.get("result")
+    name = f"{case.get('classname')}.{case.get('name')}"
+    return name, PASSED if status == "completed" else status, ""
 
 
 def _verdicts(output):
