@@ -28,10 +28,6 @@ Answered answerOf(const std::string& line) {
   return {result.exitCode, lines[0], result.err};
 }
 
-bool holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 void expectRefused(const std::string& line) {
   const Answered answered = answerOf(line);
   EXPECT_EQ(answered.exitCode, 1);

@@ -8,10 +8,6 @@
 namespace odmiennik::end_to_end {
 namespace {
 
-bool holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 TEST(command, conjugates_its_arguments) {
   const Result result = run({"parler", "aller"});
   EXPECT_EQ(result.exitCode, 0);

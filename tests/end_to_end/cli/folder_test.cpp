@@ -10,10 +10,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 class folder : public testing::Test {
  protected:
   Result answer(const Arguments& verbs) {
@@ -135,7 +131,7 @@ class command_of_its_own : public folder {
  protected:
   command_of_its_own() {
     fs::create_directories(folder_.file("bin"));
-    fs::copy_file(ODMIEN, folder_.file("bin/odmien"));
+    fs::copy_file(command(), folder_.file("bin/odmien"));
   }
   ~command_of_its_own() override { setPermissions(0755); }
 

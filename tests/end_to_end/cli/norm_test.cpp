@@ -9,10 +9,6 @@ namespace {
 
 constexpr const char* kHead = "infinitive\tslot\tmood\ttense\tperson\tform\tnorm";
 
-bool holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 TEST(norm, is_given_where_it_is_asked_for_and_nowhere_else) {
   EXPECT_TRUE(holds(run({"lire"}).out, "il lir "));
   EXPECT_TRUE(holds(run({"--norm", "lire"}).out, "il lit "));

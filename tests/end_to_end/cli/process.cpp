@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <sstream>
 #include <stdexcept>
 
@@ -67,7 +68,7 @@ pid_t spawn(Arguments arguments, Arguments environment, const std::array<int, 3>
 // The command in front of its arguments; a shell that is to start it stands there already.
 Arguments withProgram(const Arguments& arguments) {
   Arguments all = arguments;
-  if (all.empty() || all.front() != "/bin/sh") all.insert(all.begin(), ODMIEN);
+  if (all.empty() || all.front() != "/bin/sh") all.insert(all.begin(), command());
   return all;
 }
 
@@ -150,8 +151,13 @@ Result run(const Arguments& arguments, std::string_view input, const Arguments& 
   return {process.exitCode(), process.out(), process.err()};
 }
 
+std::string command() {
+  const char* other = std::getenv("ODMIEN");
+  return other != nullptr ? other : ODMIEN;
+}
+
 Result runInShell(const Arguments& arguments, const std::string& redirections) {
-  Arguments all{"/bin/sh", "-c", "exec \"$@\" " + redirections, "sh", ODMIEN};
+  Arguments all{"/bin/sh", "-c", "exec \"$@\" " + redirections, "sh", command()};
   all.insert(all.end(), arguments.begin(), arguments.end());
   return run(all);
 }

@@ -50,6 +50,14 @@ class Process {
   std::string err_;
 };
 
+// The command that is tested: this build's, or the one that the environment variable ODMIEN names, so
+// that the same tests try a program built otherwise.
+[[nodiscard]] std::string command();
+
+[[nodiscard]] inline bool holds(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
 struct Result {
   int exitCode;
   std::string out;

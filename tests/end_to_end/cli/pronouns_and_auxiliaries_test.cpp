@@ -9,8 +9,6 @@
 namespace odmiennik::end_to_end {
 namespace {
 
-constexpr int kBoxes = 101;
-
 // Those of the compound tenses with six persons, and the single ones.
 std::vector<int> compoundSlots() {
   std::vector<int> slots{93, 94, 95, 97, 100};

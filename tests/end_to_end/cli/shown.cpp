@@ -7,8 +7,6 @@
 namespace odmiennik::end_to_end {
 namespace {
 
-constexpr int kBoxes = 101;
-
 // The texts of one of the object's arrays.
 std::vector<std::string> textsOf(const std::string& json, const std::string& key) {
   std::vector<std::string> texts;

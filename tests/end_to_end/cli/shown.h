@@ -9,6 +9,8 @@
 
 namespace odmiennik::end_to_end {
 
+inline constexpr int kBoxes = 101;
+
 // Where tenses begin, and persons within them.
 inline constexpr int kPresent = 0, kImperfect = 6, kPastHistoric = 12, kFuture = 18;
 inline constexpr int kPresentSubjunctive = 48, kImperfectSubjunctive = 54, kConditional = 72;

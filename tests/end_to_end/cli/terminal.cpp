@@ -51,7 +51,7 @@ std::string runOnTerminal(const Arguments& arguments, const Arguments& environme
   const Terminal terminal;
   Arguments all{"/bin/sh", "-c",
                 "\"$@\" >" + terminal.name() + " 2>&1; echo koniec >" + terminal.name(), "sh",
-                ODMIEN};
+                command()};
   all.insert(all.end(), arguments.begin(), arguments.end());
   Process process(all, environment);
   std::string shown;

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "shown.h"
+
 namespace odmiennik::end_to_end {
 
 namespace fs = std::filesystem;
@@ -29,9 +31,8 @@ std::map<std::string, std::string> VerbFolder::contents() const {
 }
 
 std::string record(const std::string& infinitive, int auxiliary) {
-  constexpr int kInfinitive = 96;
   std::string line;
-  for (int slot = 0; slot < 101; ++slot)
+  for (int slot = 0; slot < kBoxes; ++slot)
     line += (slot == kInfinitive ? infinitive : infinitive + std::to_string(slot)) + ",";
   return line + " " + std::to_string(auxiliary) + "\r\n";
 }

@@ -14,6 +14,10 @@
 
 namespace odmiennik::testing {
 
+// What is said of a file of verbs that could not be written, or read.
+inline constexpr const char* kNotSaved = "Nie można zapisać pliku czasowników użytkownika.";
+inline constexpr const char* kUnreadable = "Nie można odczytać pliku czasowników użytkownika.";
+
 class ProgramFolder : public scratch::ScratchFolder {
  public:
   [[nodiscard]] std::string prefix() const;

@@ -15,13 +15,13 @@ namespace fs = std::filesystem;
 using odmiennik::testing::Afterwards;
 using odmiennik::testing::FaultyFiles;
 using odmiennik::testing::lineOf;
+using odmiennik::testing::kNotSaved;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
 using odmiennik::testing::verb;
 using Texts = std::vector<std::string>;
 
-constexpr const char* kNotSaved = "Nie można zapisać pliku czasowników użytkownika.";
 constexpr int kMoreStepsThanAnyTakes = 100;
 
 class UserVerbsCrash : public ::testing::Test {

@@ -13,14 +13,14 @@ namespace {
 
 using odmiennik::testing::FaultyFiles;
 using odmiennik::testing::lineOf;
+using odmiennik::testing::kNotSaved;
+using odmiennik::testing::kUnreadable;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
 using odmiennik::testing::verb;
 using Texts = std::vector<std::string>;
 
-constexpr const char* kNotSaved = "Nie można zapisać pliku czasowników użytkownika.";
-constexpr const char* kUnreadable = "Nie można odczytać pliku czasowników użytkownika.";
 constexpr const char* kNotRestored =
     "Nie można przywrócić pliku czasowników użytkownika (Czasowniki.dat) z pliku Czas.dat.";
 constexpr int kNoFaultySteps = 1000;

@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 
 using odmiennik::testing::french;
 using odmiennik::testing::lineOf;
+using odmiennik::testing::kUnreadable;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
@@ -21,7 +22,6 @@ using Texts = std::vector<std::string>;
 
 constexpr const char* kDamagedSecond =
     "Plik czasowników użytkownika jest uszkodzony (czasownik 2).";
-constexpr const char* kUnreadable = "Nie można odczytać pliku czasowników użytkownika.";
 
 class UserVerbsLookUp : public ::testing::Test {
  protected:

@@ -20,13 +20,13 @@ namespace {
 namespace fs = std::filesystem;
 
 using odmiennik::testing::lineOf;
+using odmiennik::testing::kNotSaved;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
 using odmiennik::testing::verb;
 using Texts = std::vector<std::string>;
 
-constexpr const char* kNotSaved = "Nie można zapisać pliku czasowników użytkownika.";
 
 // Whether `isRight` holds in a process of its own, whose limits and rights it may lower.
 bool holdsInChild(const std::function<bool()>& isRight) {

@@ -88,11 +88,11 @@ TEST(windows_1252, every_accented_letter_is_made_of_its_parts) {
     char32_t accent;
     std::string_view bases;
     std::string_view letters;
-  } kRows[] = {{0x300, "aeiou", "àèìòù"},   {0x301, "aeiouy", "áéíóúý"},
-               {0x302, "aeiou", "âêîôû"},   {0x303, "ano", "ãñõ"},
-               {0x308, "aeiouy", "äëïöüÿ"}, {0x30A, "A", "Å"},
-               {0x30C, "sz", "šž"},         {0x327, "c", "ç"}};
-  for (const auto& row : kRows) {
+  } kAccents[] = {{0x300, "aeiou", "àèìòù"},   {0x301, "aeiouy", "áéíóúý"},
+                  {0x302, "aeiou", "âêîôû"},   {0x303, "ano", "ãñõ"},
+                  {0x308, "aeiouy", "äëïöüÿ"}, {0x30A, "A", "Å"},
+                  {0x30C, "sz", "šž"},         {0x327, "c", "ç"}};
+  for (const auto& row : kAccents) {
     const std::string letters = fromUtf8(row.letters).text;
     for (std::size_t i = 0; i < row.bases.size(); ++i)
       EXPECT_EQ(composedByte(row.bases[i], row.accent), static_cast<unsigned char>(letters[i]))

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 #include "tests/window/print_server.h"
+#include "tests/window/printing/colour_on_paper.h"
 #include "tests/window/program_run.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
@@ -44,15 +45,6 @@ bool isMadeOfSquares(const QImage& picture, const QRect& part, int side) {
     for (int x = place.left(); x + side <= place.right(); x += side)
       if (!isEmpty(picture, QRect(x, y, side, side))) return false;
   return true;
-}
-
-// Whether a part shows a colour that is no grey.
-bool isColoured(const QImage& picture, const QRect& part) {
-  constexpr int kGrey = 8;  // no more saturated than this
-  for (int y = part.top(); y <= part.bottom(); ++y)
-    for (int x = part.left(); x <= part.right(); ++x)
-      if (picture.pixelColor(x, y).saturation() > kGrey) return true;
-  return false;
 }
 
 }  // namespace

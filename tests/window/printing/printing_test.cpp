@@ -3,6 +3,7 @@
 #include "app/common/colours.h"
 #include "app/printing/paper_look.h"
 #include "app/printing/printed_picture.h"
+#include "tests/window/printing/colour_on_paper.h"
 #include "tests/window/program_run.h"
 #include "tests/window/program_under_test.h"
 #include "tests/window/suites.h"
@@ -22,15 +23,6 @@ double strongest(const QImage& picture, const QRect& part) {
     for (int x = part.left(); x <= part.right(); ++x)
       found = std::max(found, contrast(picture.pixelColor(x, y), Qt::white));
   return found;
-}
-
-// Whether a part shows a colour that is no grey.
-bool isColoured(const QImage& picture, const QRect& part) {
-  constexpr int kGrey = 8;  // no more saturated than this
-  for (int y = part.top(); y <= part.bottom(); ++y)
-    for (int x = part.left(); x <= part.right(); ++x)
-      if (picture.pixelColor(x, y).saturation() > kGrey) return true;
-  return false;
 }
 
 // Whether a part is made of squares of the screen's dots: enlarged, not drawn.
