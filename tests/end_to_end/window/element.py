@@ -7,9 +7,13 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 import pyatspi  # noqa: E402  (needs the version)
-from gi.repository import GLib  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 from waiting import wait_equal, wait_for  # noqa: E402
+
+# The library's own 0.8 s are too few for a program that waits for its turn on a busy machine; one that
+# has ended answers at once, by an error.
+Atspi.set_timeout(15_000, 15_000)
 
 
 class Element:
@@ -81,6 +85,21 @@ class Element:
         for child in self.children():
             yield child
             yield from child.descendants()
+
+    def placed(self, above=()):
+        """Every part within it, with its place: the numbers of the children that lead to it."""
+        for position in range(self._accessible.childCount):
+            child = self._accessible.getChildAtIndex(position)
+            if child is not None:
+                yield (*above, position), Element(child)
+                yield from Element(child).placed((*above, position))
+
+    def at(self, place):
+        """The part at a place; nothing where there is none."""
+        part = self._accessible
+        for position in place:
+            part = None if part is None else part.getChildAtIndex(position)
+        return None if part is None else Element(part)
 
     def press(self):
         """What a click does: the button's or the menu item's own action."""

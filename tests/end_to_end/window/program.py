@@ -37,6 +37,7 @@ class Program:
         self._log = open(pathlib.Path(home, "log"), "w+b")
         self._process = None
         self._known = {}
+        self._places = {}
 
     # Starting and ending
 
@@ -137,31 +138,47 @@ class Program:
         """The windows on the screen, the main window included."""
         try:
             application = self._application()
-            parts = [] if application is None else application.children()
-            return [window for window in parts if window.has("showing")]
+            parts = [] if application is None else list(application.children())
         except gone():
             return []
+        return [window for window in parts if told_of(window, is_shown)]
 
     def window(self, name):
         """The window of that caption, waited for."""
-        return wait_for(lambda: next((w for w in self.windows() if w.name == name), None),
+        def is_sought(window):
+            return window.name == name
+        return wait_for(lambda: next((w for w in self.windows() if told_of(w, is_sought)), None),
                         f"the window {name!r}")
 
     def main_window(self):
         """The main window, whatever its caption."""
-        return wait_for(lambda: next((w for w in self.windows() if is_main(w)), None),
-                        "the main window")
+        if "main window" not in self._known:
+            self._known["main window"] = wait_for(
+                lambda: next((w for w in self.windows() if told_of(w, is_main)), None),
+                "the main window")
+        return self._known["main window"]
 
     def _find(self, kind, name, matches):
         def search():
             try:
-                return next((part for part in self.main_window().descendants() if matches(part)),
-                            None)
+                return self._search((kind, name), matches)
             except gone():
                 return None
         if (kind, name) not in self._known:
             self._known[kind, name] = wait_for(search, f"{kind} {name!r} in the main window")
         return self._known[kind, name]
+
+    def _search(self, sought, matches):
+        """Looks first where it was in the program's last life: to walk the window takes long."""
+        window = self.main_window()
+        part = window.at(self._places[sought]) if sought in self._places else None
+        if part is not None and matches(part):
+            return part
+        for place, part in window.placed():
+            if matches(part):
+                self._places[sought] = place
+                return part
+        return None
 
     def box(self, name):
         """The text box of that accessible name."""
@@ -202,7 +219,8 @@ class Program:
 
     def messages(self):
         """All message boxes on the screen."""
-        return [Message(window) for window in self.windows() if window.role in ("alert", "dialog")]
+        boxes = (told_of(window, message_of) for window in self.windows())
+        return [box for box in boxes if box is not None]
 
     # Working
 
@@ -234,4 +252,21 @@ class Program:
 
 def is_main(window):
     return window.role == "frame"
+
+
+def is_shown(window):
+    return window.has("showing")
+
+
+def message_of(window):
+    """The window as a message; nothing when it is none."""
+    return Message(window) if window.role in ("alert", "dialog") else None
+
+
+def told_of(window, question):
+    """The answer to a question about a window; nothing of one that has just been closed."""
+    try:
+        return question(window)
+    except gone():
+        return None
 
