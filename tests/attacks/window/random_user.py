@@ -10,12 +10,11 @@ import json
 import pathlib
 import random
 import subprocess
-import time
 
 import keyboard
 from element import gone
 from program import ENTRY
-from waiting import Late, wait_for
+from waiting import Late, Patience, wait_for
 
 LIMIT = 10  # seconds for the effect of a step
 FILE = "Czasowniki.dat"
@@ -110,8 +109,8 @@ class User:
 
     def settle(self):
         """Answers every message; afterwards none is open, and nothing but the main window."""
-        end = time.monotonic() + LIMIT
-        while time.monotonic() < end:
+        patience = Patience(LIMIT)
+        while not patience.is_over():
             was_editing = self.is_editing()
             boxes = self.program.messages()
             if not boxes:
@@ -147,7 +146,9 @@ class User:
 
     def item(self, menu, *names):
         """The item of a menu that has one of these captions."""
-        return next(part for part in self.program.menu(menu).descendants() if part.name in names)
+        opened = self.program.menu(menu)
+        return wait_for(lambda: next((part for part in opened.descendants() if part.name in names),
+                                     None), f"one of the items {names}", LIMIT)
 
     def step(self, number):
         self.chance = random.Random(f"{self.seed}, {number}")  # however the steps before went
@@ -163,7 +164,7 @@ class User:
 
     def check(self):
         """Waits until all is as it should be; what is told late is answered meanwhile."""
-        end = time.monotonic() + LIMIT
+        patience = Patience(LIMIT)
         while True:
             was_editing = self.is_editing()
             self.settle()
@@ -172,7 +173,7 @@ class User:
             wrong = self.is_as_expected()
             if wrong is None:
                 return
-            if time.monotonic() > end:
+            if patience.is_over():
                 raise AssertionError(wrong)
 
     def memory(self):
@@ -204,8 +205,13 @@ def conjugate(user):
         wait_for(lambda: user.program.messages() or not user.is_editing(), "the end of editing",
                  LIMIT)
         return
-    user.note_conjugated(text)
-    for message in user.answer(text)["messages"]:
+    answer_for(user, text)
+
+
+def answer_for(user, verb):
+    """Answers what is told of a verb that was conjugated, and remembers that it is shown."""
+    user.note_conjugated(verb)
+    for message in user.answer(verb)["messages"]:
         user.program.message(message).answer("OK")
 
 
@@ -218,8 +224,12 @@ def type_and_leave(user):
 
 
 def press_letter(user):
-    user.entry().focus()
-    user.program.button(user.chance.choice("àâçèéêëîïôùû")).press()
+    entry = user.entry()
+    entry.focus()
+    before = entry.text, entry.selection
+    letter = user.chance.choice("àâçèéêëîïôùû")
+    user.program.button(letter).press()  # acts a moment later, whatever is done meanwhile
+    wait_for(lambda: (entry.text, entry.selection) != before, f"the letter {letter!r}", LIMIT)
     if not user.is_editing():
         user.is_typed_over = True
 
@@ -304,6 +314,7 @@ def open_list(user):
     if button is None or not button.has("enabled") or not button.has("showing"):
         return
     verb = next((part.selected_entry() for part in listed.parts() if part.role == "list"), None)
+    shown = [box.text for box in user.boxes]
     button.press()
     if command == "Odmień" and verb is not None:
         wait_for(lambda: user.entry().text == verb, "the verb of the list", LIMIT)
@@ -311,8 +322,19 @@ def open_list(user):
     if command == "Edytuj":
         wait_for(lambda: user.is_editing() or len(user.program.messages()) > 1, "edit mode", LIMIT)
     if command == "Usuń":
-        less = f"{len(user.records())}/7342"
-        wait_for(lambda: f"{len(user.records())}/7342" in listed.texts(), less, LIMIT)
+        wait_for(lambda: number not in listed.texts(), "one verb less", LIMIT)
+        assert f"{len(user.records())}/7342" in listed.texts(), "the count is that of the records"
+        look_at_a_deletion(user, shown)
+
+
+def look_at_a_deletion(user, before):
+    """The forms of a deleted verb stay until it is conjugated anew."""
+    assert [box.text for box in user.boxes] == before, "a deletion leaves the shown forms alone"
+    user.settle()
+    user.entry().write(user.shown)
+    user.program.button("Odmień").press()
+    wait_for(lambda: user.program.messages() or user.entry().selection, "the verb anew", LIMIT)
+    answer_for(user, user.shown)
 
 
 def open_window(user):
@@ -359,7 +381,7 @@ def run(program, command, steps, seed, table, is_measured="yes"):
             history.append(user.step(number))
             user.check()
         except Exception as fault:
-            raise AssertionError(f"seed {seed}, step {number}: {fault}; the last steps were "
+            raise AssertionError(f"seed {seed}, step {number}: {fault!r}; the last steps were "
                                  f"{list(history)}") from fault
         if number == min(50, int(steps) // 2):
             first = user.memory()
