@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "app/common/colours.h"
+#include "app/common/late_icon.h"
 #include "app/common/message_icons.h"
 
 namespace odmiennik::app {
@@ -161,7 +162,13 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
                                  const QWidget* widget) const {
   const QIcon own =
       messageIcon(picture, widget != nullptr ? widget->palette() : QGuiApplication::palette());
-  return own.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : own;
+  if (!own.isNull()) return own;
+  // Every menu bar makes it, for a window that is narrower than the menus.
+  if (picture == SP_ToolBarHorizontalExtensionButton)
+    return lateIcon([this] {
+      return QProxyStyle::standardIcon(SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
+    });
+  return QProxyStyle::standardIcon(picture, option, widget);
 }
 
 QPixmap ProgramStyle::frameOf(const QStyleOption& option, qreal pixelRatio) const {
