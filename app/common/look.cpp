@@ -3,13 +3,17 @@
 #include "app/common/look.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QIcon>
 #include <QLocale>
+#include <QPointer>
 #include <QTimer>
 #include <QTranslator>
 #include <QWidget>
+#include <functional>
+#include <utility>
 
 #include "app/common/accessible_line.h"
 #include "app/common/program_style.h"
@@ -49,22 +53,42 @@ QIcon programIcon() {
   return icon;
 }
 
-// Waits for the first picture of a window, and is gone with it.
+// Calls a function once the first picture of a window is on the screen, and is gone with it.
 class FirstPicture final : public QObject {
  public:
-  explicit FirstPicture(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+  FirstPicture(QWidget& window, std::function<void()> then)
+      : QObject(&window), then_(std::move(then)) {
+    window.installEventFilter(this);
+  }
 
-  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+  bool eventFilter(QObject* window, QEvent* event) override {
     if (event->type() != QEvent::Paint) return false;
-    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(programIcon()); });
-    deleteLater();
+    window->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] {
+      then_();
+      deleteLater();
+    });
     return false;
   }
+
+ private:
+  std::function<void()> then_;
 };
 
 }  // namespace
 
-void giveIconLater(QWidget& window) { new FirstPicture(window); }
+void giveIconLater(QWidget& window) {
+  new FirstPicture(window, [] { QApplication::setWindowIcon(programIcon()); });
+}
+
+void waitForFirstPicture(QWidget& window) {
+  constexpr int kLongestMilliseconds = 200;
+  QEventLoop loop;
+  const QPointer<FirstPicture> awaited(new FirstPicture(window, [&loop] { loop.quit(); }));
+  QTimer::singleShot(kLongestMilliseconds, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  delete awaited;
+}
 
 void prepare(QApplication& application) {
   QApplication::setApplicationName(fromUtf8(dictionary::kApplicationTitle));

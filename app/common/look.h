@@ -17,6 +17,10 @@ void prepare(QApplication& application);
 // takes as long as a tenth of that picture.
 void giveIconLater(QWidget& window);
 
+// Returns once `window`, which is shown, has its first picture on the screen; after a fifth of a
+// second also without it, as where it starts minimised. What the user does meanwhile waits.
+void waitForFirstPicture(QWidget& window);
+
 // The font that the program carries: the metric twin of Arial.
 [[nodiscard]] QFont programFont();
 

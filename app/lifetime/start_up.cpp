@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QVersionNumber>
 
+#include "app/common/look.h"
 #include "app/common/text.h"
 #include "app/controls/main_menu.h"
 #include "app/lifetime/closing.h"
@@ -28,6 +29,8 @@ void StartUp::run() {
   checkFirstStart();
   if (!goesOn()) return;
   parts_.conjugateGivenVerb();  // before the tip, which waits to be closed
+  if (!goesOn()) return;
+  waitForFirstPicture(parts_.window);  // which the making of the tip would put off
   if (!goesOn()) return;
   parts_.tips.showAtStart();
   if (!goesOn()) return;

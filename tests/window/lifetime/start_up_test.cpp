@@ -20,6 +20,23 @@ struct Layout {
   std::function<void(ProgramRun&)> onVerb = [](ProgramRun&) {};
 };
 
+// What comes first: the window's picture or the making of the tip.
+class FirstSeen final : public QObject {
+ public:
+  explicit FirstSeen(QWidget& window) : window_(window) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == &window_ && event->type() == QEvent::Paint && steps.isEmpty()) steps = "picture";
+    if (watched->objectName() == "frmTip" && !steps.endsWith("tip")) steps += ", tip";
+    return false;
+  }
+
+  QString steps;
+
+ private:
+  QWidget& window_;
+};
+
 }  // namespace
 
 class StartUpSuite : public QObject {
@@ -38,6 +55,8 @@ class StartUpSuite : public QObject {
   void verbsLostInACrashComeBack();
   void whatAKilledExitLeftOfTheSettingsIsRemoved();
   void theTipIsShownOverTheWindowBeforeTheRunIsCounted();
+  void theTipIsMadeOnceTheWindowIsSeen();
+  void theTipComesToAWindowThatIsNotSeenToo();
   void theTipIsNotShownWhenItIsSwitchedOff();
   void theLayoutIsNotRescaledOnAScreenOf800Pixels();
   void anyOtherScreenIsRescaledFor();
@@ -171,6 +190,28 @@ void StartUpSuite::theTipIsShownOverTheWindowBeforeTheRunIsCounted() {
   QVERIFY(isWindowThere);
   QCOMPARE(runsBefore, 0);
   QCOMPARE(run.program.settings().runCount(), 1);
+}
+
+void StartUpSuite::theTipIsMadeOnceTheWindowIsSeen() {
+  home_->store.setTipShownAtStart(true);
+  ProgramRun run(*home_);
+  FirstSeen seen(run.program.window());
+  ModalVisitor visitor([](QDialog&) {});
+  run.program.start();
+  QCOMPARE(visitor.visits, 1);
+  QCOMPARE(seen.steps, "picture, tip");
+}
+
+// As one that starts as an icon.
+void StartUpSuite::theTipComesToAWindowThatIsNotSeenToo() {
+  home_->store.setTipShownAtStart(true);
+  ProgramRun run(*home_);
+  run.program.window().setUpdatesEnabled(false);
+  FirstSeen seen(run.program.window());
+  ModalVisitor visitor([](QDialog&) {});
+  run.program.start();
+  QCOMPARE(visitor.visits, 1);
+  QCOMPARE(seen.steps, ", tip");
 }
 
 void StartUpSuite::theTipIsNotShownWhenItIsSwitchedOff() {
