@@ -19,6 +19,17 @@ std::size_t find(const char* buffer, char wanted, std::size_t from, std::size_t 
 
 }  // namespace
 
+bool InputFile::skip(std::uint64_t count) {
+  char passed[4096];
+  while (count > 0) {
+    const std::uint64_t size = std::min<std::uint64_t>(count, sizeof passed);
+    const std::ptrdiff_t got = read(passed, static_cast<std::size_t>(size));
+    if (got <= 0) return false;
+    count -= static_cast<std::uint64_t>(got);
+  }
+  return true;
+}
+
 LineReader::LineReader(InputFile& file)
     : file_(file), buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {}
 
@@ -58,7 +69,10 @@ std::size_t LineReader::nextLineFeed(std::size_t from) {
 
 void LineReader::take(Line& line, std::size_t endLength) {
   const char* start = buffer_.get() + first_;
-  line = {{start, searched_ - first_}, {buffer_.get() + searched_, endLength}, false};
+  line = {{start, searched_ - first_},
+          {buffer_.get() + searched_, endLength},
+          false,
+          dropped_ + first_};
   first_ = searched_ + endLength;
 }
 
@@ -75,6 +89,7 @@ void LineReader::readMore() {
     searched_ -= first_;
     lineFeed_ -= first_;
     last_ -= first_;
+    dropped_ += first_;
     first_ = 0;
   }
   const std::size_t room = std::min(kChunk, kBufferSize - last_);

@@ -16,8 +16,9 @@ inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
 // A line, or a piece of one that is too long.
 struct Line {
   std::string_view text;
-  std::string_view end;  // CR LF, LF or CR; empty at the file's end and behind a cut piece
-  bool isCut = false;    // the line goes on, unless the file ends here
+  std::string_view end;     // CR LF, LF or CR; empty at the file's end and behind a cut piece
+  bool isCut = false;       // the line goes on, unless the file ends here
+  std::uint64_t start = 0;  // how many bytes the reader has read before it
 };
 
 enum class LineRead : std::uint8_t { line, endOfFile, failed };
@@ -40,10 +41,11 @@ class LineReader {
 
   InputFile& file_;
   std::unique_ptr<char[]> buffer_;
-  std::size_t first_ = 0;     // the line begins here
-  std::size_t last_ = 0;      // behind the last byte read
-  std::size_t searched_ = 0;  // no line end before this one; the line end itself once found
-  std::size_t lineFeed_ = 0;  // the next LF, or last_
+  std::uint64_t dropped_ = 0;  // bytes read before those in the buffer
+  std::size_t first_ = 0;      // the line begins here
+  std::size_t last_ = 0;       // behind the last byte read
+  std::size_t searched_ = 0;   // no line end before this one; the line end itself once found
+  std::size_t lineFeed_ = 0;   // the next LF, or last_
   bool isAtEnd_ = false;
   bool isFailed_ = false;
 };

@@ -50,6 +50,9 @@ class InputFile {
   virtual ~InputFile() = default;
   // The number of bytes put into `buffer`: 0 at the file's end, less than 0 when reading failed.
   [[nodiscard]] virtual std::ptrdiff_t read(char* buffer, std::size_t size) = 0;
+  // Reading goes on `count` bytes further; false when that cannot be done. By itself it reads what
+  // it passes over.
+  [[nodiscard]] virtual bool skip(std::uint64_t count);
 };
 
 // A new file, open for writing.

@@ -61,6 +61,10 @@ class PosixInput final : public InputFile {
     return got;
   }
 
+  bool skip(std::uint64_t count) override {
+    return ::lseek(file_.number(), static_cast<off_t>(count), SEEK_CUR) >= 0;
+  }
+
  private:
   Descriptor file_;
 };

@@ -53,6 +53,12 @@ class WindowsInput final : public InputFile {
     return static_cast<std::ptrdiff_t>(got);
   }
 
+  bool skip(std::uint64_t count) override {
+    LARGE_INTEGER distance;
+    distance.QuadPart = static_cast<LONGLONG>(count);
+    return SetFilePointerEx(file_.get(), distance, nullptr, FILE_CURRENT) != 0;
+  }
+
  private:
   Handle file_;
 };

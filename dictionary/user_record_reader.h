@@ -26,6 +26,8 @@ class UserRecordReader {
   [[nodiscard]] const RecordOutline& outline() const { return outline_; }
   [[nodiscard]] std::string_view line() const { return line_.text; }
   [[nodiscard]] std::int64_t number() const { return number_; }
+  // Where its line begins, in bytes from where reading began.
+  [[nodiscard]] std::uint64_t start() const { return line_.start; }
 
   // Whether a line end stands behind what has been read of the record; the file's last may lack it.
   [[nodiscard]] bool isLineEnded() const { return !line_.end.empty(); }

@@ -48,26 +48,82 @@ UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxe
 
 FoundFile UserVerbsFile::find() const { return findFile(prefix_, kVerbs, files_); }
 
-// The first record that differs by its prefix only is taken on the way, lest the file be read
-// twice.
+// Of the records whose infinitives are `infinitive` without their prefixes: the first, or better
+// the first that has the prefix too.
+class ChosenRecord {
+ public:
+  ChosenRecord(std::string_view infinitive, engine::FormTable& forms, std::uint8_t& storedAux)
+      : infinitive_(infinitive),
+        key_(engine::withoutReflexivePrefix(infinitive)),
+        forms_(forms),
+        storedAux_(storedAux) {}
+
+  // Looks at one more record; true when no better one can come.
+  bool look(const UserRecordReader& records) {
+    engine::normalize(records.outline().infinitive, stored_);
+    const bool isSame = stored_ == infinitive_;
+    const bool isOfKey = isSame || engine::withoutReflexivePrefix(stored_) == key_;
+    if (!isOfKey || (isFound_ && !isSame)) return false;
+    readForms(records.line(), forms_);
+    storedAux_ = auxiliaryOf(records.outline().flag);
+    isFound_ = true;
+    return isSame;
+  }
+
+  [[nodiscard]] std::string_view key() const { return key_; }
+  [[nodiscard]] bool isFound() const { return isFound_; }
+
+ private:
+  std::string_view infinitive_, key_;
+  engine::FormTable& forms_;
+  std::uint8_t& storedAux_;
+  std::string stored_;
+  bool isFound_ = false;
+};
+
 bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
                          std::uint8_t& storedAux) {
   if (count_ <= 0 && files_.presence(newFile_) == Presence::notThere) return false;
   const FoundFile found = find();
-  takeNoticeOf(found.path);
-  const std::string_view key = engine::withoutReflexivePrefix(infinitive);
-  std::string stored;
-  bool isFound = false;
-  visitRecords(found, count_, [&](const UserRecordReader& records) {
-    engine::normalize(records.outline().infinitive, stored);
-    const bool isSame = stored == infinitive;
-    if (!isSame && (isFound || engine::withoutReflexivePrefix(stored) != key)) return false;
-    readForms(records.line(), forms);
-    storedAux = auxiliaryOf(records.outline().flag);
-    isFound = true;
-    return isSame;
-  });
-  return isFound;
+  const bool isKnown = takeNoticeOf(found.path) && count_ > 0 && hasPlacesOf(found);
+  ChosenRecord chosen(infinitive, forms, storedAux);
+  const bool isRead = isKnown && loadByPlace(found, chosen);
+  if (isRead) return chosen.isFound();
+  ChosenRecord read(infinitive, forms, storedAux);
+  visitRecords(found, count_, [&](const UserRecordReader& records) { return read.look(records); });
+  return read.isFound();
+}
+
+// False when the file is no longer what the places were noted of.
+bool UserVerbsFile::loadByPlace(const FoundFile& found, ChosenRecord& chosen) {
+  std::int64_t last = count_;
+  for (const UserVerbPlaces::Place& place : places_.of(chosen.key())) {
+    if (place.record > count_) break;
+    std::unique_ptr<InputFile> file = files_.open(found.path);
+    if (!file || !file->skip(place.start)) return false;
+    UserRecordReader records(std::move(file));
+    if (records.next() != RecordRead::record) return false;
+    if (UserVerbPlaces::hashOf(records) != place.hash) return false;
+    const bool isBest = chosen.look(records);
+    if (isBest) last = place.record;
+    if (isBest) break;
+  }
+  const std::int64_t damaged = places_.firstDamaged();
+  if (damaged != 0 && damaged <= last) showDamage(damaged);
+  return true;
+}
+
+// Notes the places where that has not been done since the file has changed.
+bool UserVerbsFile::hasPlacesOf(const FoundFile& found) {
+  if (found.presence != Presence::there) return false;
+  return versionOfPlaces_ == version_ || readPlaces(found.path);
+}
+
+bool UserVerbsFile::readPlaces(const fs::path& file) {
+  UserRecordReader records(files_.open(file));
+  const bool isRead = places_.read(records);
+  versionOfPlaces_ = isRead ? version_ : 0;
+  return isRead;
 }
 
 std::vector<std::string> UserVerbsFile::infinitives() {
@@ -78,6 +134,16 @@ std::vector<std::string> UserVerbsFile::infinitives() {
     return false;
   });
   return listed;
+}
+
+void UserVerbsFile::forEach(
+    const std::function<void(const engine::FormTable&, std::uint8_t)>& take) {
+  engine::FormTable forms;
+  visitRecords(find(), count_, [&](const UserRecordReader& records) {
+    readForms(records.line(), forms);
+    take(forms, auxiliaryOf(records.outline().flag));
+    return false;
+  });
 }
 
 // Shows every readable record to `isEnough` until it has enough; false when reading failed.
@@ -101,29 +167,26 @@ bool UserVerbsFile::visitRecords(const FoundFile& found, std::int64_t limit,
   return true;
 }
 
-void UserVerbsFile::lookAgain() { takeNoticeOf(find().path); }
+void UserVerbsFile::lookAgain() { static_cast<void>(takeNoticeOf(find().path)); }
 
 // A file that has gone leaves the count as it is: it may come back. The first look changes nothing
 // either, since the stored count and the file are expected to disagree after a crash.
-void UserVerbsFile::takeNoticeOf(const fs::path& file) {
+// False when it cannot be told whether the file has changed.
+bool UserVerbsFile::takeNoticeOf(const fs::path& file) {
   const FileLook look = files_.look(file);
-  if (look.presence == Presence::unknown || seen_ == look) return;
-  if (seen_ && look.presence == Presence::there) {
-    const auto records = recordsIn(file);
-    if (!records) return;  // tried again at the next look
-    count_ = static_cast<std::int32_t>(*records);
-  }
-  seen_ = look;
+  if (look.presence == Presence::unknown) return false;
+  if (seen_ == look) return true;
+  const bool isCounted = seen_ && look.presence == Presence::there;
+  if (isCounted && !readPlaces(file)) return false;  // tried again at the next look
+  if (isCounted) count_ = static_cast<std::int32_t>(places_.recordCount());
+  see(look);
+  if (isCounted) versionOfPlaces_ = version_;
+  return true;
 }
 
-// Every line is a record, however damaged; nothing when not all could be read.
-std::optional<std::int64_t> UserVerbsFile::recordsIn(const fs::path& file) {
-  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
-  UserRecordReader records(files_.open(file));
-  RecordRead read = RecordRead::record;
-  while (read != RecordRead::endOfFile && records.number() < kMost)
-    if ((read = records.next()) == RecordRead::failed) return std::nullopt;
-  return records.number();
+void UserVerbsFile::see(const FileLook& look) {
+  seen_ = look;
+  ++version_;
 }
 
 SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
@@ -158,7 +221,7 @@ CopyResult UserVerbsFile::rewriteInTurn(const Rewrite& rewrite) {
     takeNoticeOf(target->path);
     const CopyResult copied = rewrite(*target);
     if (copied.isOvertaken) continue;
-    if (copied.isComplete) seen_ = files_.look(target->path);
+    if (copied.isComplete) see(files_.look(target->path));
     return copied;
   }
   return {};

@@ -13,11 +13,12 @@
 #include "dictionary/file_system.h"
 #include "dictionary/messages.h"
 #include "dictionary/user_record.h"
+#include "dictionary/user_verb_places.h"
 #include "engine/ports.h"
 
 namespace odmiennik::dictionary {
 
-class UserRecordReader;
+class ChosenRecord;
 class FileReplacement;
 struct ReplacedFile;
 struct FoundFile;
@@ -29,8 +30,9 @@ enum class DeleteResult : std::uint8_t { deleted, notFound, failed };
 // `count` is the stored number of verbs, kept by the settings file: look-up and save go by it, list
 // and delete by the file's end. When another program has changed the file since it was last looked
 // at, the count is the number of its records. Damage, a file that cannot be read and failed writes
-// are shown through `messages`; the first two once per object. The class keeps no contents in
-// memory: every call reads the file.
+// are shown through `messages`; the first two once per object. Of the contents
+// only the places of the records are kept, noted once for each change of the file; every call reads
+// what it gives from the file.
 class UserVerbsFile final : public engine::UserVerbs {
  public:
   // `prefix` is put before every bare file name (see AppFolder).
@@ -56,7 +58,10 @@ class UserVerbsFile final : public engine::UserVerbs {
   [[nodiscard]] std::vector<std::string> infinitives();
 
   // The stored number of verbs, where it is read only after this object has been made.
-  void startWith(std::int32_t count) { count_ = count; }
+  void startWith(std::int32_t count) {
+    count_ = count;
+    ++version_;
+  }
 
   // Puts back `Czas.dat` when a crash left no `Czasowniki.dat`, and removes what an interrupted
   // rewrite left beside it; called once at start-up.
@@ -70,14 +75,24 @@ class UserVerbsFile final : public engine::UserVerbs {
 
   [[nodiscard]] std::int32_t count() const { return count_; }
 
+  // Another number whenever other records may be found than before: whoever keeps something of them
+  // asks lookAgain() and then this.
+  [[nodiscard]] std::uint64_t version() const { return version_; }
+
+  // Shows every readable record that a look-up may find, in file order: its forms, which hold until
+  // the next one, and its auxiliary.
+  void forEach(const std::function<void(const engine::FormTable&, std::uint8_t)>& take);
+
  private:
   using Visit = std::function<bool(const UserRecordReader&)>;
   using Rewrite = std::function<CopyResult(const ReplacedFile& target)>;
 
   [[nodiscard]] FoundFile find() const;
   bool visitRecords(const FoundFile& found, std::int64_t limit, const Visit& isEnough);
-  void takeNoticeOf(const std::filesystem::path& file);
-  [[nodiscard]] std::optional<std::int64_t> recordsIn(const std::filesystem::path& file);
+  bool takeNoticeOf(const std::filesystem::path& file);
+  [[nodiscard]] bool readPlaces(const std::filesystem::path& file);
+  [[nodiscard]] bool hasPlacesOf(const FoundFile& found);
+  [[nodiscard]] bool loadByPlace(const FoundFile& found, ChosenRecord& chosen);
   [[nodiscard]] CopyResult rewriteInTurn(const Rewrite& rewrite);
   [[nodiscard]] CopyResult rewriteWith(const UserVerbRecord& record, const ReplacedFile& target);
   [[nodiscard]] CopyResult rewriteWithout(std::string_view infinitive, const ReplacedFile& target);
@@ -87,6 +102,7 @@ class UserVerbsFile final : public engine::UserVerbs {
   void removePrevious();
   void showDamage(std::int64_t record);
   void showUnreadable();
+  void see(const FileLook& look);
 
   std::string prefix_;
   std::filesystem::path newFile_;  // where the first save puts it
@@ -95,6 +111,9 @@ class UserVerbsFile final : public engine::UserVerbs {
   FileSystem& files_;
   std::function<void()> changed_ = [] {};
   std::optional<FileLook> seen_;  // the file when this program looked at it last
+  std::uint64_t version_ = 1;
+  UserVerbPlaces places_;
+  std::uint64_t versionOfPlaces_ = 0;
   bool isDamageShown_ = false;
   bool isUnreadableShown_ = false;
 };
