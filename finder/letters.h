@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Letters without their accents, and the hashes under which beginnings and ends of words are kept.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "engine/french.h"
+
+namespace odmiennik::finder {
+
+// The longest word that is looked for, in letters without accents; no form comes near it.
+inline constexpr std::size_t kLongestWord = 48;
+
+namespace detail {
+
+using engine::operator""_fr;
+
+// The letter of every byte without its accent; of œ and æ the first of two.
+inline constexpr std::array<char, 256> kPlain = [] {
+  std::array<char, 256> plain{};
+  for (std::size_t byte = 0; byte < plain.size(); ++byte) plain[byte] = static_cast<char>(byte);
+  struct Accented {
+    char letter;
+    std::string_view accented;
+  };
+  constexpr Accented kAccented[] = {{'a', "àáâãäåæ"_fr}, {'c', "ç"_fr}, {'e', "èéêë"_fr},
+                                    {'i', "ìíîï"_fr},    {'n', "ñ"_fr}, {'o', "òóôõöœ"_fr},
+                                    {'u', "ùúûü"_fr},    {'y', "ýÿ"_fr}};
+  for (const Accented& row : kAccented)
+    for (const char letter : row.accented) plain[static_cast<unsigned char>(letter)] = row.letter;
+  return plain;
+}();
+
+// An e follows: œ is oe, æ is ae.
+[[nodiscard]] constexpr bool isTwoLetters(char letter) {
+  return letter == "œ"_fr[0] || letter == "æ"_fr[0];
+}
+
+}  // namespace detail
+
+// A word without accents, in place: no memory is asked for while one types.
+class Folded {
+ public:
+  Folded() = default;
+  // `word` is lower case (Windows-1252): "œuvrât" -> "oeuvrat". What is too long is no word.
+  explicit Folded(std::string_view word) { append(word); }
+
+  void append(std::string_view word);
+  void push(char letter);
+
+  [[nodiscard]] std::string_view text() const { return {letters_.data(), size_}; }
+  [[nodiscard]] bool isTooLong() const { return isTooLong_; }
+
+ private:
+  std::array<char, kLongestWord> letters_{};
+  std::size_t size_ = 0;
+  bool isTooLong_ = false;
+};
+
+// Takes `word` off the front of `folded` where it is that without accents; false where it is not.
+[[nodiscard]] constexpr bool takeOff(std::string_view word, std::string_view& folded) {
+  std::size_t at = 0;
+  for (const char letter : word) {
+    if (at == folded.size() || folded[at++] != detail::kPlain[static_cast<unsigned char>(letter)])
+      return false;
+    if (detail::isTwoLetters(letter) && (at == folded.size() || folded[at++] != 'e')) return false;
+  }
+  folded.remove_prefix(at);
+  return true;
+}
+
+// Hashes that grow by a letter: stems from their first letter on, endings from their last one back.
+inline constexpr std::uint32_t kNoLetters = 2166136261U;
+[[nodiscard]] constexpr std::uint32_t withLetter(std::uint32_t hash, char letter) {
+  return (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
+}
+[[nodiscard]] constexpr std::uint32_t mixed(std::uint32_t hash) {
+  hash = (hash ^ (hash >> 15)) * 0x7FEB352DU;
+  return hash ^ (hash >> 16);
+}
+[[nodiscard]] constexpr std::uint32_t endingOf(std::uint32_t ending, std::uint32_t paradigm) {
+  return mixed(ending + paradigm * 0x9E3779B9U);
+}
+
+}  // namespace odmiennik::finder
