@@ -3,6 +3,7 @@
 #include "cli/command.h"
 
 #include "cli/conjugation_run.h"
+#include "cli/find_run.h"
 #include "cli/options.h"
 
 namespace odmiennik::cli {
@@ -14,6 +15,7 @@ ExitStatus runCommand(std::span<const std::string> arguments, Console& console) 
     return ExitStatus::wrongUsage;
   }
   const Options& options = parsed.options;
+  if (options.isFinding) return console.finish(FindRun(options, console).answerAll());
   if (options.query == nullptr) return console.finish(ConjugationRun(options, console).answerAll());
   if (options.query(console.out().text(), options.queryText))
     return console.finish(ExitStatus::allConjugated);

@@ -2,6 +2,7 @@
 // One run over all verbs asked for.
 #include "cli/conjugation_run.h"
 
+#include "cli/asked_lines.h"
 #include "dictionary/spelling.h"
 #include "dictionary/verb_index.h"
 #include "engine/windows1252.h"
@@ -11,14 +12,6 @@ namespace {
 
 bool wantsColours(const Console& console) {
   return console.isOnTerminal() && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
-}
-
-// The verb as a message names it: a line of ten thousand letters would hide the message.
-std::string nameOf(std::string_view infinitive) {
-  constexpr std::size_t kLongestName = 60;
-  std::string name = "„";
-  appendPrintable(name, infinitive.substr(0, kLongestName));
-  return name + (infinitive.size() > kLongestName ? "…”" : "”");
 }
 
 }  // namespace
@@ -38,35 +31,18 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
 ExitStatus ConjugationRun::answerAll() {
   std::string& out = console_.out().text();
   departures_ ? Departures::begin(out) : format_->begin(out);
+  const auto answerLine = [this](const InputLine& line, std::string_view name) {
+    answer(line, name);
+  };
   if (!options_.infinitives.empty())
-    answerArguments();
+    answerArguments(options_.infinitives, answerLine);
+  else if (departures_)
+    answerIndex();
   else
-    departures_ ? answerIndex() : answerInput();
+    hasInputTrouble_ = !answerInput(console_, answerLine);
   if (files_.hasTrouble || hasInputTrouble_ || messages_.hasFileTrouble())
     return ExitStatus::fileTrouble;
   return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
-}
-
-void ConjugationRun::answerArguments() {
-  std::size_t number = 0;
-  for (const std::string_view argument : options_.infinitives) {
-    const InputLine line{++number, argument.substr(0, kLongestLine),
-                         argument.size() > kLongestLine};
-    answer(line, "argument");
-  }
-}
-
-void ConjugationRun::answerInput() {
-  // Whoever waits for an answer before asking on gets it: nothing is held back while waiting.
-  LineReader reader([this](std::span<char> buffer) {
-    console_.out().flush();
-    return readInput(buffer);
-  });
-  InputLine line;
-  while (!console_.out().hasFailed() && reader.next(line)) answer(line, "wiersz");
-  if (!reader.hasFailed()) return;
-  hasInputTrouble_ = true;
-  console_.complain("nie można czytać standardowego wejścia.");
 }
 
 // Every verb of the index, from a to z.

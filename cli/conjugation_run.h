@@ -24,8 +24,6 @@ class ConjugationRun {
   [[nodiscard]] ExitStatus answerAll();
 
  private:
-  void answerArguments();
-  void answerInput();
   void answerIndex();
   void answer(const InputLine& line, std::string_view lineName);
   void suggestSpelling(const Question& question);

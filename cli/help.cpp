@@ -10,6 +10,7 @@ namespace odmiennik::cli {
 bool appendHelp(std::string& out, std::string_view) {
   out.append(
       "Użycie: odmien [OPCJE] [BEZOKOLICZNIK…]\n"
+      "        odmien --find [OPCJE] [FORMA…]\n"
       "Odmienia francuskie czasowniki. Bez argumentów czyta je ze standardowego\n"
       "wejścia, po jednym w wierszu; po znaku tabulacji może stać rekord danych\n"
       "o czasowniku, który zastępuje dane ze spisu.\n\n");

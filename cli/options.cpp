@@ -9,6 +9,7 @@
 
 #include "cli/help.h"
 #include "cli/index_queries.h"
+#include "cli/reading_formats.h"
 #include "engine/flags.h"
 
 namespace odmiennik::cli {
@@ -69,6 +70,7 @@ bool askForLetter(Options& options, std::string_view value) {
 }
 
 bool takeNorm(Options& options, std::string_view) { return options.isInNorm = true; }
+bool takeFinding(Options& options, std::string_view) { return options.isFinding = true; }
 bool takeDepartures(Options& options, std::string_view) { return options.listsDepartures = true; }
 
 constexpr OptionRow kOptions[] = {
@@ -82,6 +84,7 @@ constexpr OptionRow kOptions[] = {
     {"--edit", "", takeEditing, "odmień jak przy edycji czasownika"},
     {"--norm", "", takeNorm, "odmień według dzisiejszej normy"},
     {"--departures", "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
+    {"--find", "", takeFinding, "podaj, jakiego czasownika i jakimi formami są słowa"},
     {"--list", "LITERA", askForLetter, "wypisz czasowniki spisu na tę literę (a-z)"},
     {"--complete", "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
     {"--record", "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
@@ -123,11 +126,20 @@ std::string takeOption(Options& options, std::span<const std::string>& rest) {
   return {};
 }
 
+std::string faultOfFinding(const Options& options) {
+  if (options.auxiliary || options.query != nullptr)
+    return "opcja „--find” nie łączy się z żadną poza „--format” i „--folder”.";
+  if (readingFormatNamed(options.format->name) == nullptr)
+    return "opcja „--find” nie zna postaci " + quoted(options.format->name) + ".";
+  return {};
+}
+
 // The options of a conjugation that cannot be had together.
 std::string faultOfChoice(const Options& options) {
   const std::pair<bool, std::string_view> kinds[] = {{options.isEditing, "--edit"},
                                                      {options.isInNorm, "--norm"},
-                                                     {options.listsDepartures, "--departures"}};
+                                                     {options.listsDepartures, "--departures"},
+                                                     {options.isFinding, "--find"}};
   std::string_view before;
   for (const auto& [isGiven, name] : kinds) {
     if (isGiven && !before.empty())
@@ -137,7 +149,7 @@ std::string faultOfChoice(const Options& options) {
   const bool isShaped = options.format != &kFormats[0] || options.auxiliary;
   if (options.listsDepartures && isShaped)
     return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
-  return {};
+  return options.isFinding ? faultOfFinding(options) : std::string();
 }
 
 bool isOption(std::string_view argument) { return argument.size() > 1 && argument[0] == '-'; }

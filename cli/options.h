@@ -23,6 +23,7 @@ struct Options {
   const FormatRow* format = &kFormats[0];
   bool isEditing = false;
   bool isInNorm = false;         // today's norm in the place of the system's forms
+  bool isFinding = false;        // the arguments are forms, and their verbs are asked for
   bool listsDepartures = false;  // only the forms in which the two differ
   std::optional<std::uint8_t> auxiliary;
   std::optional<std::string_view> folder;

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+#include "cli/format.h"
 #include "dictionary/printable.h"
 #include "engine/windows1252.h"
 
@@ -83,6 +84,13 @@ Question questionOf(const InputLine& line) {
   text.resize(end == std::string::npos ? text.size() : end);
   question.infinitive = std::move(text);
   return question;
+}
+
+std::string nameOf(std::string_view infinitive) {
+  constexpr std::size_t kLongestName = 60;
+  std::string name = "„";
+  appendPrintable(name, infinitive.substr(0, kLongestName));
+  return name + (infinitive.size() > kLongestName ? "…”" : "”");
 }
 
 std::string faultSentence(const Question& question) {

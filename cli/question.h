@@ -31,6 +31,10 @@ struct Question {
 // The Polish sentence that says why: "bajt 0xFF na pozycji 3 nie należy do tekstu UTF-8".
 [[nodiscard]] std::string faultSentence(const Question& question);
 
+// What was asked as a message names it, „aller”: a line of ten thousand letters would hide the
+// message.
+[[nodiscard]] std::string nameOf(std::string_view infinitive);
+
 // `bytes` with U+FFFD for every byte that belongs to no UTF-8 sequence: "a\xFF" -> "a�".
 [[nodiscard]] std::string cleanUtf8(std::string_view bytes);
 

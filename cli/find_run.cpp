@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One run over all forms.
+#include "cli/find_run.h"
+
+#include "cli/asked_lines.h"
+#include "cli/question.h"
+
+namespace odmiennik::cli {
+
+FindRun::FindRun(const Options& options, Console& console)
+    : options_(options),
+      console_(console),
+      files_(findProgramFiles(options.folder, console)),
+      userVerbs_(files_.prefix, files_.userVerbCount, messages_),
+      finder_(userVerbs_),
+      format_(*readingFormatNamed(options.format->name)) {}
+
+ExitStatus FindRun::answerAll() {
+  console_.out().text().append(format_.header);
+  const auto answerLine = [this](const InputLine& line, std::string_view name) {
+    answer(line, name);
+  };
+  const auto lookAgain = [this] {
+    finder_.lookAgain();
+    sayWhatTheFilesAreLike();
+  };
+  bool isRead = true;
+  if (options_.infinitives.empty()) {
+    isRead = answerInput(console_, answerLine, lookAgain);
+  } else {
+    lookAgain();
+    answerArguments(options_.infinitives, answerLine);
+  }
+  if (files_.hasTrouble || !isRead || messages_.hasFileTrouble()) return ExitStatus::fileTrouble;
+  return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
+}
+
+void FindRun::sayWhatTheFilesAreLike() {
+  for (const std::string& message : messages_.texts()) console_.complain(message);
+  messages_.beginAnswer();
+}
+
+void FindRun::answer(const InputLine& line, std::string_view lineName) {
+  const Question question = questionOf(line);
+  readings_.clear();
+  if (question.fault == QuestionFault::none) finder_.find(question.infinitive, readings_);
+  format_.append(console_.out().text(), question.typed, readings_);
+  console_.out().flushIfLarge();
+  const bool isBlank = question.typed.find_first_not_of(" \t") == std::string::npos;
+  const bool isFound = !readings_.empty() && readings_.front().match != finder::Match::slip;
+  if (isFound || (isBlank && lineName == "wiersz")) return;
+  hasRefused_ = true;
+  const std::string place = std::string(lineName) + " " + std::to_string(line.number);
+  if (question.fault != QuestionFault::none)
+    console_.complain(place, faultSentence(question));
+  else
+    console_.complain(place + ": " + nameOf(question.infinitive), "nie znaleziono takiej formy.");
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Readings as a table, as tab-separated values and as JSON.
+#include "cli/reading_formats.h"
+
+#include <algorithm>
+
+#include "cli/format.h"
+#include "cli/json_text.h"
+#include "cli/page.h"
+#include "dictionary/printable.h"
+#include "engine/slots.h"
+
+namespace odmiennik::cli {
+namespace {
+
+using finder::Match;
+using finder::Reading;
+using finder::Readings;
+
+// "both", "system", "norm": who has the form so.
+std::string_view varietyOf(const Reading& reading) {
+  if (reading.isInSystem && reading.isInNorm) return "both";
+  return reading.isInSystem ? "system" : "norm";
+}
+
+std::string_view nameOf(Match match) {
+  constexpr std::string_view kNames[] = {"exact", "accents", "slip"};
+  return kNames[static_cast<std::size_t>(match)];
+}
+
+// How the participle agrees: "m", "f", "mp", "fp"; nothing of a form without one.
+std::string_view agreementOf(const Reading& reading) {
+  constexpr std::string_view kNames[] = {"m", "f", "mp", "fp"};
+  return reading.hasParticiple ? kNames[static_cast<std::size_t>(reading.agreed)]
+                               : std::string_view{};
+}
+
+// The columns of the table.
+constexpr std::size_t kPhrase = 2, kInfinitive = 30, kTense = 48, kGap = 2;
+
+void beginColumn(Page& page, std::size_t column) {
+  page.moveTo(std::max(column, page.column() + kGap));
+}
+
+void appendText(std::string& out, std::string_view typed, const Readings& readings) {
+  if (readings.empty()) return;
+  Page page(out, false);
+  page.addUtf8(dictionary::printable(typed));
+  page.endLine();
+  Match match = Match::exact;
+  for (const Reading& reading : readings) {
+    if (reading.match != match) {
+      match = reading.match;
+      page.moveTo(kPhrase);
+      page.addUtf8(finder::headingOf(match));
+      page.endLine();
+    }
+    page.moveTo(kPhrase);
+    page.addFrench(finder::phraseOf(reading));
+    beginColumn(page, kInfinitive);
+    page.addFrench(finder::infinitiveOf(reading));
+    beginColumn(page, kTense);
+    page.addUtf8(finder::placeInWords(reading));
+    page.endLine();
+  }
+}
+
+void appendTsv(std::string& out, std::string_view typed, const Readings& readings) {
+  for (const Reading& reading : readings) {
+    const engine::Tense& tense = engine::tenseOf(reading.slot);
+    dictionary::appendPrintable(out, typed);
+    out.push_back('\t');
+    appendPrintable(out, finder::phraseOf(reading));
+    out.push_back('\t');
+    appendPrintable(out, finder::infinitiveOf(reading));
+    out.append("\t").append(std::to_string(reading.slot));
+    for (const std::string_view field :
+         {tense.mood, tense.name, engine::personOf(reading.slot), agreementOf(reading),
+          varietyOf(reading), nameOf(reading.match)})
+      out.append("\t").append(field);
+    out.push_back('\n');
+  }
+}
+
+void appendKey(std::string& out, std::string_view key) {
+  out.append(",\"").append(key).append("\":");
+}
+
+void appendReading(std::string& out, const Reading& reading) {
+  const engine::Tense& tense = engine::tenseOf(reading.slot);
+  out.append("{\"phrase\":");
+  appendJsonFrench(out, finder::phraseOf(reading));
+  appendKey(out, "form");
+  appendJsonFrench(out, reading.form);
+  appendKey(out, "infinitive");
+  appendJsonFrench(out, finder::infinitiveOf(reading));
+  appendKey(out, "slot");
+  out.append(std::to_string(reading.slot));
+  const std::pair<std::string_view, std::string_view> texts[] = {
+      {"mood", tense.mood},
+      {"tense", tense.name},
+      {"person", engine::personOf(reading.slot)},
+      {"agreement", agreementOf(reading)},
+      {"variety", varietyOf(reading)},
+      {"match", nameOf(reading.match)}};
+  for (const auto& [key, text] : texts) {
+    appendKey(out, key);
+    appendJsonUtf8(out, text);
+  }
+  appendKey(out, "own");
+  out.append(reading.isOwn ? "true}" : "false}");
+}
+
+// One object a question, in their order.
+void appendJson(std::string& out, std::string_view typed, const Readings& readings) {
+  out.append("{\"typed\":");
+  appendJsonUtf8(out, typed);
+  out.append(",\"readings\":[");
+  for (const Reading& reading : readings) {
+    if (&reading != &readings.front()) out.push_back(',');
+    appendReading(out, reading);
+  }
+  out.append("]}\n");
+}
+
+constexpr ReadingFormat kReadingFormats[] = {
+    {"text", "", appendText},
+    {"tsv", "typed\tphrase\tinfinitive\tslot\tmood\ttense\tperson\tagreement\tvariety\tmatch\n",
+     appendTsv},
+    {"json", "", appendJson}};
+
+}  // namespace
+
+const ReadingFormat* readingFormatNamed(std::string_view name) {
+  const auto* format = std::ranges::find(kReadingFormats, name, &ReadingFormat::name);
+  return format == std::end(kReadingFormats) ? nullptr : format;
+}
+
+}  // namespace odmiennik::cli
