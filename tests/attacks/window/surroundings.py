@@ -147,6 +147,15 @@ def in_a_folder_that_takes_no_files(program):
     quit_with(program, ("Zapisać edytowany czasownik - 'aimer'?", "Nie"), (SETTINGS_UNWRITTEN, "OK"))
 
 
+def with_a_limit_for_the_size_of_files(program):
+    """A verb too long for it is told as not saved, and what was typed stays."""
+    program.wrapper = ["sh", "-c", 'ulimit -f 1; exec "$@"', "sh"]
+    program.start()
+    cannot_save(program, "finir")
+    assert sorted(file.name for file in program.folder.iterdir()) == ["Werbolin.cfg"]
+    assert program.is_running()
+
+
 def with_its_folder_removed(program):
     """Verbs are conjugated; that nothing can be saved is told."""
     program.start()
