@@ -313,10 +313,10 @@ def open_list(user):
     button = next((b for b in listed.buttons() if b.name == command), None)
     if button is None or not button.has("enabled") or not button.has("showing"):
         return
-    verb = next((part.selected_entry() for part in listed.parts() if part.role == "list"), None)
+    verb = listed.part("Czasowniki").selected_entry()
     shown = [box.text for box in user.boxes]
     button.press()
-    if command == "Odmień" and verb is not None:
+    if command == "Odmień":
         wait_for(lambda: user.entry().text == verb, "the verb of the list", LIMIT)
         user.note_conjugated(verb)
     if command == "Edytuj":

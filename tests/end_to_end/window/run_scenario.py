@@ -14,7 +14,7 @@ import sys
 import tempfile
 
 SKIPPED = 77  # the exit code that ctest is told of
-LIMIT = 80  # seconds; below the limit of ctest, so that everything started is ended here
+LIMIT = 220  # seconds; below the limit of ctest, so that everything started is ended here
 
 
 # What the scenarios of a file ask for by a name of theirs, and the module that has it.
