@@ -27,6 +27,7 @@
 #include "dictionary/builtin_verbs.h"
 #include "dictionary/user_verbs.h"
 #include "dictionary/verb_index.h"
+#include "engine/utf8.h"
 #include "groups/rules.h"
 
 namespace odmiennik::app {
@@ -36,7 +37,7 @@ class Program {
   // What differs between the program itself and a test of it. `folder` keeps the user's verbs and
   // the settings; `end` ends the program at once.
   struct Environment {
-    std::string folder;
+    Utf8Text folder;
     dictionary::MessageBoxes& messages;
     UserStore& store;
     std::function<void()> end;
@@ -65,7 +66,7 @@ class Program {
   [[nodiscard]] HeadingColourPort headingColours();
   [[nodiscard]] LayoutPort layout();
 
-  std::string prefix_;
+  Utf8Text prefix_;
   dictionary::UserVerbsFile userVerbs_;
   WindowShell shell_;
   dictionary::GeneralVerbIndex index_;

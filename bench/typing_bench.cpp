@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 
+#include "app/common/text.h"
 #include "app/program.h"
 #include "bench/qt_application.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 class NoMessages final : public dictionary::MessageBoxes {
  public:
-  dictionary::Button show(dictionary::MessageId /*id*/, std::string_view /*argument*/) override {
+  dictionary::Button show(dictionary::MessageId /*id*/, Utf8View /*argument*/) override {
     return dictionary::Button::ok;
   }
 };
@@ -45,8 +46,7 @@ class StartedProgram {
   NoMessages messages_;
   UserStore store_{folder_.filePath(QStringLiteral("store.ini"))};
   Program program_{
-      {.folder = folder_.path().toStdString(), .messages = messages_, .store = store_, .end = [] {
-       }}};
+      {.folder = toUtf8(folder_.path()), .messages = messages_, .store = store_, .end = [] {}}};
 };
 
 void letterWithCompletion(benchmark::State& state) {

@@ -33,7 +33,7 @@ void lookUpAfterAChange(benchmark::State& state) {
     UserVerbsFile verbs(folder.prefix(), VerbsFolder::kVerbCount, messages);
     if (!verbs.load(last, forms, storedAux)) state.SkipWithError("the verb was not found");
   }
-  const auto size = std::filesystem::file_size(folder.prefix() + "Czasowniki.dat");
+  const auto size = std::filesystem::file_size(bytesOf(folder.prefix() + "Czasowniki.dat"));
   state.SetBytesProcessed(static_cast<std::int64_t>(size) * state.iterations());
 }
 BENCHMARK(lookUpAfterAChange)->Unit(benchmark::kMillisecond);

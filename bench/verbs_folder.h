@@ -30,7 +30,7 @@ class VerbsFolder {
     fs::remove_all(folder_, ignored);
   }
 
-  [[nodiscard]] std::string prefix() const { return AppFolder(folder_.string()); }
+  [[nodiscard]] Utf8Text prefix() const { return AppFolder(asUtf8(folder_.string())); }
   static std::string infinitive(int number) { return "conjuguer" + std::to_string(number); }
 
  private:
@@ -46,7 +46,7 @@ class VerbsFolder {
 };
 
 struct NoMessages final : MessageBoxes {
-  Button show(MessageId, std::string_view) override { return Button::ok; }
+  Button show(MessageId, Utf8View) override { return Button::ok; }
 };
 
 }  // namespace odmiennik::dictionary

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,15 +12,16 @@
 #include "dictionary/builtin_verbs.h"
 #include "dictionary/verb_index.h"
 #include "engine/driver.h"
+#include "engine/utf8.h"
 #include "groups/rules.h"
 
 namespace odmiennik::cli {
 
 // What is answered; everything in it is valid until the next question.
 struct Answer {
-  std::string_view typed;  // UTF-8
+  Utf8View typed;
   const engine::Conjugation& conjugation;
-  const std::vector<std::string>& messages;
+  const std::vector<Utf8Text>& messages;
   bool isPronominal;
   bool isRefused;  // no conjugation came of it
 };

@@ -4,18 +4,17 @@
 
 namespace odmiennik::cli {
 
-void answerArguments(std::span<const std::string_view> arguments,
-                     const std::function<void(const InputLine&, std::string_view)>& answer) {
+void answerArguments(std::span<const Utf8View> arguments,
+                     const std::function<void(const InputLine&, Utf8View)>& answer) {
   std::size_t number = 0;
-  for (const std::string_view argument : arguments) {
+  for (const Utf8View argument : arguments) {
     const InputLine line{++number, argument.substr(0, kLongestLine),
                          argument.size() > kLongestLine};
     answer(line, "argument");
   }
 }
 
-bool answerInput(Console& console,
-                 const std::function<void(const InputLine&, std::string_view)>& answer,
+bool answerInput(Console& console, const std::function<void(const InputLine&, Utf8View)>& answer,
                  const std::function<void()>& beforeWaiting) {
   LineReader reader([&](std::span<char> buffer) {
     console.out().flush();

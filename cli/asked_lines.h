@@ -4,22 +4,22 @@
 
 #include <functional>
 #include <span>
-#include <string_view>
 
 #include "cli/console.h"
 #include "cli/line_reader.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 // Calls `answer` with each argument, which complaints call "argument".
-void answerArguments(std::span<const std::string_view> arguments,
-                     const std::function<void(const InputLine&, std::string_view)>& answer);
+void answerArguments(std::span<const Utf8View> arguments,
+                     const std::function<void(const InputLine&, Utf8View)>& answer);
 
 // Calls `answer` with each line of standard input ("wiersz"), and `beforeWaiting` whenever there is
 // nothing to answer for the moment: whoever waits for an answer before asking on has it by then.
 // False, with a complaint, when the input cannot be read.
 [[nodiscard]] bool answerInput(
-    Console& console, const std::function<void(const InputLine&, std::string_view)>& answer,
+    Console& console, const std::function<void(const InputLine&, Utf8View)>& answer,
     const std::function<void()>& beforeWaiting = [] {});
 
 }  // namespace odmiennik::cli

@@ -8,7 +8,7 @@
 
 namespace odmiennik::cli {
 
-ExitStatus runCommand(std::span<const std::string> arguments, Console& console) {
+ExitStatus runCommand(std::span<const Utf8Text> arguments, Console& console) {
   const ParsedOptions parsed = parseOptions(arguments);
   if (!parsed.error.empty()) {
     console.complain(parsed.error + " Pomoc: odmien --help");

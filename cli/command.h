@@ -3,13 +3,13 @@
 #pragma once
 
 #include <span>
-#include <string>
 
 #include "cli/console.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 // Answers the arguments, or standard input when they name no verb.
-[[nodiscard]] ExitStatus runCommand(std::span<const std::string> arguments, Console& console);
+[[nodiscard]] ExitStatus runCommand(std::span<const Utf8Text> arguments, Console& console);
 
 }  // namespace odmiennik::cli

@@ -29,11 +29,9 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
 }
 
 ExitStatus ConjugationRun::answerAll() {
-  std::string& out = console_.out().text();
+  Utf8Text& out = console_.out().text();
   departures_ ? Departures::begin(out) : format_->begin(out);
-  const auto answerLine = [this](const InputLine& line, std::string_view name) {
-    answer(line, name);
-  };
+  const auto answerLine = [this](const InputLine& line, Utf8View name) { answer(line, name); };
   if (!options_.infinitives.empty())
     answerArguments(options_.infinitives, answerLine);
   else if (departures_)
@@ -50,23 +48,22 @@ void ConjugationRun::answerIndex() {
   std::size_t number = 0;
   for (char letter = 'a'; letter <= 'z'; ++letter)
     for (int k = 1; k <= dictionary::verbCount(letter); ++k) {
-      const std::string verb = engine::toUtf8(dictionary::verbOfLetter(letter, k));
+      const Utf8Text verb = engine::toUtf8(dictionary::verbOfLetter(letter, k));
       answer({++number, verb, false}, "argument");
     }
 }
 
-void ConjugationRun::answer(const InputLine& line, std::string_view lineName) {
+void ConjugationRun::answer(const InputLine& line, Utf8View lineName) {
   const Question question = questionOf(line);
-  std::string& out = console_.out().text();
+  Utf8Text& out = console_.out().text();
   const Answer answered =
       departures_ ? departures_->append(out, question) : answerer_.answer(question);
   if (!departures_) format_->append(out, answered);
   console_.out().flushIfLarge();
   hasRefused_ = hasRefused_ || answered.isRefused;
   if (question.fault != QuestionFault::none)
-    console_.complain(std::string(lineName) + " " + std::to_string(line.number),
-                      faultSentence(question));
-  for (const std::string& message : answered.messages)
+    console_.complain(Utf8Text(lineName) + " " + decimal(line.number), faultSentence(question));
+  for (const Utf8Text& message : answered.messages)
     console_.complain(nameOf(question.infinitive), message);
   if (answered.isRefused) suggestSpelling(question);
 }

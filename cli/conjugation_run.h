@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <optional>
-#include <string_view>
 
 #include "cli/answerer.h"
 #include "cli/console.h"
@@ -13,6 +12,7 @@
 #include "cli/options.h"
 #include "cli/program_files.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -25,7 +25,7 @@ class ConjugationRun {
 
  private:
   void answerIndex();
-  void answer(const InputLine& line, std::string_view lineName);
+  void answer(const InputLine& line, Utf8View lineName);
   void suggestSpelling(const Question& question);
 
   const Options& options_;

@@ -9,22 +9,22 @@ namespace {
 
 // Whatever a sentence quotes, the terminal shows it and does not obey it. What cannot be said on
 // standard error cannot be said at all.
-void say(std::string_view sentence) {
+void say(Utf8View sentence) {
   static_cast<void>(write(Stream::err, dictionary::printable(sentence) + "\n"));
 }
 
 }  // namespace
 
-void Console::complain(std::string_view subject, std::string_view sentence) {
+void Console::complain(Utf8View subject, Utf8View sentence) {
   if (isOnTerminal_) out_.flush();
-  std::string line = "odmien: ";
+  Utf8Text line = "odmien: ";
   line.append(subject).append(": ").append(sentence);
   say(line);
 }
 
-void Console::complain(std::string_view sentence) {
+void Console::complain(Utf8View sentence) {
   if (isOnTerminal_) out_.flush();
-  say("odmien: " + std::string(sentence));
+  say("odmien: " + Utf8Text(sentence));
 }
 
 ExitStatus Console::finish(ExitStatus status) {

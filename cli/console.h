@@ -2,9 +2,8 @@
 // Where the command speaks: data to standard output, sentences to standard error.
 #pragma once
 
-#include <string_view>
-
 #include "cli/output.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -20,8 +19,8 @@ class Console {
 
   // Writes "odmien: subject: sentence" to standard error, quoted text of any kind in it shown as
   // escapes where a terminal would obey it; on a terminal behind the data so far.
-  void complain(std::string_view subject, std::string_view sentence);
-  void complain(std::string_view sentence);
+  void complain(Utf8View subject, Utf8View sentence);
+  void complain(Utf8View sentence);
 
   // Writes what is left. Data that could not be written is a file's trouble and is complained of,
   // but for a reader who has gone away.

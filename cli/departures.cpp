@@ -19,12 +19,12 @@ void setPhrase(std::string& phrase, const engine::Display& shown, int slot) {
   phrase.append(shown.boxes[position]);
 }
 
-void appendLine(std::string& out, std::string_view infinitive, int slot, std::string_view system,
+void appendLine(Utf8Text& out, std::string_view infinitive, int slot, std::string_view system,
                 std::string_view norm) {
   const engine::Tense& tense = engine::tenseOf(slot);
   appendPrintable(out, infinitive);
-  out.append("\t").append(std::to_string(slot));
-  for (const std::string_view field : {tense.mood, tense.name, engine::personOf(slot)})
+  out.append("\t").append(decimal(slot));
+  for (const Utf8View field : {tense.mood, tense.name, engine::personOf(slot)})
     out.append("\t").append(field);
   for (const std::string_view phrase : {system, norm}) {
     out.push_back('\t');
@@ -39,11 +39,11 @@ Departures::Departures(engine::UserVerbs& userVerbs, MessageLog& messages)
     : norm_(userVerbs, messages, {.variety = engine::Variety::norm}),
       system_(userVerbs, messages, {}) {}
 
-void Departures::begin(std::string& out) {
+void Departures::begin(Utf8Text& out) {
   out.append("infinitive\tslot\tmood\ttense\tperson\tform\tnorm\n");
 }
 
-Answer Departures::append(std::string& out, const Question& question) {
+Answer Departures::append(Utf8Text& out, const Question& question) {
   const Answer inNorm = norm_.answer(question);
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     setPhrase(phrases_[static_cast<std::size_t>(slot)], inNorm.conjugation.shown, slot);

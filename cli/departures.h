@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/answerer.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -15,11 +16,11 @@ class Departures {
   Departures(engine::UserVerbs& userVerbs, MessageLog& messages);
 
   // The header of the list.
-  static void begin(std::string& out);
+  static void begin(Utf8Text& out);
 
   // Appends a line for each form that departs (infinitive, slot, mood, tense, person, the system's
   // phrase, the norm's) and returns the system's answer: for lire "lire\t2\t…\til lir\til lit".
-  [[nodiscard]] Answer append(std::string& out, const Question& question);
+  [[nodiscard]] Answer append(Utf8Text& out, const Question& question);
 
  private:
   Answerer norm_;

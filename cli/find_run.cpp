@@ -17,9 +17,7 @@ FindRun::FindRun(const Options& options, Console& console)
 
 ExitStatus FindRun::answerAll() {
   console_.out().text().append(format_.header);
-  const auto answerLine = [this](const InputLine& line, std::string_view name) {
-    answer(line, name);
-  };
+  const auto answerLine = [this](const InputLine& line, Utf8View name) { answer(line, name); };
   const auto lookAgain = [this] {
     finder_.lookAgain();
     sayWhatTheFilesAreLike();
@@ -36,11 +34,11 @@ ExitStatus FindRun::answerAll() {
 }
 
 void FindRun::sayWhatTheFilesAreLike() {
-  for (const std::string& message : messages_.texts()) console_.complain(message);
+  for (const Utf8Text& message : messages_.texts()) console_.complain(message);
   messages_.beginAnswer();
 }
 
-void FindRun::answer(const InputLine& line, std::string_view lineName) {
+void FindRun::answer(const InputLine& line, Utf8View lineName) {
   const Question question = questionOf(line);
   readings_.clear();
   if (question.fault == QuestionFault::none) finder_.find(question.infinitive, readings_);
@@ -50,7 +48,7 @@ void FindRun::answer(const InputLine& line, std::string_view lineName) {
   const bool isFound = !readings_.empty() && readings_.front().match != finder::Match::slip;
   if (isFound || (isBlank && lineName == "wiersz")) return;
   hasRefused_ = true;
-  const std::string place = std::string(lineName) + " " + std::to_string(line.number);
+  const Utf8Text place = Utf8Text(lineName) + " " + decimal(line.number);
   if (question.fault != QuestionFault::none)
     console_.complain(place, faultSentence(question));
   else

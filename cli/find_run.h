@@ -2,8 +2,6 @@
 // One run over all forms whose verbs are asked for.
 #pragma once
 
-#include <string_view>
-
 #include "cli/console.h"
 #include "cli/line_reader.h"
 #include "cli/message_log.h"
@@ -11,6 +9,7 @@
 #include "cli/program_files.h"
 #include "cli/reading_formats.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 #include "finder/finder.h"
 
 namespace odmiennik::cli {
@@ -24,7 +23,7 @@ class FindRun {
   [[nodiscard]] ExitStatus answerAll();
 
  private:
-  void answer(const InputLine& line, std::string_view lineName);
+  void answer(const InputLine& line, Utf8View lineName);
   void sayWhatTheFilesAreLike();
 
   const Options& options_;

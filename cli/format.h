@@ -3,10 +3,10 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 #include "cli/answerer.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -15,8 +15,8 @@ class Format {
  public:
   virtual ~Format() = default;
   // What stands before the first answer.
-  virtual void begin(std::string& out) = 0;
-  virtual void append(std::string& out, const Answer& answer) = 0;
+  virtual void begin(Utf8Text& out) = 0;
+  virtual void append(Utf8Text& out, const Answer& answer) = 0;
 };
 
 // The formats, a row each: what --format calls it, and what makes it, in a file of its own in
@@ -32,7 +32,7 @@ ODMIENNIK_FORMATS(ODMIENNIK_DECLARE)
 #undef ODMIENNIK_DECLARE
 
 struct FormatRow {
-  std::string_view name;
+  Utf8View name;
   std::unique_ptr<Format> (*make)(bool isColoured);
 };
 
@@ -42,6 +42,6 @@ inline constexpr FormatRow kFormats[] = {ODMIENNIK_FORMATS(ODMIENNIK_ROW)};
 
 // Appends Windows-1252 text to a table that a person or a line-wise program reads, escaped as
 // dictionary/printable.h says: no form breaks a line or drives a terminal.
-void appendPrintable(std::string& out, std::string_view french);
+void appendPrintable(Utf8Text& out, std::string_view french);
 
 }  // namespace odmiennik::cli

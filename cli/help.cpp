@@ -7,7 +7,7 @@
 
 namespace odmiennik::cli {
 
-bool appendHelp(std::string& out, std::string_view) {
+bool appendHelp(Utf8Text& out, Utf8View) {
   out.append(
       "Użycie: odmien [OPCJE] [BEZOKOLICZNIK…]\n"
       "        odmien --find [OPCJE] [FORMA…]\n"
@@ -30,7 +30,7 @@ bool appendHelp(std::string& out, std::string_view) {
   return true;
 }
 
-bool appendVersion(std::string& out, std::string_view) {
+bool appendVersion(Utf8Text& out, Utf8View) {
   out.append("odmien " ODMIENNIK_VERSION "\n");
   return true;
 }

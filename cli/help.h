@@ -2,15 +2,14 @@
 // What the command says of itself.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 // The text of --help, Polish: every option in a line of its own.
-bool appendHelp(std::string& out, std::string_view);
+bool appendHelp(Utf8Text& out, Utf8View);
 
 // "odmien 1.0.0"
-bool appendVersion(std::string& out, std::string_view);
+bool appendVersion(Utf8Text& out, Utf8View);
 
 }  // namespace odmiennik::cli

@@ -10,7 +10,7 @@
 namespace odmiennik::cli {
 namespace {
 
-bool appendLine(std::string& out, std::string_view french) {
+bool appendLine(Utf8Text& out, std::string_view french) {
   if (french.empty()) return false;
   engine::appendUtf8(out, french);
   out.push_back('\n');
@@ -24,7 +24,7 @@ constexpr bool isUtf8Entry(int identifier) {
 
 }  // namespace
 
-bool appendVerbsOfLetter(std::string& out, std::string_view letter) {
+bool appendVerbsOfLetter(Utf8Text& out, Utf8View letter) {
   const char first = letter.front();
   const char lower = first >= 'A' && first <= 'Z' ? static_cast<char>(first - 'A' + 'a') : first;
   const int count = dictionary::verbCount(lower);
@@ -32,26 +32,26 @@ bool appendVerbsOfLetter(std::string& out, std::string_view letter) {
   return count > 0;
 }
 
-bool appendCompletion(std::string& out, std::string_view prefix) {
+bool appendCompletion(Utf8Text& out, Utf8View prefix) {
   const engine::FromUtf8 french = engine::fromUtf8(prefix);
   return french.fault == engine::Utf8Fault::none &&
          appendLine(out, dictionary::completion(french.text));
 }
 
-bool appendRecord(std::string& out, std::string_view infinitive) {
+bool appendRecord(Utf8Text& out, Utf8View infinitive) {
   const engine::FromUtf8 french = engine::fromUtf8(infinitive);
   if (french.fault != engine::Utf8Fault::none) return false;
   dictionary::GeneralVerbIndex index;
   return appendLine(out, index.record(engine::lookupKey(french.text)));
 }
 
-bool appendStrings(std::string& out, std::string_view) {
+bool appendStrings(Utf8Text& out, Utf8View) {
   for (int identifier = 1; identifier <= engine::text_id::kLast; ++identifier) {
     const std::string_view text = engine::textOf(identifier);
     if (text.empty()) continue;
-    out.append(std::to_string(identifier)).push_back('\t');
+    out.append(decimal(identifier)).push_back('\t');
     if (isUtf8Entry(identifier))
-      out.append(text);
+      out.append(asUtf8(text));
     else
       engine::appendUtf8(out, text);
     out.push_back('\n');

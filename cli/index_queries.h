@@ -2,24 +2,23 @@
 // The questions to the verb index and the string table that need no conjugation.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 // Each appends its answer, a line each in UTF-8, and returns whether there was any.
 
 // The verbs filed under a letter a to z or A to Z, in the index's order.
-bool appendVerbsOfLetter(std::string& out, std::string_view letter);
+bool appendVerbsOfLetter(Utf8Text& out, Utf8View letter);
 
 // The verb that completes `prefix` (UTF-8), compared letter for letter.
-bool appendCompletion(std::string& out, std::string_view prefix);
+bool appendCompletion(Utf8Text& out, Utf8View prefix);
 
 // The record of an infinitive (UTF-8), which is read as the entry box is: "  Se Laver" asks for
 // "laver".
-bool appendRecord(std::string& out, std::string_view infinitive);
+bool appendRecord(Utf8Text& out, Utf8View infinitive);
 
 // Every entry of the string table, raw: identifier, TAB, text, in ascending order.
-bool appendStrings(std::string& out, std::string_view);
+bool appendStrings(Utf8Text& out, Utf8View);
 
 }  // namespace odmiennik::cli

@@ -71,16 +71,16 @@ char* writeImages(char* end, std::string_view letters) {
   return end;
 }
 
-void appendImage(std::string& out, const Image& image) { out.append(image.bytes, image.length); }
+void appendImage(Utf8Text& out, const Image& image) { out.append(image.bytes, image.length); }
 
-void appendUnit(std::string& out, char32_t utf16) {
+void appendUnit(Utf8Text& out, char32_t utf16) {
   char text[8];
   const int size = std::snprintf(text, sizeof text, "\\u%04x", static_cast<unsigned>(utf16));
   out.append(text, static_cast<std::size_t>(size));
 }
 
 // The code point as JSON escapes it: beyond the first plane as its two units of UTF-16.
-void appendCodePoint(std::string& out, char32_t codePoint) {
+void appendCodePoint(Utf8Text& out, char32_t codePoint) {
   constexpr char32_t kFirstPlane = 0x10000;
   if (codePoint < kFirstPlane) return appendUnit(out, codePoint);
   appendUnit(out, 0xD800 + ((codePoint - kFirstPlane) >> 10));
@@ -89,7 +89,7 @@ void appendCodePoint(std::string& out, char32_t codePoint) {
 
 }  // namespace
 
-void appendJsonFrench(std::string& out, std::string_view french) {
+void appendJsonFrench(Utf8Text& out, std::string_view french) {
   char block[kBlock * sizeof(Image) + 2];
   char* end = block;
   *end++ = '"';
@@ -104,12 +104,11 @@ void appendJsonFrench(std::string& out, std::string_view french) {
   out.append(block, static_cast<std::size_t>(end - block));
 }
 
-void appendJsonUtf8(std::string& out, std::string_view utf8) {
+void appendJsonUtf8(Utf8Text& out, Utf8View utf8) {
   out.push_back('"');
   while (!utf8.empty()) {
     const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
-    const std::string_view bytes =
-        utf8.substr(0, static_cast<std::size_t>(std::max(letter.length, 1)));
+    const Utf8View bytes = utf8.substr(0, static_cast<std::size_t>(std::max(letter.length, 1)));
     if (letter.value < 0xA0)
       appendImage(out, imageOf(letter.value));
     else if (dictionary::actsOnTerminal(letter.value))

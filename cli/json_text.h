@@ -2,8 +2,9 @@
 // JSON strings of the two encodings that the program knows.
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -11,9 +12,9 @@ namespace odmiennik::cli {
 // reads it as the same text.
 
 // Appends `french` (Windows-1252) as a JSON string, quotes included: été"s -> "été\"s".
-void appendJsonFrench(std::string& out, std::string_view french);
+void appendJsonFrench(Utf8Text& out, std::string_view french);
 
 // Appends `utf8`, which must be well-formed, as a JSON string, quotes included.
-void appendJsonUtf8(std::string& out, std::string_view utf8);
+void appendJsonUtf8(Utf8Text& out, Utf8View utf8);
 
 }  // namespace odmiennik::cli

@@ -14,14 +14,14 @@ bool LineReader::next(InputLine& line) {
       return true;
     }
     const auto end = unread_.find('\n');
-    const std::string_view part = unread_.substr(0, end);
-    unread_.remove_prefix(end == std::string_view::npos ? unread_.size() : end + 1);
-    if (end != std::string_view::npos && !isKeeping_) {
+    const Utf8View part = unread_.substr(0, end);
+    unread_.remove_prefix(end == std::string::npos ? unread_.size() : end + 1);
+    if (end != std::string::npos && !isKeeping_) {
       line = lineOf(part, true);
       return true;
     }
     keep(part);
-    if (end == std::string_view::npos) continue;
+    if (end == std::string::npos) continue;
     line = lineOf(kept_, true);
     return true;
   }
@@ -36,7 +36,7 @@ bool LineReader::readBehind(std::size_t kept) {
 }
 
 bool LineReader::fill() {
-  constexpr std::string_view kByteOrderMark = "\uFEFF";
+  constexpr Utf8View kByteOrderMark = "\uFEFF";
   if (!isAtStart_) return readBehind(0);
   isAtStart_ = false;
   bool isOpen = true;  // asked no more once it has ended: a terminal would wait for another end
@@ -46,14 +46,14 @@ bool LineReader::fill() {
   return !unread_.empty() || (isOpen && readBehind(0));
 }
 
-void LineReader::keep(std::string_view part) {
+void LineReader::keep(Utf8View part) {
   isKeeping_ = true;
   const std::size_t room = kLongestLine - kept_.size();
   isCut_ = isCut_ || part.size() > room;
   kept_.append(part.substr(0, room));
 }
 
-InputLine LineReader::lineOf(std::string_view bytes, bool isEnded) {
+InputLine LineReader::lineOf(Utf8View bytes, bool isEnded) {
   if (isEnded && !isCut_ && bytes.ends_with('\r')) bytes.remove_suffix(1);
   return {.number = ++lineCount_, .bytes = bytes, .isCut = isCut_};
 }

@@ -7,8 +7,8 @@
 #include <functional>
 #include <optional>
 #include <span>
-#include <string>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -18,7 +18,7 @@ inline constexpr std::size_t kLongestLine = 65536;
 // A line without its end; `bytes` is valid until the next one is asked for.
 struct InputLine {
   std::size_t number = 0;  // counted from 1
-  std::string_view bytes;
+  Utf8View bytes;
   bool isCut = false;  // longer than kLongestLine
 };
 
@@ -39,13 +39,13 @@ class LineReader {
  private:
   bool fill();
   bool readBehind(std::size_t kept);
-  void keep(std::string_view part);
-  [[nodiscard]] InputLine lineOf(std::string_view bytes, bool isEnded);
+  void keep(Utf8View part);
+  [[nodiscard]] InputLine lineOf(Utf8View bytes, bool isEnded);
 
   Source source_;
   std::array<char, kLongestLine> block_{};
-  std::string_view unread_;
-  std::string kept_;  // the beginning of a line that reaches over blocks
+  Utf8View unread_;
+  Utf8Text kept_;  // the beginning of a line that reaches over blocks
   bool isAtStart_ = true;
   bool isKeeping_ = false;
   bool isCut_ = false;

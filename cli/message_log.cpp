@@ -7,7 +7,7 @@ namespace odmiennik::cli {
 using dictionary::Button;
 using dictionary::MessageId;
 
-Button MessageLog::show(MessageId id, std::string_view argument) {
+Button MessageLog::show(MessageId id, Utf8View argument) {
   const dictionary::MessageRow& message = dictionary::row(id);
   texts_.push_back(dictionary::messageText(id, argument));
   // Only trouble with files wears the critical icon.

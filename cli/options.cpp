@@ -32,14 +32,14 @@ constexpr auto kFormatNames = [] {
   return names;
 }();
 
-bool takeFormat(Options& options, std::string_view value) {
+bool takeFormat(Options& options, Utf8View value) {
   const auto row = std::ranges::find(kFormats, value, &FormatRow::name);
   if (row == std::end(kFormats)) return false;
   options.format = row;
   return true;
 }
 
-bool takeAuxiliary(Options& options, std::string_view value) {
+bool takeAuxiliary(Options& options, Utf8View value) {
   if (value == "avoir")
     options.auxiliary = engine::kAvoir;
   else if (value == "etre" || value == "être")
@@ -49,29 +49,29 @@ bool takeAuxiliary(Options& options, std::string_view value) {
   return true;
 }
 
-bool takeFolder(Options& options, std::string_view value) {
+bool takeFolder(Options& options, Utf8View value) {
   options.folder = value;
   return !value.empty();
 }
 
-bool takeEditing(Options& options, std::string_view) { return options.isEditing = true; }
+bool takeEditing(Options& options, Utf8View) { return options.isEditing = true; }
 
 template <Query Asked>
-bool ask(Options& options, std::string_view text) {
+bool ask(Options& options, Utf8View text) {
   options.query = Asked;
   options.queryText = text;
   return true;
 }
 
-bool askForLetter(Options& options, std::string_view value) {
+bool askForLetter(Options& options, Utf8View value) {
   const bool isLetter = value.size() == 1 && ((value[0] >= 'a' && value[0] <= 'z') ||
                                               (value[0] >= 'A' && value[0] <= 'Z'));
   return isLetter && ask<appendVerbsOfLetter>(options, value);
 }
 
-bool takeNorm(Options& options, std::string_view) { return options.isInNorm = true; }
-bool takeFinding(Options& options, std::string_view) { return options.isFinding = true; }
-bool takeDepartures(Options& options, std::string_view) { return options.listsDepartures = true; }
+bool takeNorm(Options& options, Utf8View) { return options.isInNorm = true; }
+bool takeFinding(Options& options, Utf8View) { return options.isFinding = true; }
+bool takeDepartures(Options& options, Utf8View) { return options.listsDepartures = true; }
 
 constexpr OptionRow kOptions[] = {
     {"--format",
@@ -93,24 +93,24 @@ constexpr OptionRow kOptions[] = {
     {"--version", "", ask<appendVersion>, "wyświetl wersję programu"},
 };
 
-const OptionRow* rowOf(std::string_view name) {
+const OptionRow* rowOf(Utf8View name) {
   for (const OptionRow& row : kOptions)
     if (row.name == name) return &row;
   return nullptr;
 }
 
-std::string quoted(std::string_view text) { return "„" + std::string(text) + "”"; }
+Utf8Text quoted(Utf8View text) { return "„" + Utf8Text(text) + "”"; }
 
 // Reads the option that `rest` begins with and takes it off; an error sentence or nothing.
-std::string takeOption(Options& options, std::span<const std::string>& rest) {
-  const std::string_view argument = rest.front();
+Utf8Text takeOption(Options& options, std::span<const Utf8Text>& rest) {
+  const Utf8View argument = rest.front();
   rest = rest.subspan(1);
   const auto equals = argument.find('=');
-  const std::string_view name = argument.substr(0, equals);
+  const Utf8View name = argument.substr(0, equals);
   const OptionRow* row = rowOf(name);
   if (row == nullptr) return "nieznana opcja " + quoted(name) + ".";
-  std::string_view value;
-  if (equals != std::string_view::npos) {
+  Utf8View value;
+  if (equals != std::string::npos) {
     if (row->valueName.empty()) return "opcja " + quoted(name) + " nie przyjmuje wartości.";
     value = argument.substr(equals + 1);
   } else if (!row->valueName.empty()) {
@@ -126,7 +126,7 @@ std::string takeOption(Options& options, std::span<const std::string>& rest) {
   return {};
 }
 
-std::string faultOfFinding(const Options& options) {
+Utf8Text faultOfFinding(const Options& options) {
   if (options.auxiliary || options.query != nullptr)
     return "opcja „--find” nie łączy się z żadną poza „--format” i „--folder”.";
   if (readingFormatNamed(options.format->name) == nullptr)
@@ -135,12 +135,12 @@ std::string faultOfFinding(const Options& options) {
 }
 
 // The options of a conjugation that cannot be had together.
-std::string faultOfChoice(const Options& options) {
-  const std::pair<bool, std::string_view> kinds[] = {{options.isEditing, "--edit"},
-                                                     {options.isInNorm, "--norm"},
-                                                     {options.listsDepartures, "--departures"},
-                                                     {options.isFinding, "--find"}};
-  std::string_view before;
+Utf8Text faultOfChoice(const Options& options) {
+  const std::pair<bool, Utf8View> kinds[] = {{options.isEditing, "--edit"},
+                                             {options.isInNorm, "--norm"},
+                                             {options.listsDepartures, "--departures"},
+                                             {options.isFinding, "--find"}};
+  Utf8View before;
   for (const auto& [isGiven, name] : kinds) {
     if (isGiven && !before.empty())
       return "opcja " + quoted(name) + " nie łączy się z " + quoted(before) + ".";
@@ -149,14 +149,14 @@ std::string faultOfChoice(const Options& options) {
   const bool isShaped = options.format != &kFormats[0] || options.auxiliary;
   if (options.listsDepartures && isShaped)
     return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
-  return options.isFinding ? faultOfFinding(options) : std::string();
+  return options.isFinding ? faultOfFinding(options) : Utf8Text();
 }
 
-bool isOption(std::string_view argument) { return argument.size() > 1 && argument[0] == '-'; }
+bool isOption(Utf8View argument) { return argument.size() > 1 && argument[0] == '-'; }
 
 }  // namespace
 
-ParsedOptions parseOptions(std::span<const std::string> arguments) {
+ParsedOptions parseOptions(std::span<const Utf8Text> arguments) {
   ParsedOptions parsed;
   Options& options = parsed.options;
   bool areOptionsOver = false;

@@ -2,16 +2,15 @@
 // Standard output: texts are gathered and written in large blocks; a failure is remembered.
 #pragma once
 
-#include <string>
-
 #include "cli/system.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 class Output {
  public:
   // Where writers append; nothing is written before a flush.
-  [[nodiscard]] std::string& text() { return text_; }
+  [[nodiscard]] Utf8Text& text() { return text_; }
 
   // Writes what was gathered once it is worth a system call.
   void flushIfLarge();
@@ -23,7 +22,7 @@ class Output {
   [[nodiscard]] WriteResult result() const { return result_; }
 
  private:
-  std::string text_;
+  Utf8Text text_;
   WriteResult result_ = WriteResult::written;
 };
 

@@ -10,7 +10,7 @@ namespace odmiennik::cli {
 namespace {
 
 // ANSI colours that stay readable on dark and on light ground.
-std::string_view codeOf(Style style) {
+Utf8View codeOf(Style style) {
   switch (style) {
     case Style::title:
       return "\x1b[1m";
@@ -32,7 +32,7 @@ std::string_view codeOf(Style style) {
 
 }  // namespace
 
-std::size_t letterCount(std::string_view utf8) {
+std::size_t letterCount(Utf8View utf8) {
   return static_cast<std::size_t>(
       std::count_if(utf8.begin(), utf8.end(), [](char byte) { return (byte & '\xC0') != '\x80'; }));
 }
@@ -43,11 +43,11 @@ void Page::addFrench(std::string_view french, Style style) {
   beginStyle(style);
   const std::size_t start = out_.size();
   appendPrintable(out_, french);
-  column_ += letterCount(std::string_view(out_).substr(start));
+  column_ += letterCount(Utf8View(out_).substr(start));
   endStyle(style);
 }
 
-void Page::addUtf8(std::string_view utf8, Style style) {
+void Page::addUtf8(Utf8View utf8, Style style) {
   if (utf8.empty()) return;
   fillUp();
   beginStyle(style);
@@ -56,7 +56,7 @@ void Page::addUtf8(std::string_view utf8, Style style) {
   column_ += letterCount(utf8);
 }
 
-void Page::addRule(std::string_view utf8Dash, std::size_t endColumn, Style style) {
+void Page::addRule(Utf8View utf8Dash, std::size_t endColumn, Style style) {
   fillUp();
   beginStyle(style);
   for (; column_ < endColumn; ++column_) out_.append(utf8Dash);

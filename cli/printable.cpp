@@ -23,7 +23,7 @@ bool acts(char letter) { return kActs[static_cast<unsigned char>(letter)]; }
 
 }  // namespace
 
-void appendPrintable(std::string& out, std::string_view french) {
+void appendPrintable(Utf8Text& out, std::string_view french) {
   if (std::ranges::none_of(french, acts))
     engine::appendUtf8(out, french);
   else

@@ -8,14 +8,14 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string prefixOf(std::optional<std::string_view> folder) {
-  return dictionary::AppFolder(folder ? std::string(dictionary::withoutTrailingSeparators(*folder))
+Utf8Text prefixOf(std::optional<Utf8View> folder) {
+  return dictionary::AppFolder(folder ? Utf8Text(dictionary::withoutTrailingSeparators(*folder))
                                       : dictionary::programFolder());
 }
 
 }  // namespace
 
-ProgramFiles findProgramFiles(std::optional<std::string_view> folder, Console& console) {
+ProgramFiles findProgramFiles(std::optional<Utf8View> folder, Console& console) {
   ProgramFiles files{.prefix = prefixOf(folder)};
   dictionary::Settings settings;
   const dictionary::SettingsRead read = readSettingsFile(files.prefix, settings);

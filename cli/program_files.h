@@ -4,22 +4,20 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "cli/console.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
 struct ProgramFiles {
-  std::string prefix;  // before every bare file name, UTF-8
+  Utf8Text prefix;  // before every bare file name
   std::int32_t userVerbCount = 0;
   bool hasTrouble = false;
 };
 
 // Looks into `folder`, or into the program's own. A damaged settings file gives what could be read
 // and is complained of.
-[[nodiscard]] ProgramFiles findProgramFiles(std::optional<std::string_view> folder,
-                                            Console& console);
+[[nodiscard]] ProgramFiles findProgramFiles(std::optional<Utf8View> folder, Console& console);
 
 }  // namespace odmiennik::cli

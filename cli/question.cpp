@@ -11,9 +11,9 @@
 namespace odmiennik::cli {
 namespace {
 
-constexpr std::string_view kReplacement = "\uFFFD";
+constexpr Utf8View kReplacement = "\uFFFD";
 
-std::string numbered(const char* format, unsigned number) {
+Utf8Text numbered(const char* format, unsigned number) {
   char text[16];
   const int size = std::snprintf(text, sizeof text, format, number);
   return {text, static_cast<std::size_t>(size)};
@@ -22,18 +22,18 @@ std::string numbered(const char* format, unsigned number) {
 // Accents that would sit on the quotation mark in front of them.
 constexpr bool isCombining(char32_t codePoint) { return codePoint >= 0x300 && codePoint < 0x370; }
 
-std::string faultTextAt(std::string_view bytes, engine::Utf8Fault fault) {
+Utf8Text faultTextAt(Utf8View bytes, engine::Utf8Fault fault) {
   if (fault == engine::Utf8Fault::notUtf8)
     return numbered("0x%02X", static_cast<unsigned char>(bytes[0]));
   const engine::DecodedCodePoint letter = engine::decodeUtf8(bytes);
   const auto size = static_cast<std::size_t>(letter.length);
-  const std::string number = numbered("U+%04X", letter.value);
+  const Utf8Text number = numbered("U+%04X", letter.value);
   if (dictionary::actsOnTerminal(letter.value) || isCombining(letter.value)) return number;
-  return "„" + std::string(bytes.substr(0, size)) + "” (" + number + ")";
+  return "„" + Utf8Text(bytes.substr(0, size)) + "” (" + number + ")";
 }
 
 // Turns the line's bytes into Windows-1252 or fills the fault.
-std::string convert(std::string_view bytes, Question& question) {
+std::string convert(Utf8View bytes, Question& question) {
   engine::FromUtf8 converted = engine::fromUtf8(bytes);
   if (converted.fault == engine::Utf8Fault::none) return std::move(converted.text);
   question.fault = converted.fault == engine::Utf8Fault::notUtf8 ? QuestionFault::notUtf8
@@ -44,7 +44,7 @@ std::string convert(std::string_view bytes, Question& question) {
 }
 
 // Bytes at the end of a cut line that may be the beginning of a letter.
-std::string_view withoutCutLetter(std::string_view bytes) {
+Utf8View withoutCutLetter(Utf8View bytes) {
   for (std::size_t tail = 1; tail <= 3 && tail <= bytes.size(); ++tail) {
     const auto byte = static_cast<unsigned char>(bytes[bytes.size() - tail]);
     if (byte < 0x80) return bytes;
@@ -57,8 +57,8 @@ std::string_view withoutCutLetter(std::string_view bytes) {
 
 }  // namespace
 
-std::string cleanUtf8(std::string_view bytes) {
-  std::string clean;
+Utf8Text cleanUtf8(Utf8View bytes) {
+  Utf8Text clean;
   while (!bytes.empty()) {
     const auto size = static_cast<std::size_t>(engine::decodeUtf8(bytes).length);
     clean.append(size == 0 ? kReplacement : bytes.substr(0, size));
@@ -70,7 +70,7 @@ std::string cleanUtf8(std::string_view bytes) {
 Question questionOf(const InputLine& line) {
   Question question;
   const auto tab = line.bytes.find('\t');
-  const std::string_view typed = line.bytes.substr(0, tab);
+  const Utf8View typed = line.bytes.substr(0, tab);
   question.typed = cleanUtf8(line.isCut ? withoutCutLetter(typed) : typed);
   if (line.isCut) {
     question.fault = QuestionFault::tooLong;
@@ -86,15 +86,15 @@ Question questionOf(const InputLine& line) {
   return question;
 }
 
-std::string nameOf(std::string_view infinitive) {
+Utf8Text nameOf(std::string_view infinitive) {
   constexpr std::size_t kLongestName = 60;
-  std::string name = "„";
+  Utf8Text name = "„";
   appendPrintable(name, infinitive.substr(0, kLongestName));
   return name + (infinitive.size() > kLongestName ? "…”" : "”");
 }
 
-std::string faultSentence(const Question& question) {
-  const std::string position = std::to_string(question.faultPosition + 1);
+Utf8Text faultSentence(const Question& question) {
+  const Utf8Text position = decimal(question.faultPosition + 1);
   switch (question.fault) {
     case QuestionFault::notUtf8:
       return "bajt " + question.faultText + " na pozycji " + position +
@@ -102,7 +102,7 @@ std::string faultSentence(const Question& question) {
     case QuestionFault::letterOutside:
       return "znaku " + question.faultText + " nie ma w zestawie Windows-1252.";
     case QuestionFault::tooLong:
-      return "tekst jest dłuższy niż " + std::to_string(kLongestLine) + " bajtów.";
+      return "tekst jest dłuższy niż " + decimal(kLongestLine) + " bajtów.";
     case QuestionFault::none:
       break;
   }

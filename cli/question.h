@@ -4,9 +4,9 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "cli/line_reader.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -14,13 +14,13 @@ namespace odmiennik::cli {
 enum class QuestionFault { none, notUtf8, letterOutside, tooLong };
 
 struct Question {
-  std::string typed;                  // what was typed, UTF-8; bytes that are none as U+FFFD
+  Utf8Text typed;                     // what was typed; bytes that are none as U+FFFD
   std::string infinitive;             // Windows-1252
   std::optional<std::string> record;  // replaces the index's answer, Windows-1252
   QuestionFault fault = QuestionFault::none;
   std::size_t faultPosition = 0;  // the first bad byte, counted from 0 in the line
-  std::string faultText;  // the bad byte as "0xFF", the letter as "„ą” (U+0105)", what cannot be
-                          // shown as "U+202E"
+  Utf8Text faultText;  // the bad byte as "0xFF", the letter as "„ą” (U+0105)", what cannot be
+                       // shown as "U+202E"
 };
 
 // Reads "INFINITIVE" or "INFINITIVE<TAB>RECORD"; the first TAB counts, and nothing behind it is the
@@ -29,13 +29,13 @@ struct Question {
 [[nodiscard]] Question questionOf(const InputLine& line);
 
 // The Polish sentence that says why: "bajt 0xFF na pozycji 3 nie należy do tekstu UTF-8".
-[[nodiscard]] std::string faultSentence(const Question& question);
+[[nodiscard]] Utf8Text faultSentence(const Question& question);
 
 // What was asked as a message names it, „aller”: a line of ten thousand letters would hide the
 // message.
-[[nodiscard]] std::string nameOf(std::string_view infinitive);
+[[nodiscard]] Utf8Text nameOf(std::string_view infinitive);
 
 // `bytes` with U+FFFD for every byte that belongs to no UTF-8 sequence: "a\xFF" -> "a�".
-[[nodiscard]] std::string cleanUtf8(std::string_view bytes);
+[[nodiscard]] Utf8Text cleanUtf8(Utf8View bytes);
 
 }  // namespace odmiennik::cli

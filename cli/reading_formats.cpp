@@ -18,21 +18,20 @@ using finder::Reading;
 using finder::Readings;
 
 // "both", "system", "norm": who has the form so.
-std::string_view varietyOf(const Reading& reading) {
+Utf8View varietyOf(const Reading& reading) {
   if (reading.isInSystem && reading.isInNorm) return "both";
   return reading.isInSystem ? "system" : "norm";
 }
 
-std::string_view nameOf(Match match) {
-  constexpr std::string_view kNames[] = {"exact", "accents", "slip"};
+Utf8View nameOf(Match match) {
+  constexpr Utf8View kNames[] = {"exact", "accents", "slip"};
   return kNames[static_cast<std::size_t>(match)];
 }
 
 // How the participle agrees: "m", "f", "mp", "fp"; nothing of a form without one.
-std::string_view agreementOf(const Reading& reading) {
-  constexpr std::string_view kNames[] = {"m", "f", "mp", "fp"};
-  return reading.hasParticiple ? kNames[static_cast<std::size_t>(reading.agreed)]
-                               : std::string_view{};
+Utf8View agreementOf(const Reading& reading) {
+  constexpr Utf8View kNames[] = {"m", "f", "mp", "fp"};
+  return reading.hasParticiple ? kNames[static_cast<std::size_t>(reading.agreed)] : Utf8View{};
 }
 
 // The columns of the table.
@@ -42,7 +41,7 @@ void beginColumn(Page& page, std::size_t column) {
   page.moveTo(std::max(column, page.column() + kGap));
 }
 
-void appendText(std::string& out, std::string_view typed, const Readings& readings) {
+void appendText(Utf8Text& out, Utf8View typed, const Readings& readings) {
   if (readings.empty()) return;
   Page page(out, false);
   page.addUtf8(dictionary::printable(typed));
@@ -65,7 +64,7 @@ void appendText(std::string& out, std::string_view typed, const Readings& readin
   }
 }
 
-void appendTsv(std::string& out, std::string_view typed, const Readings& readings) {
+void appendTsv(Utf8Text& out, Utf8View typed, const Readings& readings) {
   for (const Reading& reading : readings) {
     const engine::Tense& tense = engine::tenseOf(reading.slot);
     dictionary::appendPrintable(out, typed);
@@ -73,20 +72,17 @@ void appendTsv(std::string& out, std::string_view typed, const Readings& reading
     appendPrintable(out, finder::phraseOf(reading));
     out.push_back('\t');
     appendPrintable(out, finder::infinitiveOf(reading));
-    out.append("\t").append(std::to_string(reading.slot));
-    for (const std::string_view field :
-         {tense.mood, tense.name, engine::personOf(reading.slot), agreementOf(reading),
-          varietyOf(reading), nameOf(reading.match)})
+    out.append("\t").append(decimal(reading.slot));
+    for (const Utf8View field : {tense.mood, tense.name, engine::personOf(reading.slot),
+                                 agreementOf(reading), varietyOf(reading), nameOf(reading.match)})
       out.append("\t").append(field);
     out.push_back('\n');
   }
 }
 
-void appendKey(std::string& out, std::string_view key) {
-  out.append(",\"").append(key).append("\":");
-}
+void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
 
-void appendReading(std::string& out, const Reading& reading) {
+void appendReading(Utf8Text& out, const Reading& reading) {
   const engine::Tense& tense = engine::tenseOf(reading.slot);
   out.append("{\"phrase\":");
   appendJsonFrench(out, finder::phraseOf(reading));
@@ -95,14 +91,13 @@ void appendReading(std::string& out, const Reading& reading) {
   appendKey(out, "infinitive");
   appendJsonFrench(out, finder::infinitiveOf(reading));
   appendKey(out, "slot");
-  out.append(std::to_string(reading.slot));
-  const std::pair<std::string_view, std::string_view> texts[] = {
-      {"mood", tense.mood},
-      {"tense", tense.name},
-      {"person", engine::personOf(reading.slot)},
-      {"agreement", agreementOf(reading)},
-      {"variety", varietyOf(reading)},
-      {"match", nameOf(reading.match)}};
+  out.append(decimal(reading.slot));
+  const std::pair<Utf8View, Utf8View> texts[] = {{"mood", tense.mood},
+                                                 {"tense", tense.name},
+                                                 {"person", engine::personOf(reading.slot)},
+                                                 {"agreement", agreementOf(reading)},
+                                                 {"variety", varietyOf(reading)},
+                                                 {"match", nameOf(reading.match)}};
   for (const auto& [key, text] : texts) {
     appendKey(out, key);
     appendJsonUtf8(out, text);
@@ -112,7 +107,7 @@ void appendReading(std::string& out, const Reading& reading) {
 }
 
 // One object a question, in their order.
-void appendJson(std::string& out, std::string_view typed, const Readings& readings) {
+void appendJson(Utf8Text& out, Utf8View typed, const Readings& readings) {
   out.append("{\"typed\":");
   appendJsonUtf8(out, typed);
   out.append(",\"readings\":[");
@@ -131,7 +126,7 @@ constexpr ReadingFormat kReadingFormats[] = {
 
 }  // namespace
 
-const ReadingFormat* readingFormatNamed(std::string_view name) {
+const ReadingFormat* readingFormatNamed(Utf8View name) {
   const auto* format = std::ranges::find(kReadingFormats, name, &ReadingFormat::name);
   return format == std::end(kReadingFormats) ? nullptr : format;
 }

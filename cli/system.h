@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <string>
-#include <string_view>
 #include <vector>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::cli {
 
@@ -21,17 +21,17 @@ enum class WriteResult { written, closed, failed };
 void prepareStreams();
 
 // The arguments in UTF-8, without the program's name.
-[[nodiscard]] std::vector<std::string> arguments(int count, char** values);
+[[nodiscard]] std::vector<Utf8Text> arguments(int count, char** values);
 
 // Waits for input and returns how many bytes it read: 0 at the end, nothing when it cannot be read.
 [[nodiscard]] std::optional<std::size_t> readInput(std::span<char> buffer);
 
 // Writes all of `bytes`.
-[[nodiscard]] WriteResult write(Stream stream, std::string_view bytes);
+[[nodiscard]] WriteResult write(Stream stream, Utf8View bytes);
 
 [[nodiscard]] bool isTerminal(Stream stream);
 
 // An environment variable in UTF-8; the empty text when it is not set.
-[[nodiscard]] std::string environment(const char* name);
+[[nodiscard]] Utf8Text environment(const char* name);
 
 }  // namespace odmiennik::cli

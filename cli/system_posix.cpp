@@ -12,7 +12,7 @@ namespace odmiennik::cli {
 
 void prepareStreams() { std::signal(SIGPIPE, SIG_IGN); }
 
-std::vector<std::string> arguments(int count, char** values) {
+std::vector<Utf8Text> arguments(int count, char** values) {
   if (count < 2) return {};
   return {values + 1, values + count};
 }
@@ -25,7 +25,7 @@ std::optional<std::size_t> readInput(std::span<char> buffer) {
   }
 }
 
-WriteResult write(Stream stream, std::string_view bytes) {
+WriteResult write(Stream stream, Utf8View bytes) {
   while (!bytes.empty()) {
     const ssize_t size = ::write(static_cast<int>(stream), bytes.data(), bytes.size());
     if (size >= 0)
@@ -38,9 +38,9 @@ WriteResult write(Stream stream, std::string_view bytes) {
 
 bool isTerminal(Stream stream) { return ::isatty(static_cast<int>(stream)) == 1; }
 
-std::string environment(const char* name) {
+Utf8Text environment(const char* name) {
   const char* value = std::getenv(name);
-  return value == nullptr ? std::string() : std::string(value);
+  return value == nullptr ? Utf8Text() : Utf8Text(value);
 }
 
 }  // namespace odmiennik::cli

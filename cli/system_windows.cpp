@@ -15,10 +15,10 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string fromWide(const wchar_t* text) {
+Utf8Text fromWide(const wchar_t* text) {
   const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
   if (size <= 1) return {};
-  std::string utf8(static_cast<std::size_t>(size), '\0');
+  Utf8Text utf8(static_cast<std::size_t>(size), '\0');
   WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
   utf8.pop_back();
   return utf8;
@@ -38,11 +38,11 @@ void prepareStreams() {
     SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
-std::vector<std::string> arguments(int, char**) {
+std::vector<Utf8Text> arguments(int, char**) {
   int count = 0;
   wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);
   if (values == nullptr) return {};
-  std::vector<std::string> texts;
+  std::vector<Utf8Text> texts;
   for (int i = 1; i < count; ++i) texts.push_back(fromWide(values[i]));
   LocalFree(values);
   return texts;
@@ -55,7 +55,7 @@ std::optional<std::size_t> readInput(std::span<char> buffer) {
   return static_cast<std::size_t>(size);
 }
 
-WriteResult write(Stream stream, std::string_view bytes) {
+WriteResult write(Stream stream, Utf8View bytes) {
   // A console refuses large blocks.
   constexpr std::size_t kBlock = 16384;
   while (!bytes.empty()) {
@@ -69,10 +69,10 @@ WriteResult write(Stream stream, std::string_view bytes) {
 
 bool isTerminal(Stream stream) { return _isatty(static_cast<int>(stream)) != 0; }
 
-std::string environment(const char* name) {
+Utf8Text environment(const char* name) {
   const std::wstring wideName(name, name + std::char_traits<char>::length(name));
   const wchar_t* value = _wgetenv(wideName.c_str());
-  return value == nullptr ? std::string() : fromWide(value);
+  return value == nullptr ? Utf8Text() : fromWide(value);
 }
 
 }  // namespace odmiennik::cli

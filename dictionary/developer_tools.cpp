@@ -73,7 +73,7 @@ bool appendLines(FileSystem& files, const fs::path& source, FileReplacement& joi
 
 }  // namespace
 
-fs::path resourceScriptPath([[maybe_unused]] const std::string& prefix) {
+fs::path resourceScriptPath([[maybe_unused]] Utf8View prefix) {
 #ifdef _WIN32
   return pathOf("D:\\PROGRAMY\\PROGRAMOWANIE\\RC\\Czasowniki\\odmiana.rc");
 #else
@@ -81,7 +81,7 @@ fs::path resourceScriptPath([[maybe_unused]] const std::string& prefix) {
 #endif
 }
 
-bool buildResourceScript(const std::string& prefix, std::int32_t count, const fs::path& script,
+bool buildResourceScript(Utf8View prefix, std::int32_t count, const fs::path& script,
                          FileSystem& files) {
   const auto verbs = existingFile(prefix, "czasowniki.dat", files);
   if (!verbs) return false;
@@ -92,13 +92,14 @@ bool buildResourceScript(const std::string& prefix, std::int32_t count, const fs
          entries.swapIn();
 }
 
-bool joinTextFiles(const std::string& prefix, FileSystem& files) {
+bool joinTextFiles(Utf8View prefix, FileSystem& files) {
   constexpr int kFirstText = 196, kLastText = 252;
-  const std::string texts = prefix + "teksty" + static_cast<char>(fs::path::preferred_separator);
+  const Utf8Text texts =
+      Utf8Text(prefix) + "teksty" + static_cast<char>(fs::path::preferred_separator);
   FileReplacement joined(files, fileToReplace(files, findFile(texts, "Połącz.txt", files)));
   // deliberate: even numbers only
   for (int number = kFirstText; number <= kLastText; number += 2)
-    if (const auto source = existingFile(texts, std::to_string(number) + ".txt", files))
+    if (const auto source = existingFile(texts, decimal(number) + ".txt", files))
       if (!appendLines(files, *source, joined)) return false;
   return joined.finish() && joined.swapIn();
 }

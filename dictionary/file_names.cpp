@@ -5,6 +5,7 @@
 #include <algorithm>
 
 namespace odmiennik::dictionary {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -31,36 +32,32 @@ FoundFile anySpellingOf(const fs::path& wanted, FileSystem& files) {
 
 }  // namespace
 
-fs::path pathOf(std::string_view utf8) {
-  return {std::u8string(reinterpret_cast<const char8_t*>(utf8.data()), utf8.size())};
-}
+fs::path pathOf(Utf8View name) { return {std::u8string(name.begin(), name.end())}; }
 
 fs::path folderOf(const fs::path& file) {
   const fs::path folder = file.parent_path();
   return folder.empty() ? fs::path(".") : folder;
 }
 
-FoundFile findFile(const std::string& prefix, std::string_view name, FileSystem& files) {
-  const fs::path spelled = pathOf(prefix + std::string(name));
+FoundFile findFile(Utf8View prefix, Utf8View name, FileSystem& files) {
+  const fs::path spelled = pathOf(Utf8Text(prefix).append(name));
   const Presence presence = files.presence(spelled);
   if (presence != Presence::notThere) return {presence, spelled};
   return anySpellingOf(spelled, files);
 }
 
-std::optional<fs::path> existingFile(const std::string& prefix, std::string_view name,
-                                     FileSystem& files) {
+std::optional<fs::path> existingFile(Utf8View prefix, Utf8View name, FileSystem& files) {
   const FoundFile found = findFile(prefix, name, files);
   return found.presence == Presence::there ? std::optional(found.path) : std::nullopt;
 }
 
-std::optional<fs::path> freeName(const std::string& prefix, std::string_view name,
-                                 FileSystem& files) {
-  std::string candidate(name);
+std::optional<fs::path> freeName(Utf8View prefix, Utf8View name, FileSystem& files) {
+  Utf8Text candidate(name);
   for (int number = 2;; ++number) {
     const FoundFile found = findFile(prefix, candidate, files);
     if (found.presence == Presence::unknown) return std::nullopt;
-    if (found.presence == Presence::notThere) return pathOf(prefix + candidate);
-    candidate = std::string(name) + std::to_string(number);
+    if (found.presence == Presence::notThere) return pathOf(Utf8Text(prefix).append(candidate));
+    candidate = Utf8Text(name) + decimal(number);
   }
 }
 

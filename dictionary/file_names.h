@@ -4,15 +4,14 @@
 
 #include <filesystem>
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "dictionary/file_system.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
-// The path of a name in UTF-8, whatever the system's own encoding: pathOf("Połącz.txt").
-[[nodiscard]] std::filesystem::path pathOf(std::string_view utf8);
+// The path of a name, whatever the system's own encoding: pathOf("Połącz.txt").
+[[nodiscard]] std::filesystem::path pathOf(Utf8View name);
 
 // A name that has been looked for.
 struct FoundFile {
@@ -23,19 +22,16 @@ struct FoundFile {
 // What stands under `prefix` + `name`, read without regard to the case of the letters a to z:
 // findFile("/home/ala/", "Czasowniki.dat").path -> "/home/ala/CZASOWNIKI.DAT". The exact spelling
 // goes first. Unknown when the disk does not answer: then nothing may be made of it.
-[[nodiscard]] FoundFile findFile(const std::string& prefix, std::string_view name,
-                                 FileSystem& files = systemFiles());
+[[nodiscard]] FoundFile findFile(Utf8View prefix, Utf8View name, FileSystem& files = systemFiles());
 
 // The path of a file that is there. Only for readers that do without: whoever writes asks findFile,
 // which tells a missing file from a disk that does not answer.
-[[nodiscard]] std::optional<std::filesystem::path> existingFile(const std::string& prefix,
-                                                                std::string_view name,
+[[nodiscard]] std::optional<std::filesystem::path> existingFile(Utf8View prefix, Utf8View name,
                                                                 FileSystem& files = systemFiles());
 
 // The first name that is free of `name`, `name`2, `name`3 …: freeName("", "Czasowniki.bak") ->
 // "Czasowniki.bak2" beside an older copy. Nothing when that cannot be told.
-[[nodiscard]] std::optional<std::filesystem::path> freeName(const std::string& prefix,
-                                                            std::string_view name,
+[[nodiscard]] std::optional<std::filesystem::path> freeName(Utf8View prefix, Utf8View name,
                                                             FileSystem& files = systemFiles());
 
 // The folder of a file, "." for a bare name.

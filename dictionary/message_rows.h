@@ -3,7 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
@@ -27,8 +28,8 @@ struct MessageRow {
   Icon icon;
   Button buttons;
   Button defaultButton;
-  std::string_view title;
-  std::string_view text;
+  Utf8View title;
+  Utf8View text;
 };
 
 }  // namespace odmiennik::dictionary

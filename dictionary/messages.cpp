@@ -4,10 +4,10 @@
 
 namespace odmiennik::dictionary {
 
-std::string messageText(MessageId id, std::string_view argument) {
-  constexpr std::string_view kPlace = "{1}";
-  std::string text(row(id).text);
-  if (const auto at = text.find(kPlace); at != std::string::npos)
+Utf8Text messageText(MessageId id, Utf8View argument) {
+  constexpr Utf8View kPlace = "{1}";
+  Utf8Text text(row(id).text);
+  if (const auto at = text.find(kPlace); at != Utf8Text::npos)
     text.replace(at, kPlace.size(), argument);
   return text;
 }

@@ -8,15 +8,16 @@
 #include "engine/windows1252.h"
 
 namespace odmiennik::dictionary {
+
 namespace {
 
-void appendNumber(std::string& out, const char* format, char32_t number) {
+void appendNumber(Utf8Text& out, const char* format, char32_t number) {
   char text[16];
   const int size = std::snprintf(text, sizeof text, format, static_cast<unsigned>(number));
   out.append(text, static_cast<std::size_t>(size));
 }
 
-void appendEscape(std::string& out, char32_t codePoint) {
+void appendEscape(Utf8Text& out, char32_t codePoint) {
   if (codePoint < 0x80)
     appendNumber(out, "\\x%02X", codePoint);
   else
@@ -25,7 +26,7 @@ void appendEscape(std::string& out, char32_t codePoint) {
 
 }  // namespace
 
-void appendPrintable(std::string& out, std::string_view utf8) {
+void appendPrintable(Utf8Text& out, Utf8View utf8) {
   while (!utf8.empty()) {
     const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
     const auto size = static_cast<std::size_t>(std::max(letter.length, 1));
@@ -39,8 +40,8 @@ void appendPrintable(std::string& out, std::string_view utf8) {
   }
 }
 
-std::string printable(std::string_view utf8) {
-  std::string text;
+Utf8Text printable(Utf8View utf8) {
+  Utf8Text text;
   appendPrintable(text, utf8);
   return text;
 }

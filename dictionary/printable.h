@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
@@ -41,9 +41,9 @@ inline constexpr CodePointRange kActingOnTerminal[] = {
 // Appends text of any origin for people to read: what acts on a terminal, and each byte that is no
 // UTF-8, as an escape: "a<ESC>[31m" -> "a\x1B[31m", U+0085 -> "\u0085", U+202E -> "\u202E". All
 // else stays as it is, a backslash too.
-void appendPrintable(std::string& out, std::string_view utf8);
+void appendPrintable(Utf8Text& out, Utf8View utf8);
 
 // The text alone.
-[[nodiscard]] std::string printable(std::string_view utf8);
+[[nodiscard]] Utf8Text printable(Utf8View utf8);
 
 }  // namespace odmiennik::dictionary

@@ -19,6 +19,7 @@
 #include <system_error>
 
 namespace odmiennik::dictionary {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -33,7 +34,7 @@ bool isInstalled(const fs::path& folder) {
 // a network folder that is silent for a moment must not make the verbs in it seem lost.
 bool refusesFiles(const fs::path& folder);
 
-std::string utf8Of(const fs::path& path) {
+Utf8Text utf8Of(const fs::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};
 }
@@ -46,14 +47,14 @@ fs::path programFolder(const fs::path& executable, const fs::path& userData) {
   return isForReading && !userData.empty() ? userData : folder;
 }
 
-std::string programFolder() {
+Utf8Text programFolder() {
   const fs::path folder = programFolder(executablePath(), userDataFolder());
-  return folder.empty() ? "." : utf8Of(folder);
+  return folder.empty() ? Utf8Text(".") : utf8Of(folder);
 }
 
-std::string_view withoutTrailingSeparators(std::string_view folder) {
+Utf8View withoutTrailingSeparators(Utf8View folder) {
   const auto last = folder.find_last_not_of("/\\ ");
-  return folder.substr(0, last == std::string_view::npos ? 0 : last + 1);
+  return folder.substr(0, last == Utf8View::npos ? 0 : last + 1);
 }
 
 #if defined(_WIN32)
@@ -122,12 +123,12 @@ fs::path userDataFolder() {
 
 #endif
 
-std::string AppFolder(std::string_view folder) {
-  const std::string_view bare = engine::trimmed(folder);
+Utf8Text AppFolder(Utf8View folder) {
+  const std::string_view bare = engine::trimmed(bytesOf(folder));
   if (bare.ends_with('/') || bare.ends_with('\\')) return {};
   // Leading blanks belong to the name; only the trailing ones go.
-  const std::string_view kept = folder.substr(0, folder.find_last_not_of(' ') + 1);
-  return std::string(kept) + static_cast<char>(std::filesystem::path::preferred_separator);
+  const Utf8View kept = folder.substr(0, folder.find_last_not_of(' ') + 1);
+  return Utf8Text(kept) + static_cast<char>(std::filesystem::path::preferred_separator);
 }
 
 }  // namespace odmiennik::dictionary

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
@@ -15,9 +15,9 @@ namespace odmiennik::dictionary {
 [[nodiscard]] std::filesystem::path programFolder(const std::filesystem::path& executable,
                                                   const std::filesystem::path& userData);
 
-// The program folder of the running program, UTF-8; the current folder when the system does not
+// The program folder of the running program; the current folder when the system does not
 // tell where its executable is.
-[[nodiscard]] std::string programFolder();
+[[nodiscard]] Utf8Text programFolder();
 
 // The running executable; empty when the system does not tell.
 [[nodiscard]] std::filesystem::path executablePath();
@@ -28,12 +28,12 @@ namespace odmiennik::dictionary {
 
 // A folder as the user named it, without separators and blanks at its end, so that AppFolder does
 // not take it for a drive's root: "/home/ala//" -> "/home/ala", "/" -> "".
-[[nodiscard]] std::string_view withoutTrailingSeparators(std::string_view folder);
+[[nodiscard]] Utf8View withoutTrailingSeparators(Utf8View folder);
 
 // The folder without trailing blanks and with a separator of the system's own behind it:
 // AppFolder("/home/ala ") -> "/home/ala/".
 // deliberate: a folder that already ends in "/" or "\" gives the empty text, so that a program in a
 // drive's root names its files relative to the current folder.
-[[nodiscard]] std::string AppFolder(std::string_view folder);
+[[nodiscard]] Utf8Text AppFolder(Utf8View folder);
 
 }  // namespace odmiennik::dictionary

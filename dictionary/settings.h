@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "dictionary/file_system.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
@@ -36,15 +37,15 @@ struct Settings {
 enum class SettingsRead : std::uint8_t { read, missing, damaged, unreadable };
 
 // Reads `prefix` + "Werbolin.cfg"; a damaged file fills what it can.
-[[nodiscard]] SettingsRead readSettingsFile(const std::string& prefix, Settings& settings,
+[[nodiscard]] SettingsRead readSettingsFile(Utf8View prefix, Settings& settings,
                                             FileSystem& files = systemFiles());
 
 // Replaces `prefix` + "Werbolin.cfg"; false leaves the file as it was. Where there was none, one
 // that has come meanwhile stays.
-[[nodiscard]] bool writeSettingsFile(const std::string& prefix, const Settings& settings,
+[[nodiscard]] bool writeSettingsFile(Utf8View prefix, const Settings& settings,
                                      FileSystem& files = systemFiles());
 
 // Removes what a write that was ended half-way left beside the file; for the program's start.
-void removeUnfinishedSettings(const std::string& prefix, FileSystem& files = systemFiles());
+void removeUnfinishedSettings(Utf8View prefix, FileSystem& files = systemFiles());
 
 }  // namespace odmiennik::dictionary

@@ -9,7 +9,7 @@
 namespace odmiennik::dictionary {
 namespace {
 
-constexpr std::string_view kSettingsFile = "Werbolin.cfg";
+constexpr Utf8View kSettingsFile = "Werbolin.cfg";
 // Far more than five numbers take; a longer file is not read to its end.
 constexpr std::size_t kLongestText = 4096;
 
@@ -30,7 +30,7 @@ std::optional<std::string> readText(InputFile& file) {
 
 }  // namespace
 
-SettingsRead readSettingsFile(const std::string& prefix, Settings& settings, FileSystem& files) {
+SettingsRead readSettingsFile(Utf8View prefix, Settings& settings, FileSystem& files) {
   const FoundFile found = findFile(prefix, kSettingsFile, files);
   if (found.presence == Presence::notThere) return SettingsRead::missing;
   const auto file = found.presence == Presence::there ? files.open(found.path) : nullptr;
@@ -39,13 +39,13 @@ SettingsRead readSettingsFile(const std::string& prefix, Settings& settings, Fil
   return parseSettings(*text, settings) ? SettingsRead::read : SettingsRead::damaged;
 }
 
-bool writeSettingsFile(const std::string& prefix, const Settings& settings, FileSystem& files) {
+bool writeSettingsFile(Utf8View prefix, const Settings& settings, FileSystem& files) {
   const FoundFile file = findFile(prefix, kSettingsFile, files);
   removeUnfinished(files, file);
   return replaceFile(files, file, settingsText(settings));
 }
 
-void removeUnfinishedSettings(const std::string& prefix, FileSystem& files) {
+void removeUnfinishedSettings(Utf8View prefix, FileSystem& files) {
   removeUnfinished(files, findFile(prefix, kSettingsFile, files));
 }
 

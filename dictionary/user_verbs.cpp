@@ -15,9 +15,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kVerbs = "Czasowniki.dat";
-constexpr std::string_view kPreviousVerbs = "Czas.dat";
-constexpr std::string_view kBackup = "Czasowniki.bak";
+constexpr Utf8View kVerbs = "Czasowniki.dat";
+constexpr Utf8View kPreviousVerbs = "Czas.dat";
+constexpr Utf8View kBackup = "Czasowniki.bak";
 
 // A save replaces "Aimer" by "aimer", but not "se laver" by "laver".
 auto isOfVerb(std::string_view infinitive) {
@@ -38,10 +38,10 @@ auto isKeptAs(std::string_view infinitive) {
 
 }  // namespace
 
-UserVerbsFile::UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxes& messages,
+UserVerbsFile::UserVerbsFile(Utf8Text prefix, std::int32_t count, MessageBoxes& messages,
                              FileSystem& files)
     : prefix_(std::move(prefix)),
-      newFile_(pathOf(prefix_ + std::string(kVerbs))),
+      newFile_(pathOf(prefix_ + Utf8Text(kVerbs))),
       count_(count),
       messages_(messages),
       files_(files) {}
@@ -277,7 +277,7 @@ CopyResult UserVerbsFile::rewriteWithout(std::string_view infinitive, const Repl
   copied.isComplete = rewrite.content().finish();
   if (!copied.isComplete) return copied;
   removePrevious();
-  keepAndSwap(rewrite.content(), target, pathOf(prefix_ + std::string(kPreviousVerbs)), copied);
+  keepAndSwap(rewrite.content(), target, pathOf(prefix_ + Utf8Text(kPreviousVerbs)), copied);
   return copied;
 }
 
@@ -323,7 +323,7 @@ void UserVerbsFile::putBackPrevious() {
 void UserVerbsFile::showDamage(std::int64_t record) {
   if (isDamageShown_) return;
   isDamageShown_ = true;
-  messages_.show(MessageId::userVerbsDamaged, std::to_string(record));
+  messages_.show(MessageId::userVerbsDamaged, decimal(record));
 }
 
 void UserVerbsFile::showUnreadable() {

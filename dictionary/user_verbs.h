@@ -15,6 +15,7 @@
 #include "dictionary/user_record.h"
 #include "dictionary/user_verb_places.h"
 #include "engine/ports.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
 
@@ -36,7 +37,7 @@ enum class DeleteResult : std::uint8_t { deleted, notFound, failed };
 class UserVerbsFile final : public engine::UserVerbs {
  public:
   // `prefix` is put before every bare file name (see AppFolder).
-  UserVerbsFile(std::string prefix, std::int32_t count, MessageBoxes& messages,
+  UserVerbsFile(Utf8Text prefix, std::int32_t count, MessageBoxes& messages,
                 FileSystem& files = systemFiles());
 
   // A damaged record is passed over, but counted.
@@ -104,7 +105,7 @@ class UserVerbsFile final : public engine::UserVerbs {
   void showUnreadable();
   void see(const FileLook& look);
 
-  std::string prefix_;
+  Utf8Text prefix_;
   std::filesystem::path newFile_;  // where the first save puts it
   std::int32_t count_;
   MessageBoxes& messages_;

@@ -7,12 +7,12 @@
 namespace odmiennik::dictionary {
 namespace {
 
-constexpr std::string_view kGroups[] = {kNoData, "pierwsza", "druga", "trzecia", "ułomny"};
-constexpr std::string_view kUses[] = {kNoData, "tak", "nie", "tak, avoir", "tak, être"};
-constexpr std::string_view kAuxiliaries[] = {kNoData, "avoir", "être", "avoir lub être"};
+constexpr Utf8View kGroups[] = {kNoData, "pierwsza", "druga", "trzecia", "ułomny"};
+constexpr Utf8View kUses[] = {kNoData, "tak", "nie", "tak, avoir", "tak, être"};
+constexpr Utf8View kAuxiliaries[] = {kNoData, "avoir", "être", "avoir lub être"};
 
 template <std::size_t Count, typename Value>
-std::string_view textOf(const std::string_view (&texts)[Count], Value value) {
+Utf8View textOf(const Utf8View (&texts)[Count], Value value) {
   return texts[static_cast<std::size_t>(value)];
 }
 
@@ -25,11 +25,11 @@ VerbLabels labelsOf(const engine::VerbInformation& information) {
           .auxiliary = textOf(kAuxiliaries, information.auxiliary)};
 }
 
-std::string_view auxiliaryName(std::uint8_t auxiliary) {
+Utf8View auxiliaryName(std::uint8_t auxiliary) {
   return auxiliary == engine::kAvoir ? "avoir" : "être";
 }
 
-std::string_view auxiliaryCaption(std::uint8_t auxiliary) {
+Utf8View auxiliaryCaption(std::uint8_t auxiliary) {
   return auxiliary == engine::kAvoir ? "&se conjugué avec avoir" : "&se conjugué avec être";
 }
 

@@ -4,11 +4,11 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "engine/display.h"
 #include "engine/flags.h"
 #include "engine/form_table.h"
+#include "engine/utf8.h"
 #include "engine/verb_information.h"
 
 namespace odmiennik::engine {
@@ -29,7 +29,7 @@ struct Conjugation {
   Display shown;
   Source source = Source::none;
   std::string storedInfinitive;  // slot 96 of the user's record, "" when the verb has none
-  std::string_view model;        // the rule that conjugated it (UTF-8), "" for a stored verb
+  Utf8View model;                // the rule that conjugated it, "" for a stored verb
 };
 
 }  // namespace odmiennik::engine

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "engine/utf8.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::engine {
@@ -21,7 +22,7 @@ struct FrenchText {
 
   // NOLINTNEXTLINE(google-explicit-constructor): a literal operator's argument converts silently.
   consteval FrenchText(const char (&utf8)[N]) {
-    const std::string_view text(utf8, N - 1);
+    const Utf8View text(utf8, N - 1);
     for (std::size_t position = 0; position < text.size();) {
       const DecodedCodePoint decoded = decodeUtf8(text.substr(position));
       const auto byte = decoded.length == 0 ? std::nullopt : byteOfCodePoint(decoded.value);

@@ -6,6 +6,7 @@
 
 #include "engine/flags.h"
 #include "engine/form_table.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::engine {
 
@@ -40,7 +41,7 @@ class BuiltinVerbs {
 // What a rule set did: the model that conjugated the verb ("" when none did), or that no rule
 // covers it.
 struct RuleResult {
-  std::string_view model;
+  Utf8View model;
   bool isRefused = false;
 };
 

@@ -2,9 +2,8 @@
 // The 101 slots of a conjugation and the tenses they belong to: the central contract of the system.
 #pragma once
 
-#include <string_view>
-
 #include "data/tenses.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::engine {
 
@@ -31,9 +30,9 @@ static_assert([] {
 
 // The person of a slot ("je" … "ils"; the imperative has tu, nous, vous), empty where there is
 // none.
-[[nodiscard]] constexpr std::string_view personOf(int index) {
-  constexpr std::string_view kPersons[] = {"je", "tu", "il", "nous", "vous", "ils"};
-  constexpr std::string_view kImperativePersons[] = {"tu", "nous", "vous"};
+[[nodiscard]] constexpr Utf8View personOf(int index) {
+  constexpr Utf8View kPersons[] = {"je", "tu", "il", "nous", "vous", "ils"};
+  constexpr Utf8View kImperativePersons[] = {"tu", "nous", "vous"};
   if (index < kPersonalSlotCount) return kPersons[index % kPersonCount];
   if (index < slot::kInfinitive) return kImperativePersons[index % 3];
   return {};

@@ -2,7 +2,7 @@
 // A tense, as the build reads it from data/tenses.txt.
 #pragma once
 
-#include <string_view>
+#include "engine/utf8.h"
 
 namespace odmiennik::engine {
 
@@ -10,8 +10,8 @@ namespace odmiennik::engine {
 struct Tense {
   int firstSlot;
   int slotCount;
-  std::string_view mood;
-  std::string_view name;
+  Utf8View mood;
+  Utf8View name;
 };
 
 }  // namespace odmiennik::engine

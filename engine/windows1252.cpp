@@ -68,21 +68,21 @@ std::optional<unsigned char> composedByte(char base, char32_t accent) {
   return std::nullopt;
 }
 
-void appendUtf8(std::string& out, std::string_view bytes) {
+void appendUtf8(Utf8Text& out, std::string_view bytes) {
   for (const char byte : bytes) {
     const Utf8Image& image = kUtf8Images[static_cast<unsigned char>(byte)];
     out.append(image.bytes, image.length);
   }
 }
 
-std::string toUtf8(std::string_view bytes) {
-  std::string utf8;
+Utf8Text toUtf8(std::string_view bytes) {
+  Utf8Text utf8;
   utf8.reserve(bytes.size() + bytes.size() / 4);
   appendUtf8(utf8, bytes);
   return utf8;
 }
 
-FromUtf8 fromUtf8(std::string_view utf8) {
+FromUtf8 fromUtf8(Utf8View utf8) {
   FromUtf8 result;
   result.text.reserve(utf8.size());
   while (result.position < utf8.size()) {

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::engine {
 
 // The Unicode code point of every byte. The five bytes that Windows-1252 leaves undefined stand for
@@ -45,7 +47,7 @@ struct DecodedCodePoint {
 
 // Reads the code point at the start of `text`; refuses overlong forms, surrogates and cut
 // sequences.
-[[nodiscard]] constexpr DecodedCodePoint decodeUtf8(std::string_view text) {
+[[nodiscard]] constexpr DecodedCodePoint decodeUtf8(Utf8View text) {
   constexpr char32_t kSmallestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
   if (text.empty()) return {};
   const auto lead = static_cast<unsigned char>(text[0]);
@@ -64,10 +66,10 @@ struct DecodedCodePoint {
 }
 
 // Appends `bytes` (Windows-1252) to `out` as UTF-8; every byte has an image, so nothing is refused.
-void appendUtf8(std::string& out, std::string_view bytes);
+void appendUtf8(Utf8Text& out, std::string_view bytes);
 
 // "\xE9t\xE9" -> "été".
-[[nodiscard]] std::string toUtf8(std::string_view bytes);
+[[nodiscard]] Utf8Text toUtf8(std::string_view bytes);
 
 // Why UTF-8 text could not become Windows-1252.
 enum class Utf8Fault : std::uint8_t { none, notUtf8, letterOutside };
@@ -83,6 +85,6 @@ struct FromUtf8 {
 // "été" -> "\xE9t\xE9", also where its accents follow their letters as code points of their own, as
 // texts from other systems have them; "łapać" is refused with letterOutside at 0, "\xFF" with
 // notUtf8.
-[[nodiscard]] FromUtf8 fromUtf8(std::string_view utf8);
+[[nodiscard]] FromUtf8 fromUtf8(Utf8View utf8);
 
 }  // namespace odmiennik::engine

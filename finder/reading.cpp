@@ -69,12 +69,12 @@ std::string personalPhrase(const Reading& reading) {
 
 }  // namespace
 
-std::string placeInWords(const Reading& reading) {
-  constexpr std::string_view kAgreements[] = {"", "r. ż.", "r. m. l. mn.", "r. ż. l. mn."};
+Utf8Text placeInWords(const Reading& reading) {
+  constexpr Utf8View kAgreements[] = {"", "r. ż.", "r. m. l. mn.", "r. ż. l. mn."};
   const engine::Tense& tense = engine::tenseOf(reading.slot);
-  std::string words;
+  Utf8Text words;
   words.append(tense.mood).append(" ").append(tense.name);
-  const auto add = [&](std::string_view before, std::string_view note) {
+  const auto add = [&](Utf8View before, Utf8View note) {
     if (!note.empty()) words.append(before).append(note);
   };
   add(", ", engine::personOf(reading.slot));
@@ -85,8 +85,8 @@ std::string placeInWords(const Reading& reading) {
   return words;
 }
 
-std::string_view headingOf(Match match) {
-  constexpr std::string_view kHeadings[] = {"", "z innymi akcentami:", "może:"};
+Utf8View headingOf(Match match) {
+  constexpr Utf8View kHeadings[] = {"", "z innymi akcentami:", "może:"};
   return kHeadings[static_cast<std::size_t>(match)];
 }
 

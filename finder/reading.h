@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/flags.h"
+#include "engine/utf8.h"
 #include "finder/places.h"
 
 namespace odmiennik::finder {
@@ -50,9 +51,9 @@ using Readings = std::vector<Reading>;
 
 // Where the form stands and what else there is to say of it, in Polish, UTF-8: "Indicatif présent,
 // je", "Participe passé; r. ż. l. mn.", "Conditionnel présent, ils; tylko w normie", "…; własny".
-[[nodiscard]] std::string placeInWords(const Reading& reading);
+[[nodiscard]] Utf8Text placeInWords(const Reading& reading);
 
 // What is said above readings that are not spelt as typed, in Polish; nothing above others.
-[[nodiscard]] std::string_view headingOf(Match match);
+[[nodiscard]] Utf8View headingOf(Match match);
 
 }  // namespace odmiennik::finder

@@ -16,7 +16,7 @@ using data::kFirstGroupModels;
 static_assert(everyRowCanBeReached(kFirstGroupDispatch));
 static_assert(isNumberedTo(kFirstGroupDispatch, 49));
 
-consteval const Model& modelNamed(std::string_view name) {
+consteval const Model& modelNamed(Utf8View name) {
   return *std::find_if(std::begin(kFirstGroupModels), std::end(kFirstGroupModels),
                        [&](const Model& model) { return model.name == name; });
 }

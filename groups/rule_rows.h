@@ -6,6 +6,8 @@
 #include <span>
 #include <string_view>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::groups {
 
 // What a step does. Forms are stem + text; "a/b" and "a, b" are two forms that each get the stem.
@@ -56,7 +58,7 @@ struct Step {
 // A model: its stem is the infinitive less `cut` letters, and less the consonant group's if it
 // takes one.
 struct Model {
-  std::string_view name;  // UTF-8
+  Utf8View name;
   std::uint8_t cut;
   bool takesGroup;
   std::span<const Step> steps;

@@ -107,9 +107,9 @@ Button answerOf(int standard) {
 
 }  // namespace
 
-Button QtMessageBoxes::show(dictionary::MessageId id, std::string_view argument) {
+Button QtMessageBoxes::show(dictionary::MessageId id, Utf8View argument) {
   const dictionary::MessageRow& row = dictionary::row(id);
-  const std::string_view title = row.title.empty() ? dictionary::kApplicationTitle : row.title;
+  const Utf8View title = row.title.empty() ? dictionary::kApplicationTitle : row.title;
   // Not on the stack: the window that it stands over would delete it if it went.
   const QPointer<AnsweredBox> box = new AnsweredBox(row);
   box->setIcon(iconOf(row.icon));

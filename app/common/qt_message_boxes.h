@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dictionary/messages.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -11,7 +12,7 @@ namespace odmiennik::app {
 // No throws something away has to be answered.
 class QtMessageBoxes final : public dictionary::MessageBoxes {
  public:
-  dictionary::Button show(dictionary::MessageId id, std::string_view argument = {}) override;
+  dictionary::Button show(dictionary::MessageId id, Utf8View argument = {}) override;
 };
 
 }  // namespace odmiennik::app

@@ -17,7 +17,7 @@ QString fromFrench(std::string_view bytes) {
 
 bool isFrenchLetter(QChar letter) { return engine::byteOfCodePoint(letter.unicode()).has_value(); }
 
-QString captionOf(std::string_view utf8) {
+QString captionOf(Utf8View utf8) {
   const QString mark = QStringLiteral("[*]");
   return fromUtf8(utf8).replace(mark, mark + mark);
 }

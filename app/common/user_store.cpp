@@ -14,9 +14,7 @@ namespace {
 
 QString title() { return fromUtf8(dictionary::kApplicationTitle); }
 
-QString pathOf(std::string_view key) {
-  return fromUtf8(kStoreSection) + QLatin1Char('/') + fromUtf8(key);
-}
+QString pathOf(Utf8View key) { return fromUtf8(kStoreSection) + QLatin1Char('/') + fromUtf8(key); }
 
 // A pipe would be waited for, a device read for ever: what has nothing of a store is left alone,
 // and the program starts as if there were none.
@@ -82,12 +80,12 @@ int UserStore::helpZoom() const { return settings_->value(pathOf(kHelpZoomKey), 
 
 void UserStore::setHelpZoom(int percent) { write(kHelpZoomKey, percent); }
 
-bool UserStore::isOne(std::string_view key) const {
+bool UserStore::isOne(Utf8View key) const {
   const QVariant stored = settings_->value(pathOf(key));
   return !stored.isValid() || stored.toInt() == 1;
 }
 
-void UserStore::write(std::string_view key, int value) {
+void UserStore::write(Utf8View key, int value) {
   settings_->setValue(pathOf(key), value);
   settings_->sync();
 }

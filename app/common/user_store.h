@@ -5,7 +5,8 @@
 #include <QSettings>
 #include <QString>
 #include <memory>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -42,8 +43,8 @@ class UserStore {
   void setHelpZoom(int percent);
 
  private:
-  [[nodiscard]] bool isOne(std::string_view key) const;
-  void write(std::string_view key, int value);
+  [[nodiscard]] bool isOne(Utf8View key) const;
+  void write(Utf8View key, int value);
 
   std::unique_ptr<QSettings> settings_;
 };

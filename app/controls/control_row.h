@@ -3,7 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -27,9 +28,9 @@ inline constexpr int kTwipsPerPixel = 15;
 // way from there to the second.
 struct ControlRow {
   ControlKind kind;
-  std::string_view name;
+  Utf8View name;
   int index;  // element of an array, -1 for a control of its own
-  std::string_view caption;
+  Utf8View caption;
   int left;
   int top;
   int width;
@@ -37,9 +38,9 @@ struct ControlRow {
   int fontHundredths;  // points x 100, 0 for a control without text
   bool isBold;
   ControlState state;
-  std::string_view tag;  // moves with the window unless empty
-  int tabOrder;          // -1: not reached with Tab
-  std::string_view accessibleName;
+  Utf8View tag;  // moves with the window unless empty
+  int tabOrder;  // -1: not reached with Tab
+  Utf8View accessibleName;
 };
 
 }  // namespace odmiennik::app

@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <span>
-#include <string_view>
 #include <type_traits>
 
 #include "data/main_window.h"
+#include "engine/utf8.h"
 
 class QAbstractButton;
 class QCheckBox;
@@ -29,7 +29,7 @@ void noSuchControl();  // not constexpr: reached, it is the error told
 
 // The row of a control; a control that is not in the table does not compile:
 // positionOf("txtCzasownik", 96).
-[[nodiscard]] consteval std::size_t positionOf(std::string_view name, int index = -1) {
+[[nodiscard]] consteval std::size_t positionOf(Utf8View name, int index = -1) {
   for (std::size_t position = 0; position < mainWindowRows().size(); ++position)
     if (kMainWindow[position].name == name && kMainWindow[position].index == index) return position;
   noSuchControl();
@@ -76,7 +76,7 @@ class ControlAt {
 };
 
 // How many controls have the name: countOf("txtCzasownik") -> 101.
-[[nodiscard]] constexpr int countOf(std::string_view name) {
+[[nodiscard]] constexpr int countOf(Utf8View name) {
   int count = 0;
   for (const ControlRow& row : mainWindowRows()) count += row.name == name ? 1 : 0;
   return count;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/controls/control_table.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -31,7 +32,7 @@ class Controls {
 
   // The widgets of an array, or the control of that name, in the table's order.
   template <typename Visitor>
-  void forEach(std::string_view name, Visitor visit) const {
+  void forEach(Utf8View name, Visitor visit) const {
     for (std::size_t position = 0; position < widgets_.size(); ++position)
       if (kMainWindow[position].name == name) visit(kMainWindow[position], *widgets_[position]);
   }

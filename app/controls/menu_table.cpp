@@ -15,9 +15,9 @@ constexpr bool everyNameIsUnique() {
 }
 
 // The letter behind "&", or none.
-constexpr char accessKey(std::string_view caption) {
+constexpr char accessKey(Utf8View caption) {
   const auto mark = caption.find('&');
-  if (mark == std::string_view::npos) return '\0';
+  if (mark == std::string::npos) return '\0';
   const char letter = caption[mark + 1];
   return letter >= 'a' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }

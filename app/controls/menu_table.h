@@ -3,7 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -15,10 +16,10 @@ enum class MenuState : std::uint8_t { ready, unavailable };
 // Items and separators belong to the menu above them. "&" marks the access key.
 struct MenuRow {
   MenuKind kind;
-  std::string_view name;
-  std::string_view caption;
+  Utf8View name;
+  Utf8View caption;
   MenuState state = MenuState::unavailable;
-  std::string_view keys = {};
+  Utf8View keys = {};
 };
 
 // deliberate: the verb commands are named after the menu in which they once stood, and one
@@ -87,7 +88,7 @@ class MenuItemName {
     noSuchMenuItem();
   }
 
-  [[nodiscard]] constexpr std::string_view text() const { return name_; }
+  [[nodiscard]] constexpr Utf8View text() const { return name_; }
 
  private:
   static constexpr bool isChosen(MenuKind kind) {
@@ -95,7 +96,7 @@ class MenuItemName {
   }
   static void noSuchMenuItem();  // not constexpr: reached, it is the error told
 
-  std::string_view name_;
+  Utf8View name_;
 };
 
 }  // namespace odmiennik::app

@@ -14,7 +14,7 @@ Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVer
                  dictionary::MessageBoxes& messages)
     : window_(window),
       edited_(window, pointer, userVerbs),
-      mode_(window.windowTitle().toStdString(), edited_, messages) {
+      mode_(toUtf8(window.windowTitle()), edited_, messages) {
   connectCommands();
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);

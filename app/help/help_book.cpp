@@ -37,7 +37,7 @@ QStringList helpFilePlaces() {
   const auto place = [](const std::filesystem::path& in) {
     constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
     const QString utf8 = QString::fromStdU16String(in.u16string());
-    return fromUtf8(helpFilePath(utf8.toStdString(), kSeparator));
+    return fromUtf8(helpFilePath(toUtf8(utf8), kSeparator));
   };
   return {place(folder), place(shared)};
 }

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QMenuBar>
 
+#include "app/common/text.h"
 #include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
 
@@ -36,10 +37,10 @@ const QWidget* windowBehind(const QWidget& window) {
 }
 
 // The page of the window in front, or of the one that a message or a dialog belongs to.
-std::string_view topicInFront() {
+Utf8View topicInFront() {
   for (const QWidget* window = QApplication::activeWindow(); window != nullptr;
        window = windowBehind(*window))
-    if (const auto page = topicOfWindow(window->objectName().toStdString())) return *page;
+    if (const auto page = topicOfWindow(toUtf8(window->objectName()))) return *page;
   return kWelcomePage;
 }
 

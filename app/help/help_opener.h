@@ -2,7 +2,7 @@
 // How the parts of the window open the help, without knowing what shows it.
 #pragma once
 
-#include <string_view>
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -10,9 +10,9 @@ class HelpOpener {
  public:
   virtual ~HelpOpener() = default;
 
-  // Shows a page of the help file, UTF-8: open("strony\\default.htm"). A page or a file that is not
+  // Shows a page of the help file: open("strony\\default.htm"). A page or a file that is not
   // there is reported by the viewer; nothing is returned and nothing is thrown.
-  virtual void open(std::string_view page) = 0;
+  virtual void open(Utf8View page) = 0;
 
   // Shows the page of a help context: openContext(kHowToContext). A context that has no page shows
   // the first page of the help.

@@ -15,7 +15,7 @@ HelpViewer::HelpViewer(QWidget& parent, UserStore& store)
 // The window reads the help file, which ends here.
 HelpViewer::~HelpViewer() { delete window_; }
 
-void HelpViewer::open(std::string_view page) {
+void HelpViewer::open(Utf8View page) {
   if (window_ == nullptr) window_ = new HelpWindow(book_, store_, &parent_);
   window_->showPage(fromUtf8(page));
 }

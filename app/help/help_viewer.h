@@ -7,6 +7,7 @@
 
 #include "app/help/help_opener.h"
 #include "app/help/help_window.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -23,7 +24,7 @@ class HelpViewer final : public QObject, public HelpOpener {
   // Where the help file is looked for, the first place first.
   void lookIn(QStringList places) { book_.lookIn(std::move(places)); }
 
-  void open(std::string_view page) override;
+  void open(Utf8View page) override;
   void openContext(int context) override;
 
  private:

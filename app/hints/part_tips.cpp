@@ -16,7 +16,7 @@ namespace odmiennik::app {
 namespace {
 
 struct NamedTip {
-  std::string_view name;
+  Utf8View name;
   HintId hint;
 };
 constexpr NamedTip kPronouns[] = {{"ns", HintId::abbreviations},
@@ -24,15 +24,15 @@ constexpr NamedTip kPronouns[] = {{"ns", HintId::abbreviations},
                                   {"il", HintId::pronounIl},
                                   {"ils", HintId::pronounIls}};
 
-std::string letterTip(const QWidget& control) {
+Utf8Text letterTip(const QWidget& control) {
   const QString letter = static_cast<const QAbstractButton&>(control).text();
-  return hint(HintId::letter, letter.toStdString());
+  return hint(HintId::letter, toUtf8(letter));
 }
 
-std::string labelTip(const QWidget& control) {
+Utf8Text labelTip(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
   const bool isUnknown = label != nullptr && label->text() == fromUtf8(dictionary::kNoData);
-  return isUnknown ? std::string(hint(HintId::unknown)) : std::string();
+  return isUnknown ? Utf8Text(hint(HintId::unknown)) : Utf8Text();
 }
 
 }  // namespace
@@ -45,26 +45,25 @@ QString PartTips::tipOf(const QWidget& control) const {
 QString PartTips::tipAt(const QPoint& place) const {
   FormSurface& surface = window_.surface();
   const auto slot = surface.pronouns().slotAt(place, surface.font());
-  const std::string pronoun =
-      slot ? surface.pronouns().pronoun(*slot).toStdString() : std::string();
+  const Utf8Text pronoun = slot ? toUtf8(surface.pronouns().pronoun(*slot)) : Utf8Text();
   for (const NamedTip& tip : kPronouns)
     if (tip.name == pronoun) return fromUtf8(hint(tip.hint));
   return {};
 }
 
-std::string PartTips::textOf(const ControlRow& row, const QWidget& control) const {
+Utf8Text PartTips::textOf(const ControlRow& row, const QWidget& control) const {
   if (row.name == "txtCzasownik") return formTipOf(row.index);
   if (row.name == "cmdFrancuskaLitera" || row.name == "chkFrancuskaLitera")
     return letterTip(control);
   if (row.name == "lblCzas")
-    return std::string(row.index < kTopicHeadings ? hint(HintId::heading) : std::string_view());
+    return Utf8Text(row.index < kTopicHeadings ? hint(HintId::heading) : Utf8View());
   if (row.name == "chkZAvoir")
-    return std::string(hint(control.isEnabled() ? HintId::auxiliary : HintId::auxiliaryFixed));
-  if (row.name == "cmdOdmień") return std::string(hint(HintId::conjugateButton));
+    return Utf8Text(hint(control.isEnabled() ? HintId::auxiliary : HintId::auxiliaryFixed));
+  if (row.name == "cmdOdmień") return Utf8Text(hint(HintId::conjugateButton));
   return labelTip(control);
 }
 
-std::string PartTips::formTipOf(int slot) const {
+Utf8Text PartTips::formTipOf(int slot) const {
   const engine::Conjugation& conjugation = window_.conjugation();
   const std::string text = toFrench(window_.boxes()[slot].text());
   const bool isShown = text == conjugation.shown.boxes[static_cast<std::size_t>(slot)];

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "app/controls/control_row.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -24,8 +25,8 @@ class PartTips {
   [[nodiscard]] QString tipAt(const QPoint& place) const;
 
  private:
-  [[nodiscard]] std::string textOf(const ControlRow& row, const QWidget& control) const;
-  [[nodiscard]] std::string formTipOf(int slot) const;
+  [[nodiscard]] Utf8Text textOf(const ControlRow& row, const QWidget& control) const;
+  [[nodiscard]] Utf8Text formTipOf(int slot) const;
 
   const MainWindow& window_;
 };

@@ -10,7 +10,7 @@
 namespace odmiennik::app {
 
 // A tool that fails writes nothing; whoever runs it looks at the file.
-void connectDeveloperButtons(const Controls& controls, const std::string& prefix,
+void connectDeveloperButtons(const Controls& controls, const Utf8Text& prefix,
                              const dictionary::UserVerbsFile& userVerbs) {
   const auto& build = controls.get<QPushButton>(positionOf("Command1"));
   QObject::connect(&build, &QPushButton::clicked, &build, [prefix, &userVerbs] {

@@ -10,9 +10,9 @@
 
 namespace odmiennik::app {
 
-std::string programFolderOf(const std::optional<std::string>& named) {
+Utf8Text programFolderOf(const std::optional<Utf8Text>& named) {
   if (named) return *named;
-  std::string folder = dictionary::programFolder();
+  Utf8Text folder = dictionary::programFolder();
   std::error_code ignored;  // the settings tell when they cannot be written
   std::filesystem::create_directories(dictionary::pathOf(folder), ignored);
   return folder;

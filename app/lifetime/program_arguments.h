@@ -3,12 +3,13 @@
 #pragma once
 
 #include <optional>
-#include <string>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
 // The folder that keeps the user's verbs and settings: the one named with --folder, else the
 // program's own, which is created for a user who has none yet.
-[[nodiscard]] std::string programFolderOf(const std::optional<std::string>& named);
+[[nodiscard]] Utf8Text programFolderOf(const std::optional<Utf8Text>& named);
 
 }  // namespace odmiennik::app

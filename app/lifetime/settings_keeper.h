@@ -4,12 +4,12 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
 
 #include "app/logic/colour_dialog.h"
 #include "dictionary/messages.h"
 #include "dictionary/settings.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -26,7 +26,7 @@ class SettingsKeeper {
  public:
   // `end` ends the program at once, without asking and without saving.
   struct Parts {
-    std::string prefix;  // of every file name
+    Utf8Text prefix;  // of every file name
     dictionary::UserVerbsFile& userVerbs;
     HeadingColourPort colours;
     dictionary::MessageBoxes& messages;

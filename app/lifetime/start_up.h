@@ -3,11 +3,11 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "app/logic/start_up.h"
 #include "dictionary/messages.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -28,7 +28,7 @@ struct LayoutPort {
 class StartUp {
  public:
   struct Parts {
-    std::string prefix;  // of the program's files
+    Utf8Text prefix;  // of the program's files
     MainWindow& window;
     WindowPointer& pointer;
     SettingsKeeper& settings;

@@ -22,17 +22,17 @@ constexpr int kHintMargin = 24;
 constexpr int kPlaceOfUsuń = 3;  // in the column of buttons, as designed
 const QColor kBlue(30, 90, 168);
 
-QString named(std::string_view caption) { return fromUtf8(caption); }
+QString named(Utf8View caption) { return fromUtf8(caption); }
 
 template <typename Widget>
-Widget& create(QDialog& window, std::string_view name) {
+Widget& create(QDialog& window, Utf8View name) {
   auto* widget = new Widget(&window);
   widget->setObjectName(fromUtf8(name));
   return *widget;
 }
 
 template <typename Widget>
-Widget& createWithText(QDialog& window, std::string_view name, std::string_view caption) {
+Widget& createWithText(QDialog& window, Utf8View name, Utf8View caption) {
   Widget& widget = create<Widget>(window, name);
   widget.setText(named(caption));
   return widget;
@@ -65,7 +65,7 @@ ListControls::ListControls(QDialog& dialog)
 }
 
 void ListControls::furnish() {
-  for (const std::string_view item : kListChoices) cmbLista.addItem(fromUtf8(item));
+  for (const Utf8View item : kListChoices) cmbLista.addItem(fromUtf8(item));
   lstCzasowniki.setAccessibleName(QStringLiteral("Czasowniki"));
   lstCzasowniki.setUniformItemSizes(true);  // a long list is laid out at once
   cmdOdmień.setDefault(true);               // the Enter key in the list

@@ -10,7 +10,7 @@
 
 namespace odmiennik::app {
 
-UserVerbsFound findUserVerbs(const std::string& prefix, dictionary::UserVerbsFile& userVerbs) {
+UserVerbsFound findUserVerbs(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs) {
   // A file that cannot be looked for is read all the same: the reader says what is wrong.
   const bool isPresent =
       dictionary::findFile(prefix, "Czasowniki.dat").presence != dictionary::Presence::notThere;

@@ -2,16 +2,15 @@
 // What the verb list is filled with: the user's own verbs, or those of a letter.
 #pragma once
 
-#include <string>
-
 #include "app/list/list_controls.h"
 #include "app/logic/verb_list.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
 // The user's own verbs as they stand in the program's folder at this moment.
-[[nodiscard]] UserVerbsFound findUserVerbs(const std::string& prefix,
+[[nodiscard]] UserVerbsFound findUserVerbs(const Utf8Text& prefix,
                                            dictionary::UserVerbsFile& userVerbs);
 
 // Fills the list with the verbs of a letter while the bar grows. The window is painted meanwhile;

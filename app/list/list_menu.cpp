@@ -9,8 +9,8 @@
 
 namespace odmiennik::app {
 
-ListMenu::ListMenu(QMainWindow& main, const std::string& prefix,
-                   dictionary::UserVerbsFile& userVerbs, MainCommands& commands)
+ListMenu::ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
+                   MainCommands& commands)
     : main_(main), prefix_(prefix), userVerbs_(userVerbs), commands_(commands) {
   const auto opens = [this](MenuItemName item, ListPurpose purpose) {
     QObject::connect(

@@ -4,9 +4,9 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <string>
 
 #include "app/list/list_window.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -14,14 +14,14 @@ namespace odmiennik::app {
 // is asked for, belongs to the main window, and is gone once it has been closed.
 class ListMenu {
  public:
-  ListMenu(QMainWindow& main, const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
+  ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
            MainCommands& commands);
 
  private:
   void open(ListPurpose purpose);
 
   QMainWindow& main_;
-  std::string prefix_;
+  Utf8Text prefix_;
   dictionary::UserVerbsFile& userVerbs_;
   MainCommands& commands_;
   QPointer<ListWindow> window_;

@@ -20,7 +20,7 @@ constexpr qint64 kPauseMilliseconds = 1000;
 
 }  // namespace
 
-ListWindow::ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs,
+ListWindow::ListWindow(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
                        MainCommands& main, QWidget* mainWindow)
     : SteadyWindow(mainWindow),
       prefix_(prefix),

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <string>
 
 #include "app/common/steady_window.h"
 #include "app/list/list_controls.h"
@@ -11,6 +10,7 @@
 #include "app/logic/verb_list_commands.h"
 #include "app/logic/verb_search.h"
 #include "dictionary/user_verbs.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -21,7 +21,7 @@ class ListWindow final : public SteadyWindow<> {
 
  public:
   // `prefix` names the program's folder; `mainWindow` is the parent and stays usable.
-  ListWindow(const std::string& prefix, dictionary::UserVerbsFile& userVerbs, MainCommands& main,
+  ListWindow(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs, MainCommands& main,
              QWidget* mainWindow);
 
   // Shows the window, not modal, as the list or for deleting. One that was closed begins again with
@@ -47,7 +47,7 @@ class ListWindow final : public SteadyWindow<> {
   void run(ListButton button);
   void deleteSelected();
 
-  std::string prefix_;
+  Utf8Text prefix_;
   dictionary::UserVerbsFile& userVerbs_;
   MainCommands& main_;
   VerbList list_;

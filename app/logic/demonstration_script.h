@@ -5,8 +5,9 @@
 #include <chrono>
 #include <cstdint>
 #include <span>
-#include <string_view>
 #include <vector>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -39,10 +40,10 @@ struct DemonstrationStep {
   std::chrono::milliseconds pause{};  // before the step
 };
 
-// The verbs of the demonstrations, UTF-8. Every one of them says much in one look: a regular verb
+// The verbs of the demonstrations. Every one of them says much in one look: a regular verb
 // to type, an irregular one with "être" to pick.
-inline constexpr std::string_view kTypedVerb = "chanter";
-inline constexpr std::string_view kPickedVerb = "naître";
+inline constexpr Utf8View kTypedVerb = "chanter";
+inline constexpr Utf8View kPickedVerb = "naître";
 
 // The time from one letter to the next, from one bit of the pointer's path to the next, and from
 // the press of the mouse button to its release.

@@ -3,13 +3,14 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
 // The control that has the focus at the moment of the question; lengths are letters.
 struct ActiveControl {
-  std::string_view name;
+  Utf8View name;
   bool isReadOnly = false;
   std::size_t selectionLength = 0;
   std::size_t textLength = 0;

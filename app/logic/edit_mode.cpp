@@ -16,12 +16,12 @@ using dictionary::MessageId;
 using dictionary::UserVerbRecord;
 
 // deliberate: three captions; the one at the start never comes back.
-constexpr std::string_view kCaptionAtStart = "E&dytuj";
-constexpr std::string_view kCaptionWhileEditing = "&Koniec edycji";
-constexpr std::string_view kCaptionOnceLeft = "&Edytuj czasownik";
+constexpr Utf8View kCaptionAtStart = "E&dytuj";
+constexpr Utf8View kCaptionWhileEditing = "&Koniec edycji";
+constexpr Utf8View kCaptionOnceLeft = "&Edytuj czasownik";
 
-std::string editingCaption(std::string_view infinitive) {
-  return std::string(dictionary::kApplicationTitle) + " - edycja \"" + engine::toUtf8(infinitive) +
+Utf8Text editingCaption(std::string_view infinitive) {
+  return Utf8Text(dictionary::kApplicationTitle) + " - edycja \"" + engine::toUtf8(infinitive) +
          '"';
 }
 
@@ -150,7 +150,7 @@ void EditMode::filled(std::string_view infinitive) {
 
 EditPresentation EditMode::presentation() const {
   if (isEditing_) return {true, kCaptionWhileEditing, editingCaption(infinitive_)};
-  if (hasBeenLeft_) return {false, kCaptionOnceLeft, std::string(dictionary::kApplicationTitle)};
+  if (hasBeenLeft_) return {false, kCaptionOnceLeft, Utf8Text(dictionary::kApplicationTitle)};
   return {false, kCaptionAtStart, captionAtStart_};
 }
 

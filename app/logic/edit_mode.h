@@ -8,6 +8,7 @@
 
 #include "app/logic/saving.h"
 #include "dictionary/messages.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -15,8 +16,8 @@ namespace odmiennik::app {
 // `isEditing`; the menu item that saves is enabled exactly then.
 struct EditPresentation {
   bool isEditing = false;
-  std::string_view menuCaption;  // of mnuEdycjaEdytujCzasownik
-  std::string windowCaption;     // UTF-8
+  Utf8View menuCaption;  // of mnuEdycjaEdytujCzasownik
+  Utf8Text windowCaption;
 };
 
 // What edit mode needs of the main window. All texts are Windows-1252. The window tells
@@ -52,8 +53,8 @@ class EditWindow {
 // answered that the changes may go. While one command asks, no other starts.
 class EditMode {
  public:
-  // `captionAtStart` is the window's caption until edit mode is entered for the first time, UTF-8.
-  EditMode(std::string captionAtStart, EditWindow& window, dictionary::MessageBoxes& messages)
+  // `captionAtStart` is the window's caption until edit mode is entered for the first time.
+  EditMode(Utf8Text captionAtStart, EditWindow& window, dictionary::MessageBoxes& messages)
       : captionAtStart_(std::move(captionAtStart)), window_(window), messages_(messages) {}
 
   bool edit();       // enters edit mode, or leaves it like conjugate()
@@ -103,7 +104,7 @@ class EditMode {
   void leave();
   void filled(std::string_view infinitive);
 
-  std::string captionAtStart_;
+  Utf8Text captionAtStart_;
   EditWindow& window_;
   dictionary::MessageBoxes& messages_;
   std::string infinitive_;  // as the caption shows it

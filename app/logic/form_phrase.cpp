@@ -158,7 +158,7 @@ class Phrase {
     for (const std::string& other : agreeing.others) append(lastWord(other));
   }
 
-  [[nodiscard]] std::string utf8() const {
+  [[nodiscard]] Utf8Text text() const {
     // French typography: a blank that does not break stands before the mark.
     return isImperative(slot_) && !phrase_.empty() ? phrase_ + "\u00A0!" : phrase_;
   }
@@ -180,37 +180,37 @@ class Phrase {
 
   int slot_;
   const engine::EngineFlags& flags_;
-  std::string phrase_;  // UTF-8
+  Utf8Text phrase_;
 };
 
-void addLine(std::string& text, std::string_view line) {
+void addLine(Utf8Text& text, Utf8View line) {
   if (!text.empty() && !line.empty()) text += '\n';
   text += line;
 }
 
-std::string phraseOrReason(const ShownForm& shown) {
-  if (shown.slot == engine::slot::kInfinitive) return std::string(hint(HintId::entry));
-  if (shown.text == engine::kShownMissing) return std::string(hint(HintId::missingForm));
+Utf8Text phraseOrReason(const ShownForm& shown) {
+  if (shown.slot == engine::slot::kInfinitive) return Utf8Text(hint(HintId::entry));
+  if (shown.text == engine::kShownMissing) return Utf8Text(hint(HintId::missingForm));
   return formPhrase(shown.slot, shown.text, shown.flags);
 }
 
 }  // namespace
 
-std::string formPhrase(int slot, std::string_view text, const engine::EngineFlags& flags) {
+Utf8Text formPhrase(int slot, std::string_view text, const engine::EngineFlags& flags) {
   if (text == engine::kShownMissing) return {};
   Phrase phrase(slot, flags);
   for (const std::string& variant : variantsOf(slot, text, flags.hAspirate)) phrase.add(variant);
-  return phrase.utf8();
+  return phrase.text();
 }
 
-std::string normLine(std::string_view norm) {
+Utf8Text normLine(std::string_view norm) {
   if (norm.empty()) return {};
-  if (norm == engine::kShownMissing) return std::string(hint(HintId::normLacksForm));
+  if (norm == engine::kShownMissing) return Utf8Text(hint(HintId::normLacksForm));
   return hint(HintId::norm, engine::toUtf8(norm));
 }
 
-std::string formTip(const ShownForm& shown) {
-  std::string tip = phraseOrReason(shown);
+Utf8Text formTip(const ShownForm& shown) {
+  Utf8Text tip = phraseOrReason(shown);
   if (tip.empty()) return tip;
   addLine(tip, normLine(shown.norm));
   if (shown.isOwn) addLine(tip, hint(HintId::ownVerb));

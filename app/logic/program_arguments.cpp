@@ -12,7 +12,7 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr std::string_view kUsage =
+constexpr Utf8View kUsage =
     "Użycie: odmiennik [OPCJE] [CZASOWNIK]\n"
     "Otwiera okno odmiany francuskich czasowników i odmienia w nim CZASOWNIK.\n"
     "\n"
@@ -22,7 +22,7 @@ constexpr std::string_view kUsage =
 
 // Options that Qt reads when the application is made; it takes them with one dash and with two.
 struct QtOption {
-  std::string_view name;
+  Utf8View name;
   bool hasValue;
 };
 constexpr QtOption kQtOptions[] = {
@@ -36,17 +36,17 @@ constexpr QtOption kQtOptions[] = {
     {"widgetcount", false},
 };
 
-using Rest = std::span<const std::string>;
+using Rest = std::span<const Utf8Text>;
 
 // "--style=fusion" -> "style"
-std::string_view nameOf(std::string_view argument) {
+Utf8View nameOf(Utf8View argument) {
   argument.remove_prefix(argument.starts_with("--") ? 2 : 1);
   return argument.substr(0, argument.find('='));
 }
 
 // Takes an option of Qt's off the arguments, with its value.
 bool takeQtOption(Rest& rest) {
-  const std::string& argument = rest.front();
+  const Utf8Text& argument = rest.front();
   const auto* option = std::ranges::find(kQtOptions, nameOf(argument), &QtOption::name);
   if (option == std::end(kQtOptions)) return false;
   const bool hasValueBehind = option->hasValue && argument.find('=') == std::string::npos;
@@ -54,11 +54,11 @@ bool takeQtOption(Rest& rest) {
   return true;
 }
 
-std::string inQuotes(std::string_view text) { return "„" + std::string(text) + "”"; }
+Utf8Text inQuotes(Utf8View text) { return "„" + Utf8Text(text) + "”"; }
 
 class Reading {
  public:
-  explicit Reading(std::string_view version) : version_(version) {}
+  explicit Reading(Utf8View version) : version_(version) {}
 
   ProgramArguments readAll(Rest rest) {
     while (!rest.empty() && read_.told.empty()) readOne(rest);
@@ -68,7 +68,7 @@ class Reading {
 
  private:
   void readOne(Rest& rest) {
-    const std::string& argument = rest.front();
+    const Utf8Text& argument = rest.front();
     const bool isOption = !areOptionsOver_ && argument.size() > 1 && argument.front() == '-';
     if (isOption && argument != "--") return readOption(rest);
     if (isOption)
@@ -79,7 +79,7 @@ class Reading {
   }
 
   void readOption(Rest& rest) {
-    const std::string& argument = rest.front();
+    const Utf8Text& argument = rest.front();
     if (takeQtOption(rest)) return;
     if (argument == "--help" || argument == "-h")
       read_.told = kUsage;
@@ -93,11 +93,11 @@ class Reading {
   }
 
   void readFolder(Rest& rest) {
-    const std::string& argument = rest.front();
+    const Utf8Text& argument = rest.front();
     const auto equals = argument.find('=');
-    std::string_view folder;
+    Utf8View folder;
     if (equals != std::string::npos) {
-      folder = std::string_view(argument).substr(equals + 1);
+      folder = Utf8View(argument).substr(equals + 1);
     } else if (rest.size() > 1) {
       rest = rest.subspan(1);
       folder = rest.front();
@@ -116,20 +116,20 @@ class Reading {
       refuse("nie ma takiego czasownika: " + inQuotes(verbs_.front()));
   }
 
-  void refuse(std::string_view reason) {
+  void refuse(Utf8View reason) {
     read_.isRefused = true;
-    read_.told = "odmiennik: " + dictionary::printable(reason) + ".\n" + std::string(kUsage);
+    read_.told = "odmiennik: " + dictionary::printable(reason) + ".\n" + Utf8Text(kUsage);
   }
 
-  std::string version_;
+  Utf8Text version_;
   ProgramArguments read_;
-  std::vector<std::string_view> verbs_;
+  std::vector<Utf8View> verbs_;
   bool areOptionsOver_ = false;
 };
 
 }  // namespace
 
-ProgramArguments programArguments(Rest arguments, std::string_view version) {
+ProgramArguments programArguments(Rest arguments, Utf8View version) {
   return Reading(version).readAll(arguments);
 }
 

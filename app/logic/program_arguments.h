@@ -5,17 +5,18 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
 struct ProgramArguments {
   // What is to be told instead of opening the window: help, version, or why the arguments are
-  // refused; UTF-8, safe to be shown on a terminal.
-  std::string told;
+  // refused; safe to be shown on a terminal.
+  Utf8Text told;
   bool isRefused = false;
   // --folder, byte for byte as given, but for separators at its end.
-  std::optional<std::string> folder;
+  std::optional<Utf8Text> folder;
   // The verb to conjugate at once, Windows-1252.
   std::optional<std::string> verb;
 };
@@ -23,7 +24,7 @@ struct ProgramArguments {
 // Reads the arguments without the program's name, passing over those that Qt takes itself
 // ("-platform", "offscreen"). Behind "--" everything is a verb; there may be one.
 // Example: {"--folder=/home/ala/", "se laver"} -> folder "/home/ala", verb "se laver".
-[[nodiscard]] ProgramArguments programArguments(std::span<const std::string> arguments,
-                                                std::string_view version);
+[[nodiscard]] ProgramArguments programArguments(std::span<const Utf8Text> arguments,
+                                                Utf8View version);
 
 }  // namespace odmiennik::app

@@ -9,10 +9,9 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr std::string_view kBoxes[] = {
-    "txtCzasownik", "cmdFrancuskaLitera",       "chkFrancuskaLitera",
-    "chkZAvoir",    "frmInformacjeOCzasowniku", "cmdOdmień"};
-constexpr std::string_view kBoxTag = "labelinf";
+constexpr Utf8View kBoxes[] = {"txtCzasownik", "cmdFrancuskaLitera",       "chkFrancuskaLitera",
+                               "chkZAvoir",    "frmInformacjeOCzasowniku", "cmdOdmień"};
+constexpr Utf8View kBoxTag = "labelinf";
 
 // deliberate: the font is lowered before its box changes size and raised after it, so that a font
 // too large for the new size cannot hold the box back; in the end it follows the height alone.
@@ -39,7 +38,7 @@ void scaleLine(LayoutControl& control, float horizontalFactor, float verticalFac
 
 }  // namespace
 
-ScaledAs scaledAs(std::string_view name, std::string_view tag) {
+ScaledAs scaledAs(Utf8View name, Utf8View tag) {
   const bool isNamedBox = std::ranges::find(kBoxes, name) != std::end(kBoxes);
   if (isNamedBox || name.starts_with("lbl") || tag == kBoxTag) return ScaledAs::box;
   if (name.starts_with("shp")) return ScaledAs::shape;

@@ -6,9 +6,10 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string_view>
 #include <utility>
 #include <vector>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -24,8 +25,8 @@ struct TwipSize {
 // numbers again at every rescale, all other values keep their fractions. `name` is that of the
 // array, without an index. A line has end points instead of a place and a size.
 struct LayoutControl {
-  std::string_view name;
-  std::string_view tag;
+  Utf8View name;
+  Utf8View tag;
   float left = 0;
   float top = 0;
   float width = 0;
@@ -59,7 +60,7 @@ struct ScreenWidth {
 enum class ScaledAs : std::uint8_t { box, shape, line, nothing };
 
 // "lblCzas" -> box, "shpLiniaTrybu" -> shape. Exact, small and capital letters apart.
-[[nodiscard]] ScaledAs scaledAs(std::string_view name, std::string_view tag);
+[[nodiscard]] ScaledAs scaledAs(Utf8View name, Utf8View tag);
 
 // Scales one control. deliberate: a control without a tag keeps its place, whatever its size does.
 void scale(LayoutControl& control, float horizontalFactor, float verticalFactor);

@@ -9,23 +9,23 @@ namespace {
 
 using engine::Use;
 
-std::string groupOf(engine::Group group, std::string_view label) {
+Utf8Text groupOf(engine::Group group, Utf8View label) {
   if (group == engine::Group::unknown) return "grupa nieznana";
-  return (group == engine::Group::defective ? "" : "grupa ") + std::string(label);
+  return (group == engine::Group::defective ? "" : "grupa ") + Utf8Text(label);
 }
 
 bool isUsed(Use use) { return use != Use::unknown && use != Use::no; }
 
 // A use may name its own auxiliary: "przechodni (être)".
-std::string nameOf(std::string_view name, Use use) {
-  if (use == Use::yes) return std::string(name);
-  return std::string(name) + (use == Use::withAvoir ? " (avoir)" : " (être)");
+Utf8Text nameOf(Utf8View name, Use use) {
+  if (use == Use::yes) return Utf8Text(name);
+  return Utf8Text(name) + (use == Use::withAvoir ? " (avoir)" : " (être)");
 }
 
-std::string transitivity(Use transitive, Use intransitive) {
+Utf8Text transitivity(Use transitive, Use intransitive) {
   if (transitive == Use::unknown && intransitive == Use::unknown) return "przechodniość nieznana";
   if (!isUsed(transitive) && !isUsed(intransitive)) return "ani przechodni, ani nieprzechodni";
-  std::string uses = isUsed(transitive) ? nameOf("przechodni", transitive) : "";
+  Utf8Text uses = isUsed(transitive) ? nameOf("przechodni", transitive) : "";
   if (isUsed(transitive) && isUsed(intransitive)) uses += " i ";
   if (isUsed(intransitive)) uses += nameOf("nieprzechodni", intransitive);
   return uses;
@@ -33,11 +33,11 @@ std::string transitivity(Use transitive, Use intransitive) {
 
 }  // namespace
 
-std::string spokenVerb(std::string_view infinitive, const engine::VerbInformation& information) {
+Utf8Text spokenVerb(Utf8View infinitive, const engine::VerbInformation& information) {
   const dictionary::VerbLabels labels = dictionary::labelsOf(information);
   const bool isAuxiliaryKnown = information.auxiliary != engine::KnownAuxiliary::unknown;
-  return std::string(infinitive) + ": " + groupOf(information.group, labels.group) +
-         ", czasownik posiłkowy " + std::string(isAuxiliaryKnown ? labels.auxiliary : "nieznany") +
+  return Utf8Text(infinitive) + ": " + groupOf(information.group, labels.group) +
+         ", czasownik posiłkowy " + Utf8Text(isAuxiliaryKnown ? labels.auxiliary : "nieznany") +
          ", " + transitivity(information.transitive, information.intransitive) + ".";
 }
 

@@ -9,21 +9,21 @@
 
 namespace odmiennik::app {
 
-std::string versionText(Version version) {
-  return std::to_string(version.major) + '.' + std::to_string(version.minor) + '.' +
-         std::to_string(version.revision);
+Utf8Text versionText(Version version) {
+  return decimal(version.major) + '.' + decimal(version.minor) + '.' + decimal(version.revision);
 }
 
-std::string captionWithVersion(Version version) {
-  return std::string(dictionary::kApplicationTitle) + " v." + versionText(version);
+Utf8Text captionWithVersion(Version version) {
+  return Utf8Text(dictionary::kApplicationTitle) + " v." + versionText(version);
 }
 
-std::string helpFilePath(std::string_view folder, char separator) {
-  return std::string(folder) + separator + std::string(kHelpFile);
+Utf8Text helpFilePath(Utf8View folder, char separator) {
+  return Utf8Text(folder) + separator + Utf8Text(kHelpFile);
 }
 
 std::string characterMapPath(std::string_view windowsFolder) {
-  return dictionary::AppFolder(windowsFolder) + std::string(kCharacterMap);
+  const Utf8Text prefix = dictionary::AppFolder(asUtf8(windowsFolder));
+  return std::string(bytesOf(prefix)).append(bytesOf(kCharacterMap));
 }
 
 void countOne(std::int32_t& counter) {

@@ -6,22 +6,24 @@
 #include <string>
 #include <string_view>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::app {
 
 // The word that the entry box starts with, selected.
-inline constexpr std::string_view kEntryWord = "infinitif";
+inline constexpr Utf8View kEntryWord = "infinitif";
 
 // Bare file names: the help file, the marker of a first start, the character map.
-inline constexpr std::string_view kHelpFile = "Werbolin.chm";
-inline constexpr std::string_view kFirstStartMarker = "tmp.dat";
-inline constexpr std::string_view kCharacterMap = "CHARMAP.EXE";
+inline constexpr Utf8View kHelpFile = "Werbolin.chm";
+inline constexpr Utf8View kFirstStartMarker = "tmp.dat";
+inline constexpr Utf8View kCharacterMap = "CHARMAP.EXE";
 
 // Of the per-user store; the first two are 1 when they were never written.
-inline constexpr std::string_view kStoreSection = "Ustawienia";
-inline constexpr std::string_view kTipAtStartKey = "Pokazuj poradę dnia";
-inline constexpr std::string_view kCompletionKey = "Autouzupełnianie";
-inline constexpr std::string_view kHelpZoomKey = "Powiększenie pomocy";
-inline constexpr std::string_view kNormKey = "Norma";
+inline constexpr Utf8View kStoreSection = "Ustawienia";
+inline constexpr Utf8View kTipAtStartKey = "Pokazuj poradę dnia";
+inline constexpr Utf8View kCompletionKey = "Autouzupełnianie";
+inline constexpr Utf8View kHelpZoomKey = "Powiększenie pomocy";
+inline constexpr Utf8View kNormKey = "Norma";
 
 struct Version {
   int major = 0;
@@ -30,14 +32,14 @@ struct Version {
 };
 
 // {1, 0, 12} -> "1.0.12"
-[[nodiscard]] std::string versionText(Version version);
+[[nodiscard]] Utf8Text versionText(Version version);
 
 // {1, 0, 12} -> "Odmiennik v.1.0.12"
-[[nodiscard]] std::string captionWithVersion(Version version);
+[[nodiscard]] Utf8Text captionWithVersion(Version version);
 
 // The help file in the program's folder. deliberate: a separator is always put between, so that a
 // folder that ends in one has two.
-[[nodiscard]] std::string helpFilePath(std::string_view folder, char separator);
+[[nodiscard]] Utf8Text helpFilePath(Utf8View folder, char separator);
 
 // The character map in the system's folder, named as files of the program's own folder are.
 [[nodiscard]] std::string characterMapPath(std::string_view windowsFolder);

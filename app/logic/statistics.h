@@ -3,12 +3,13 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
 // "Statystyka: odmieniono 3 czasowniki po 2 uruchomieniach.", UTF-8.
 // deliberate: 12, 13, 14, 112 … are followed by "czasowniki", as 2, 3, 4 and 22 are.
-[[nodiscard]] std::string statisticsSentence(std::int32_t conjugations, std::int32_t runs);
+[[nodiscard]] Utf8Text statisticsSentence(std::int32_t conjugations, std::int32_t runs);
 
 }  // namespace odmiennik::app

@@ -7,11 +7,11 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr std::string_view kPageFolder = "strony\\";
+constexpr Utf8View kPageFolder = "strony\\";
 
 struct WindowTopic {
-  std::string_view window;
-  std::string_view page;
+  Utf8View window;
+  Utf8View page;
 };
 
 constexpr WindowTopic kWindowTopics[] = {
@@ -23,7 +23,7 @@ constexpr WindowTopic kWindowTopics[] = {
     {"frmAbout", kWelcomePage},
 };
 
-std::string inFolder(std::string_view page) { return std::string(kPageFolder).append(page); }
+Utf8Text inFolder(Utf8View page) { return Utf8Text(kPageFolder).append(page); }
 
 constexpr bool onlyTheFirstHaveAPage() {
   for (int heading = 0; heading < kTenseHeadings; ++heading)
@@ -35,18 +35,18 @@ static_assert(onlyTheFirstHaveAPage());
 
 }  // namespace
 
-std::optional<std::string> topicOf(int heading) {
+std::optional<Utf8Text> topicOf(int heading) {
   if (heading < 0 || heading >= kTopicHeadings) return std::nullopt;
   return inFolder(kTenseTopics[static_cast<std::size_t>(heading)].page);
 }
 
-std::optional<std::string> topicOfSlot(int slot) {
+std::optional<Utf8Text> topicOfSlot(int slot) {
   const auto tense = &engine::tenseOf(slot) - engine::kTenses.data();
-  const std::string_view page = kTensePages[static_cast<std::size_t>(tense)];
+  const Utf8View page = kTensePages[static_cast<std::size_t>(tense)];
   return page.empty() ? std::nullopt : std::optional(inFolder(page));
 }
 
-std::optional<std::string_view> topicOfWindow(std::string_view window) {
+std::optional<Utf8View> topicOfWindow(Utf8View window) {
   for (const WindowTopic& topic : kWindowTopics)
     if (topic.window == window) return topic.page;
   return std::nullopt;
@@ -65,7 +65,7 @@ TopicHover::Change TopicHover::moved(int heading) {
   return change;
 }
 
-std::optional<std::string> TopicHover::clicked(int heading) const {
+std::optional<Utf8Text> TopicHover::clicked(int heading) const {
   return isUnderlined(heading) ? topicOf(heading) : std::nullopt;
 }
 

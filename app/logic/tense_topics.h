@@ -5,10 +5,9 @@
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "data/tense_help.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -21,22 +20,22 @@ inline constexpr int kTopicHeadings = [] {
 }();
 
 // Pages of the help that no heading opens, and the help context of the hint's Help button.
-inline constexpr std::string_view kWelcomePage = "strony\\default.htm";
-inline constexpr std::string_view kHowToPage = "strony\\JakOdmienic.htm";
+inline constexpr Utf8View kWelcomePage = "strony\\default.htm";
+inline constexpr Utf8View kHowToPage = "strony\\JakOdmienic.htm";
 inline constexpr int kHowToContext = 2;
 
 // The page inside the help file: topicOf(0) -> "strony\PresentIndicatif.htm"; nothing for a heading
 // without a page.
-[[nodiscard]] std::optional<std::string> topicOf(int heading);
+[[nodiscard]] std::optional<Utf8Text> topicOf(int heading);
 
 // The page of the tense or form that a box belongs to: topicOfSlot(98) ->
 // "strony\ParticipePresent.htm"; nothing for the box in which the infinitive is typed.
-[[nodiscard]] std::optional<std::string> topicOfSlot(int slot);
+[[nodiscard]] std::optional<Utf8Text> topicOfSlot(int slot);
 
 // The page of a window that is open beside the main one, by its object name:
 // topicOfWindow("frmLista")
 // -> "strony\Lista.htm"; nothing for windows without a page.
-[[nodiscard]] std::optional<std::string_view> topicOfWindow(std::string_view window);
+[[nodiscard]] std::optional<Utf8View> topicOfWindow(Utf8View window);
 
 // The underlining of the headings under the pointer.
 // deliberate: a heading stays underlined when the pointer leaves it, until another one is pointed
@@ -54,7 +53,7 @@ class TopicHover {
   [[nodiscard]] Change moved(int heading);
 
   // The page that a click on the heading opens: that of an underlined heading only.
-  [[nodiscard]] std::optional<std::string> clicked(int heading) const;
+  [[nodiscard]] std::optional<Utf8Text> clicked(int heading) const;
 
   [[nodiscard]] bool isUnderlined(int heading) const {
     return underlined_.at(static_cast<std::size_t>(heading));

@@ -11,7 +11,7 @@
 namespace odmiennik::app {
 namespace {
 
-constexpr std::string_view kLineBreakMark = "/n";
+constexpr Utf8View kLineBreakMark = "/n";
 
 }  // namespace
 
@@ -27,9 +27,9 @@ int drawTip(double random, double count, bool& isForced) {
   return std::exchange(isForced, false) ? kHowToTip : drawn;
 }
 
-std::string withLineBreaks(std::string_view text, std::string_view lineBreak) {
-  std::string shown;
-  for (std::size_t mark = text.find(kLineBreakMark); mark != std::string_view::npos;
+Utf8Text withLineBreaks(Utf8View text, Utf8View lineBreak) {
+  Utf8Text shown;
+  for (std::size_t mark = text.find(kLineBreakMark); mark != std::string::npos;
        mark = text.find(kLineBreakMark)) {
     shown.append(text.substr(0, mark)).append(lineBreak);
     text.remove_prefix(mark + kLineBreakMark.size());
@@ -37,8 +37,8 @@ std::string withLineBreaks(std::string_view text, std::string_view lineBreak) {
   return shown.append(text);
 }
 
-std::string tipText(int tip, std::string_view lineBreak) {
-  return withLineBreaks(engine::textOf(engine::text_id::kTipCount + tip), lineBreak);
+Utf8Text tipText(int tip, Utf8View lineBreak) {
+  return withLineBreaks(asUtf8(engine::textOf(engine::text_id::kTipCount + tip)), lineBreak);
 }
 
 }  // namespace odmiennik::app

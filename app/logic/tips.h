@@ -2,8 +2,7 @@
 // The tip of the day: which one is drawn, and how it reads.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -22,10 +21,9 @@ inline constexpr int kHowToTip = 5;
 [[nodiscard]] constexpr bool offersDemonstration(int tip) { return tip == kHowToTip; }
 
 // `text` with `lineBreak` for every "/n".
-[[nodiscard]] std::string withLineBreaks(std::string_view text,
-                                         std::string_view lineBreak = "\r\n");
+[[nodiscard]] Utf8Text withLineBreaks(Utf8View text, Utf8View lineBreak = "\r\n");
 
 // The text of a tip, UTF-8, ready to be shown.
-[[nodiscard]] std::string tipText(int tip, std::string_view lineBreak = "\r\n");
+[[nodiscard]] Utf8Text tipText(int tip, Utf8View lineBreak = "\r\n");
 
 }  // namespace odmiennik::app

@@ -73,8 +73,8 @@ std::string_view VerbList::selectedVerb() const {
   return selected_ ? std::string_view(entries_[*selected_]) : std::string_view();
 }
 
-std::string VerbList::countLabel() const {
-  return std::to_string(entries_.size()) + '/' + std::to_string(kListedVerbs);
+Utf8Text VerbList::countLabel() const {
+  return decimal(entries_.size()) + '/' + decimal(kListedVerbs);
 }
 
 }  // namespace odmiennik::app

@@ -10,39 +10,41 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::app {
 
 // deliberate: a fixed number, the size of the general verb index, also behind the user's own verbs.
 inline constexpr int kListedVerbs = 7342;
 
 // The items of cmbLista: the user's own verbs, then the letters.
-inline constexpr std::array<std::string_view, 27> kListChoices{"Wprowadzone przez użytkownika",
-                                                               "a",
-                                                               "b",
-                                                               "c",
-                                                               "d",
-                                                               "e",
-                                                               "f",
-                                                               "g",
-                                                               "h",
-                                                               "i",
-                                                               "j",
-                                                               "k",
-                                                               "l",
-                                                               "m",
-                                                               "n",
-                                                               "o",
-                                                               "p",
-                                                               "q",
-                                                               "r",
-                                                               "s",
-                                                               "t",
-                                                               "u",
-                                                               "v",
-                                                               "w",
-                                                               "x",
-                                                               "y",
-                                                               "z"};
+inline constexpr std::array<Utf8View, 27> kListChoices{"Wprowadzone przez użytkownika",
+                                                       "a",
+                                                       "b",
+                                                       "c",
+                                                       "d",
+                                                       "e",
+                                                       "f",
+                                                       "g",
+                                                       "h",
+                                                       "i",
+                                                       "j",
+                                                       "k",
+                                                       "l",
+                                                       "m",
+                                                       "n",
+                                                       "o",
+                                                       "p",
+                                                       "q",
+                                                       "r",
+                                                       "s",
+                                                       "t",
+                                                       "u",
+                                                       "v",
+                                                       "w",
+                                                       "x",
+                                                       "y",
+                                                       "z"};
 
 // The letter of an item, 1 to 26: letterOfChoice(1) -> 'a'.
 [[nodiscard]] constexpr char letterOfChoice(int choice) { return static_cast<char>(choice + 96); }
@@ -96,7 +98,7 @@ class VerbList {
   [[nodiscard]] bool isFilling() const { return isFilling_; }
 
   // "3/7342"
-  [[nodiscard]] std::string countLabel() const;
+  [[nodiscard]] Utf8Text countLabel() const;
 
  private:
   void enableByEntries();

@@ -23,9 +23,9 @@ bool runListButton(ListButton button, std::string_view selected, MainCommands& m
   return true;
 }
 
-std::string emptyListHint(ListPurpose purpose, int choice) {
+Utf8Text emptyListHint(ListPurpose purpose, int choice) {
   if (choice > 0)
-    return std::string("W spisie nie ma czasowników na literę „") + letterOfChoice(choice) + "”.";
+    return Utf8Text("W spisie nie ma czasowników na literę „") + letterOfChoice(choice) + "”.";
   if (purpose == ListPurpose::deletion)
     return "Nie masz jeszcze własnych czasowników, więc nie ma czego usuwać.";
   return "Nie masz jeszcze własnych czasowników.\n\n"

@@ -3,8 +3,9 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::app {
 
@@ -32,7 +33,7 @@ bool runListButton(ListButton button, std::string_view selected, MainCommands& m
 enum class ListPurpose : std::uint8_t { list, deletion };
 
 struct ListAppearance {
-  std::string_view caption;
+  Utf8View caption;
   bool showsOtherButtons = true;  // cmdOdmień, cmdEdytuj, cmdNowy, cmdDrukuj
   bool isDeleteMoved = false;     // cmdUsuń stands in the place of cmdOdmień
 };
@@ -45,6 +46,6 @@ struct ListAppearance {
 
 // What an empty list says in the place of its verbs: what to do now, or that the index has none.
 // `choice` is the item of cmbLista.
-[[nodiscard]] std::string emptyListHint(ListPurpose purpose, int choice);
+[[nodiscard]] Utf8Text emptyListHint(ListPurpose purpose, int choice);
 
 }  // namespace odmiennik::app

@@ -50,7 +50,7 @@ class ConjugationBackup {
   std::string infinitive_;
   std::string storedInfinitive_;
   engine::Source source_;
-  std::string_view model_;
+  Utf8View model_;
   bool isDiscarded_ = false;
 };
 
@@ -187,7 +187,7 @@ void MainWindow::toggleAuxiliary(bool isAvoir) {
 }
 
 QString MainWindow::spokenInformation() const {
-  const std::string verb = engine::toUtf8(infinitive());
+  const Utf8Text verb = engine::toUtf8(infinitive());
   const bool isOwn = conjugation_.source == engine::Source::user;
   return fromUtf8(spokenVerb(verb, conjugation_.information) +
                   (isOwn ? " Formy z Twojego pliku." : ""));

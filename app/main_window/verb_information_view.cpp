@@ -14,7 +14,7 @@ using dictionary::VerbLabels;
 struct ValueLabel {
   ControlAt<CaptionLabel> value;
   ControlAt<CaptionLabel> caption;
-  std::string_view VerbLabels::*text;
+  Utf8View VerbLabels::*text;
 };
 constexpr ValueLabel kValueLabels[] = {
     {positionOf("lblGrupaWartość"), positionOf("lblGrupa"), &VerbLabels::group},

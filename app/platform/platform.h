@@ -9,16 +9,17 @@
 #include <vector>
 
 #include "app/logic/always_on_top.h"
+#include "engine/utf8.h"
 
 namespace odmiennik::app::platform {
 
 // The arguments without the program's name, as the system has them: UTF-8 on Windows, elsewhere
 // whatever bytes they are.
-[[nodiscard]] std::vector<std::string> arguments(int count, char** values);
+[[nodiscard]] std::vector<Utf8Text> arguments(int count, char** values);
 
-// Says `text` (UTF-8) where the program was started: on standard output or standard error; on
+// Says `text` where the program was started: on standard output or standard error; on
 // Windows, where a program with windows has neither, in a message.
-void tell(const std::string& text, bool isError);
+void tell(Utf8View text, bool isError);
 
 // The program that shows all letters of a font, ready to be started; empty when there is none.
 [[nodiscard]] std::string characterMap();

@@ -98,12 +98,12 @@ class AwaitedFrame final : public QObject {
 
 }  // namespace
 
-std::vector<std::string> arguments(int count, char** values) {
+std::vector<Utf8Text> arguments(int count, char** values) {
   if (count < 2) return {};
   return {values + 1, values + count};
 }
 
-void tell(const std::string& text, bool isError) {
+void tell(Utf8View text, bool isError) {
   std::FILE* stream = isError ? stderr : stdout;
   std::fwrite(text.data(), 1, text.size(), stream);
   std::fflush(stream);

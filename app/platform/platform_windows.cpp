@@ -30,14 +30,14 @@ std::string textOf(const std::array<char, size>& buffer) {
   return std::string(all.substr(0, all.find('\0')));
 }
 
-std::string fromWide(const wchar_t* text) {
+Utf8Text fromWide(const wchar_t* text) {
   const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-  std::string utf8(static_cast<std::size_t>(std::max(size, 1)) - 1, '\0');
+  Utf8Text utf8(static_cast<std::size_t>(std::max(size, 1)) - 1, '\0');
   if (size > 1) WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
   return utf8;
 }
 
-std::wstring toWide(const std::string& utf8) {
+std::wstring toWide(Utf8View utf8) {
   const auto length = static_cast<int>(utf8.size());
   const int size = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
   std::wstring text(static_cast<std::size_t>(size), L'\0');
@@ -95,16 +95,16 @@ class WindowsRegistry final : public Registry {
 
 }  // namespace
 
-std::vector<std::string> arguments(int /*count*/, char** /*values*/) {
+std::vector<Utf8Text> arguments(int /*count*/, char** /*values*/) {
   int count = 0;
   wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);
-  std::vector<std::string> texts;
+  std::vector<Utf8Text> texts;
   for (int i = 1; values != nullptr && i < count; ++i) texts.push_back(fromWide(values[i]));
   LocalFree(values);
   return texts;
 }
 
-void tell(const std::string& text, bool isError) {
+void tell(Utf8View text, bool isError) {
   MessageBoxW(nullptr, toWide(text).c_str(), L"Odmiennik",
               isError ? MB_ICONEXCLAMATION : MB_ICONINFORMATION);
 }

@@ -3,13 +3,13 @@
 // desktops.
 #pragma once
 
-#include <string>
+#include "engine/utf8.h"
 
 namespace odmiennik::app::platform {
 
-// Makes a printer, named as the system names it in UTF-8, the user's default from now on; false
+// Makes a printer, named as the system names it, the user's default from now on; false
 // when the system refuses. An empty name is refused.
-bool makeDefaultPrinter(const std::string& printer);
+bool makeDefaultPrinter(const Utf8Text& printer);
 
 // Whether the print system refused the document that this thread has just handed over. Qt does not
 // tell.

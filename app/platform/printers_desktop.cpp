@@ -9,11 +9,11 @@
 namespace odmiennik::app::platform {
 
 // The default is written by the print system's own tool into the user's options.
-bool makeDefaultPrinter(const std::string& printer) {
+bool makeDefaultPrinter(const Utf8Text& printer) {
   constexpr int kLimitMilliseconds = 10'000;
   if (printer.empty()) return false;
   QProcess tool;
-  tool.start(QStringLiteral("lpoptions"), {QStringLiteral("-d"), QString::fromStdString(printer)});
+  tool.start(QStringLiteral("lpoptions"), {QStringLiteral("-d"), QString::fromUtf8(printer)});
   return tool.waitForFinished(kLimitMilliseconds) && tool.exitStatus() == QProcess::NormalExit &&
          tool.exitCode() == 0;
 }

@@ -10,8 +10,8 @@
 namespace odmiennik::app::platform {
 namespace {
 
-// UTF-8 as the system's wide text, ended by a NUL.
-std::wstring wide(const std::string& text) {
+// A name as the system's wide text, ended by a NUL.
+std::wstring wide(const Utf8Text& text) {
   const int size = MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, nullptr, 0);
   std::wstring result(static_cast<std::size_t>(size), L'\0');
   MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, result.data(), size);
@@ -20,7 +20,7 @@ std::wstring wide(const std::string& text) {
 
 }  // namespace
 
-bool makeDefaultPrinter(const std::string& printer) {
+bool makeDefaultPrinter(const Utf8Text& printer) {
   return !printer.empty() && SetDefaultPrinterW(wide(printer).data()) != FALSE;
 }
 

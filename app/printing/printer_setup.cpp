@@ -2,6 +2,7 @@
 // The printer dialog.
 #include "app/printing/printer_setup.h"
 
+#include "app/common/text.h"
 #include "app/platform/printers.h"
 #include "app/printing/printer_dialog.h"
 
@@ -11,7 +12,7 @@ void setUpPrinter(QWidget& parent, PrintChoices& kept) {
   PrinterDialog dialog(kept, &parent);
   if (dialog.exec() != QDialog::Accepted) return;
   kept = dialog.choices();
-  platform::makeDefaultPrinter(dialog.printer().toStdString());
+  platform::makeDefaultPrinter(toUtf8(dialog.printer()));
 }
 
 }  // namespace odmiennik::app

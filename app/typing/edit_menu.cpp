@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 
+#include "app/common/text.h"
 #include "app/controls/main_menu.h"
 
 namespace odmiennik::app {
@@ -101,7 +102,7 @@ void EditMenu::clipboardChanged() {
 
 EditAvailability EditMenu::availability() const {
   ActiveControl control;
-  const std::string name = active_ ? active_->objectName().toStdString() : std::string();
+  const Utf8Text name = active_ ? toUtf8(active_->objectName()) : Utf8Text();
   control.name = name;
   if (const auto* box = qobject_cast<const QLineEdit*>(active_)) {
     control.isReadOnly = box->isReadOnly();

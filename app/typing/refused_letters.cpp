@@ -20,7 +20,7 @@ RefusedLetters::RefusedLetters(const FormBoxes& boxes) {
 void RefusedLetters::tell(const QString& letters) {
   auto* box = qobject_cast<FormBox*>(QApplication::focusWidget());
   if (box == nullptr || box->isReadOnly()) return;
-  const QString sentence = fromUtf8(refusalOf(letters.toStdString()));
+  const QString sentence = fromUtf8(refusalOf(toUtf8(letters)));
   showBubble(*box, sentence);
   announce(sentence);
   const auto hide = [box] { hideBubble(*box); };

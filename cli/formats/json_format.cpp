@@ -9,29 +9,27 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string_view nameOf(engine::Source source) {
-  constexpr std::string_view kNames[] = {"none", "user", "builtin", "rule"};
+Utf8View nameOf(engine::Source source) {
+  constexpr Utf8View kNames[] = {"none", "user", "builtin", "rule"};
   return kNames[static_cast<std::size_t>(source)];
 }
 
-void appendKey(std::string& out, std::string_view key) {
-  out.append(",\"").append(key).append("\":");
-}
+void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
 
-void appendUtf8(std::string& out, std::string_view key, std::string_view text) {
+void appendUtf8(Utf8Text& out, Utf8View key, Utf8View text) {
   appendKey(out, key);
   appendJsonUtf8(out, text);
 }
 
-void appendFlag(std::string& out, std::string_view key, bool isSet) {
+void appendFlag(Utf8Text& out, Utf8View key, bool isSet) {
   appendKey(out, key);
   out.append(isSet ? "true" : "false");
 }
 
 // An array of texts, each written by `appendText`.
-template <typename Texts>
-void appendArray(std::string& out, std::string_view key, const Texts& texts,
-                 void (*appendText)(std::string&, std::string_view)) {
+template <typename Texts, typename View>
+void appendArray(Utf8Text& out, Utf8View key, const Texts& texts,
+                 void (*appendText)(Utf8Text&, View)) {
   appendKey(out, key);
   char before = '[';
   for (const auto& text : texts) {
@@ -42,7 +40,7 @@ void appendArray(std::string& out, std::string_view key, const Texts& texts,
   out.append(before == '[' ? "[]" : "]");
 }
 
-void appendLabels(std::string& out, const dictionary::VerbLabels& labels) {
+void appendLabels(Utf8Text& out, const dictionary::VerbLabels& labels) {
   out.append(",\"labels\":{\"group\":");
   appendJsonUtf8(out, labels.group);
   appendUtf8(out, "transitive", labels.transitive);
@@ -54,8 +52,8 @@ void appendLabels(std::string& out, const dictionary::VerbLabels& labels) {
 
 class JsonFormat final : public Format {
  public:
-  void begin(std::string&) override {}
-  void append(std::string& out, const Answer& answer) override {
+  void begin(Utf8Text&) override {}
+  void append(Utf8Text& out, const Answer& answer) override {
     const engine::Conjugation& conjugation = answer.conjugation;
     out.append("{\"typed\":");
     appendJsonUtf8(out, answer.typed);
@@ -73,7 +71,7 @@ class JsonFormat final : public Format {
   }
 
  private:
-  static void appendTable(std::string& out, const engine::Conjugation& conjugation) {
+  static void appendTable(Utf8Text& out, const engine::Conjugation& conjugation) {
     appendArray(out, "slots", conjugation.forms, appendJsonFrench);
     appendArray(out, "boxes", conjugation.shown.boxes, appendJsonFrench);
     appendArray(out, "pronouns", conjugation.shown.pronouns, appendJsonFrench);

@@ -12,18 +12,18 @@ namespace {
 
 using engine::kTenses;
 
-constexpr std::string_view kMissingText = "--";
+constexpr Utf8View kMissingText = "--";
 
-std::string_view sourceText(engine::Source source) {
-  constexpr std::string_view kTexts[] = {"brak", "użytkownik", "wbudowane", "reguła"};
+Utf8View sourceText(engine::Source source) {
+  constexpr Utf8View kTexts[] = {"brak", "użytkownik", "wbudowane", "reguła"};
   return kTexts[static_cast<std::size_t>(source)];
 }
 
 const engine::Tense& tenseAt(int position) { return kTenses[static_cast<std::size_t>(position)]; }
 
 // A tense's name as a heading; no name begins with an accented letter.
-std::string headingOf(int tense) {
-  std::string name(tenseAt(tense).name);
+Utf8Text headingOf(int tense) {
+  Utf8Text name(tenseAt(tense).name);
   name[0] = static_cast<char>(name[0] - 'a' + 'A');
   return name;
 }
@@ -40,7 +40,7 @@ class VerbTable {
   void write() {
     writeTitle();
     writeInformation();
-    std::string_view mood;
+    Utf8View mood;
     for (const Band band : bandsOf(columnCount_)) {
       page_.endLine();
       if (const auto next = tenseAt(band.front()).mood; next != mood) writeMood(mood = next);
@@ -55,19 +55,19 @@ class VerbTable {
     endRule("═", Style::title);
   }
 
-  void writeMood(std::string_view mood) {
+  void writeMood(Utf8View mood) {
     beginRule("─", Style::mood);
     page_.addUtf8(mood, Style::mood);
     endRule("─", Style::mood);
   }
 
   // A rule over the whole page, with a text near its beginning.
-  void beginRule(std::string_view dash, Style style) {
+  void beginRule(Utf8View dash, Style style) {
     page_.addRule(dash, 2, style);
     page_.moveTo(3);
   }
 
-  void endRule(std::string_view dash, Style style) {
+  void endRule(Utf8View dash, Style style) {
     page_.moveTo(page_.column() + 1);
     page_.addRule(dash, kPageWidth - 1, style);
     page_.endLine();
@@ -86,7 +86,7 @@ class VerbTable {
     writeNotes();
   }
 
-  void writeFact(std::size_t column, std::string_view name, std::string_view value) {
+  void writeFact(std::size_t column, Utf8View name, Utf8View value) {
     page_.moveTo(column * (columnWidth(3) + kColumnGap));
     page_.addUtf8(name, Style::missing);
     page_.addUtf8(value);
@@ -94,7 +94,7 @@ class VerbTable {
 
   // What the labels alone would leave open: the model, and an auxiliary other than the one named.
   void writeNotes() {
-    const std::string_view auxiliary = dictionary::auxiliaryName(conjugation_.flags.auxiliary);
+    const Utf8View auxiliary = dictionary::auxiliaryName(conjugation_.flags.auxiliary);
     const bool isOther = dictionary::labelsOf(conjugation_.information).auxiliary != auxiliary;
     if (isOther) writeFact(0, "złożone z: ", auxiliary);
     if (!conjugation_.model.empty()) writeFact(isOther ? 1 : 0, "model: ", conjugation_.model);
@@ -154,8 +154,8 @@ class TextFormat final : public Format {
  public:
   explicit TextFormat(bool isColoured) : isColoured_(isColoured) {}
 
-  void begin(std::string&) override {}
-  void append(std::string& out, const Answer& answer) override {
+  void begin(Utf8Text&) override {}
+  void append(Utf8Text& out, const Answer& answer) override {
     if (answer.isRefused) return;
     if (!isFirst_) out.append("\n\n");
     isFirst_ = false;

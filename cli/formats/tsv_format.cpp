@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tab-separated values: a header, then 101 lines a verb.
 #include "cli/format.h"
+#include "engine/windows1252.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -12,25 +13,25 @@ std::string_view formOf(std::string_view box) {
 
 class TsvFormat final : public Format {
  public:
-  void begin(std::string& out) override {
+  void begin(Utf8Text& out) override {
     out.append("infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\n");
   }
-  void append(std::string& out, const Answer& answer) override {
+  void append(Utf8Text& out, const Answer& answer) override {
     if (answer.isRefused) return;
     for (int slot = 0; slot < engine::kSlotCount; ++slot) appendSlot(out, answer, slot);
   }
 
  private:
-  static void appendSlot(std::string& out, const Answer& answer, int slot) {
+  static void appendSlot(Utf8Text& out, const Answer& answer, int slot) {
     const engine::Display& shown = answer.conjugation.shown;
     const auto position = static_cast<std::size_t>(slot);
     const engine::Tense& tense = engine::tenseOf(slot);
     appendPrintable(out, formOf(shown.boxes[engine::slot::kInfinitive]));
-    out.append("\t").append(std::to_string(slot));
-    for (const std::string_view field : {tense.mood, tense.name, engine::personOf(slot)})
+    out.append("\t").append(decimal(slot));
+    for (const Utf8View field : {tense.mood, tense.name, engine::personOf(slot)})
       out.append("\t").append(field);
     out.push_back('\t');
-    if (slot < engine::kPersonalSlotCount) out.append(shown.pronouns[position]);
+    if (slot < engine::kPersonalSlotCount) engine::appendUtf8(out, shown.pronouns[position]);
     out.push_back('\t');
     appendPrintable(out, formOf(shown.boxes[position]));
     out.push_back('\n');

@@ -16,17 +16,17 @@ namespace odmiennik::testing {
 namespace {
 
 // Arguments end with a zero byte, as the system hands them over.
-std::vector<std::string> argumentsOf(std::string_view bytes) {
-  std::vector<std::string> arguments;
+std::vector<Utf8Text> argumentsOf(std::string_view bytes) {
+  std::vector<Utf8Text> arguments;
   while (!bytes.empty()) {
     const auto end = std::min(bytes.find('\0'), bytes.size());
-    arguments.emplace_back(bytes.substr(0, end));
+    arguments.emplace_back(asUtf8(bytes.substr(0, end)));
     bytes.remove_prefix(std::min(end + 1, bytes.size()));
   }
   return arguments;
 }
 
-bool isHarmless(std::string_view text) {
+bool isHarmless(Utf8View text) {
   while (!text.empty()) {
     const engine::DecodedCodePoint letter = engine::decodeUtf8(text);
     if (letter.length == 0) return false;
@@ -36,25 +36,25 @@ bool isHarmless(std::string_view text) {
   return true;
 }
 
-void openTheWindow(const std::vector<std::string>& arguments) {
+void openTheWindow(const std::vector<Utf8Text>& arguments) {
   const app::ProgramArguments read = app::programArguments(arguments, "1.2.3");
   require(isHarmless(read.told), "what is told obeys nobody");
   require(!read.isRefused || !read.told.empty(), "a refusal says why");
   if (read.folder) require(!read.folder->ends_with('/'), "a folder has no separator at its end");
 }
 
-bool isAmong(const std::vector<std::string>& arguments, std::string_view view) {
-  return std::ranges::any_of(arguments, [&](const std::string& argument) {
+bool isAmong(const std::vector<Utf8Text>& arguments, Utf8View view) {
+  return std::ranges::any_of(arguments, [&](const Utf8Text& argument) {
     return view.data() >= argument.data() &&
            view.data() + view.size() <= argument.data() + argument.size();
   });
 }
 
-void startTheCommand(const std::vector<std::string>& arguments) {
+void startTheCommand(const std::vector<Utf8Text>& arguments) {
   const cli::ParsedOptions parsed = cli::parseOptions(arguments);
   require(isHarmless(dictionary::printable(parsed.error)), "an error can be shown");
   if (!parsed.error.empty()) return;
-  for (const std::string_view verb : parsed.options.infinitives)
+  for (const Utf8View verb : parsed.options.infinitives)
     require(isAmong(arguments, verb), "a verb is a part of the arguments");
   if (parsed.options.folder) require(!parsed.options.folder->empty(), "a folder has a name");
 }
@@ -85,7 +85,7 @@ void ask(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace odmiennik::testing;
   const std::string bytes(reinterpret_cast<const char*>(data), size);
-  const std::vector<std::string> arguments = argumentsOf(bytes);
+  const std::vector<Utf8Text> arguments = argumentsOf(bytes);
   openTheWindow(arguments);
   startTheCommand(arguments);
   ask(bytes);

@@ -22,7 +22,7 @@ constexpr const char* kFile = "Czasowniki.dat";
 constexpr std::string_view kNewVerb = "zzyzer";
 
 struct CountedMessages final : MessageBoxes {
-  Button show(MessageId id, std::string_view argument) override {
+  Button show(MessageId id, Utf8View argument) override {
     ++shown;
     require(!messageText(id, argument).empty(), "a message says something");
     return row(id).defaultButton;

@@ -14,12 +14,12 @@ using engine::FromUtf8;
 using engine::Utf8Fault;
 
 void readAsUtf8(std::string_view bytes) {
-  const FromUtf8 result = engine::fromUtf8(bytes);
+  const FromUtf8 result = engine::fromUtf8(asUtf8(bytes));
   require(result.position <= bytes.size(), "the position is inside the text");
   require((result.fault == Utf8Fault::none) == (result.position == bytes.size()),
           "a text without a fault is read to its end");
   const bool hasAccents = bytes.find('\xCC') != std::string_view::npos;  // they become one letter
-  require(hasAccents || engine::toUtf8(result.text) == bytes.substr(0, result.position),
+  require(hasAccents || engine::toUtf8(result.text) == asUtf8(bytes.substr(0, result.position)),
           "what was read is what was written");
 }
 

@@ -26,11 +26,15 @@ constexpr std::string_view kSimple = "simple ";
 constexpr std::string_view kCompound = "compound ";
 constexpr std::string_view kBetween = " | ";
 
+std::string nameOf(const engine::Tense& tense) {
+  return french(bytesOf(tense.mood)) + " " + french(bytesOf(tense.name));
+}
+
 void writePattern(std::string& out, const Pattern& pattern) {
   for (const engine::Tense& tense : engine::kTenses) {
     const auto first = static_cast<std::size_t>(tense.firstSlot);
     if (pattern.forms[first].empty()) continue;  // a tense of the other kind of pattern
-    out.append(french(tense.mood)).append(" ").append(french(tense.name)).append("\t");
+    out.append(nameOf(tense)).append("\t");
     for (std::size_t i = 0; i < static_cast<std::size_t>(tense.slotCount); ++i) {
       const std::string& form = pattern.forms[first + i];
       out.append(i == 0 ? "" : kBetween).append(form == engine::kShownMissing ? "-" : form);
@@ -51,7 +55,7 @@ void writePatterns(std::string& out, std::string_view kind,
 
 const engine::Tense& tenseNamed(std::string_view name) {
   for (const engine::Tense& tense : engine::kTenses)
-    if (name == french(tense.mood) + " " + french(tense.name)) return tense;
+    if (name == nameOf(tense)) return tense;
   throw std::runtime_error("no tense is called " + std::string(name));
 }
 
@@ -108,7 +112,7 @@ std::string patternsFile(const IndexSnapshot& snapshot) {
   std::string out(kPatternsHead);
   writePatterns(out, kSimple, snapshot.simplePatterns);
   writePatterns(out, kCompound, snapshot.compoundPatterns);
-  return engine::toUtf8(out);
+  return testing::utf8(out);
 }
 
 std::string verbsFile(const IndexSnapshot& snapshot) {
@@ -121,7 +125,7 @@ std::string verbsFile(const IndexSnapshot& snapshot) {
     if (verb.elidesJe || !compound.empty()) out.append("\t").append(compound);
     out.append(verb.elidesJe ? "\tj'\n" : "\n");
   }
-  return engine::toUtf8(out);
+  return testing::utf8(out);
 }
 
 IndexSnapshot readFiles(std::string_view patterns, std::string_view verbs) {

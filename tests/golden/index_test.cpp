@@ -20,7 +20,7 @@ std::string originOf(const engine::Conjugation& conjugation) {
     case engine::Source::builtin:
       return "builtin";
     case engine::Source::rule:
-      return "rule " + french(conjugation.model);
+      return "rule " + french(bytesOf(conjugation.model));
     case engine::Source::user:
     case engine::Source::none:
       break;
@@ -29,7 +29,7 @@ std::string originOf(const engine::Conjugation& conjugation) {
 }
 
 VerbSnapshot snapshotOf(TestProgram& program, std::string_view infinitive) {
-  program.conjugate(engine::toUtf8(infinitive));
+  program.conjugate(testing::utf8(infinitive));
   const engine::Conjugation& conjugation = program.state();
   VerbSnapshot verb{.infinitive = std::string(infinitive), .origin = originOf(conjugation)};
   verb.elidesJe = conjugation.shown.pronouns[0] == "j'";
@@ -52,9 +52,8 @@ class Differences {
   void compare(const std::string& verb, const std::string& place, const std::string& golden,
                const std::string& now) {
     if (golden == now || ++count_ > kShownDifferences) return;
-    ADD_FAILURE() << engine::toUtf8(verb) << ", " << place
-                  << "\n  golden: " << engine::toUtf8(golden)
-                  << "\n  now:    " << engine::toUtf8(now);
+    ADD_FAILURE() << testing::utf8(verb) << ", " << place << "\n  golden: " << testing::utf8(golden)
+                  << "\n  now:    " << testing::utf8(now);
   }
   [[nodiscard]] int count() const { return count_; }
 
@@ -112,7 +111,7 @@ TEST(golden_index, no_verb_keeps_a_placeholder) {
   for (const VerbSnapshot& verb : conjugateIndex())
     for (std::size_t slot = 0; slot < verb.boxes.size(); ++slot)
       EXPECT_EQ(verb.boxes[slot].find('*'), std::string::npos)
-          << engine::toUtf8(verb.infinitive) << slot;
+          << testing::utf8(verb.infinitive) << slot;
 }
 
 }  // namespace

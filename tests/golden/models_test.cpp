@@ -19,7 +19,7 @@ using engine::kAvoir;
 using engine::kEtre;
 
 std::string nameOfAuxiliary(std::uint8_t auxiliary) {
-  return std::string(dictionary::auxiliaryName(auxiliary));
+  return std::string(bytesOf(dictionary::auxiliaryName(auxiliary)));
 }
 
 // The slots of a verb, conjugated as a verb of which only the auxiliary is known.
@@ -28,8 +28,8 @@ std::string blockByRule(std::string_view infinitive, std::uint8_t auxiliary = kA
   program.forgetBuiltinVerbs();
   program.tellRecord(infinitive, auxiliary == kAvoir ? "|1|1|1|1" : "|1|1|1|2");
   program.conjugate(infinitive);
-  return "verb " + std::string(infinitive) + ", model " + std::string(program.state().model) +
-         ", " + nameOfAuxiliary(auxiliary) + "\n" +
+  return "verb " + std::string(infinitive) + ", model " +
+         std::string(bytesOf(program.state().model)) + ", " + nameOfAuxiliary(auxiliary) + "\n" +
          layOut([&](int slot) { return program.slot(slot); }) + "\n";
 }
 
@@ -89,7 +89,7 @@ TEST(golden_builtin_verbs, are_completed_with_both_auxiliaries) {
   namespace text_id = engine::text_id;
   std::string blocks;
   for (int entry = 1; entry <= dictionary::builtinVerbCount(); ++entry) {
-    const std::string infinitive = engine::toUtf8(engine::textOf(text_id::kBuiltinCount + entry));
+    const std::string infinitive = testing::utf8(engine::textOf(text_id::kBuiltinCount + entry));
     blocks += builtinBlock(infinitive, kAvoir) + builtinBlock(infinitive, kEtre);
   }
   expectGolden("builtin_verbs.txt", blocks);

@@ -140,7 +140,7 @@ const std::vector<std::string>& tensePageNames() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> pages;
     for (const app::TenseHeading& heading : app::kTenseTopics)
-      if (!heading.page.empty()) pages.emplace_back(heading.page);
+      if (!heading.page.empty()) pages.emplace_back(bytesOf(heading.page));
     return pages;
   }();
   return names;

@@ -28,7 +28,7 @@ std::vector<std::size_t> orderOf(std::string_view keyword) {
   std::vector<std::size_t> order;
   bool isNumber = false;
   while (!keyword.empty()) {
-    const engine::DecodedCodePoint read = engine::decodeUtf8(keyword);
+    const engine::DecodedCodePoint read = engine::decodeUtf8(asUtf8(keyword));
     keyword.remove_prefix(static_cast<std::size_t>(std::max(read.length, 1)));
     const bool isDigit = read.value >= U'0' && read.value <= U'9';
     const auto letter = kAlphabet.find(plainLetter(read.value));

@@ -17,7 +17,7 @@ std::vector<Source> texts() {
 
 bool isUtf8(std::string_view text) {
   while (!text.empty()) {
-    const int length = engine::decodeUtf8(text).length;
+    const int length = engine::decodeUtf8(asUtf8(text)).length;
     if (length == 0) return false;
     text.remove_prefix(static_cast<std::size_t>(length));
   }

@@ -41,7 +41,7 @@ void forEveryVerb(Check check) {
   TestProgram program;
   program.followNorm();
   for (int position = 0; position < dictionary::verbCount(); ++position) {
-    const std::string verb = engine::toUtf8(dictionary::verbAt(position));
+    const std::string verb = testing::utf8(dictionary::verbAt(position));
     program.conjugate(verb);
     check(verb, program);
   }

@@ -42,7 +42,7 @@ TEST(departures, of_the_index_are_the_golden_ones) {
   std::string departures;
   int wouldHave = 0;
   for (int position = 0; position < dictionary::verbCount(); ++position) {
-    const std::string verb = engine::toUtf8(dictionary::verbAt(position));
+    const std::string verb = testing::utf8(dictionary::verbAt(position));
     const Phrases ours = phrasesOf(system, verb), norm = phrasesOf(inNorm, verb);
     std::string lines;
     for (int slot = 0; slot < engine::kSlotCount; ++slot) {

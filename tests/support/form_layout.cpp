@@ -17,13 +17,13 @@ std::size_t letterCount(std::string_view utf8) {
 }
 
 std::string nameOfTense(const engine::Tense& tense) {
-  return std::string(tense.mood) + " " + std::string(tense.name);
+  return std::string(bytesOf(tense.mood)) + " " + std::string(bytesOf(tense.name));
 }
 
 }  // namespace
 
 std::string nameOfSlot(int slot) {
-  const std::string_view person = engine::personOf(slot);
+  const std::string_view person = bytesOf(engine::personOf(slot));
   return nameOfTense(engine::tenseOf(slot)) + (person.empty() ? "" : ", ") + std::string(person);
 }
 

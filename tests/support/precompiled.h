@@ -6,6 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <string_view>
 #include <vector>
+
+#include "tests/support/utf8_printing.h"

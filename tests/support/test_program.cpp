@@ -21,11 +21,13 @@ std::string inARow(int firstSlot, TextOfSlot textOfSlot) {
 }  // namespace
 
 std::string french(std::string_view utf8) {
-  engine::FromUtf8 result = engine::fromUtf8(utf8);
+  engine::FromUtf8 result = engine::fromUtf8(asUtf8(utf8));
   if (result.fault != engine::Utf8Fault::none)
     throw std::invalid_argument("not a text of Windows-1252: " + std::string(utf8));
   return std::move(result.text);
 }
+
+std::string utf8(std::string_view french) { return std::string(bytesOf(engine::toUtf8(french))); }
 
 TestProgram::TestProgram() : driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}) {}
 
@@ -49,20 +51,18 @@ void TestProgram::chooseAuxiliary(std::uint8_t auxiliary, bool isEditing) {
   engine::Driver::toggleAuxiliary(conjugation_, auxiliary == engine::kAvoir, isEditing);
 }
 
-std::string TestProgram::slot(int number) const {
-  return engine::toUtf8(conjugation_.forms[number]);
-}
+std::string TestProgram::slot(int number) const { return utf8(conjugation_.forms[number]); }
 
 std::string TestProgram::box(int number) const {
-  return engine::toUtf8(conjugation_.shown.boxes[static_cast<std::size_t>(number)]);
+  return utf8(conjugation_.shown.boxes[static_cast<std::size_t>(number)]);
 }
 
 std::string TestProgram::pronoun(int number) const {
-  return engine::toUtf8(conjugation_.shown.pronouns[static_cast<std::size_t>(number)]);
+  return utf8(conjugation_.shown.pronouns[static_cast<std::size_t>(number)]);
 }
 
 std::string TestProgram::caption(int number) const {
-  return engine::toUtf8(conjugation_.shown.captions[static_cast<std::size_t>(number)]);
+  return utf8(conjugation_.shown.captions[static_cast<std::size_t>(number)]);
 }
 
 std::string TestProgram::tense(int firstSlot) const {

@@ -19,6 +19,9 @@ namespace odmiennik::testing {
 // Test texts are UTF-8; the engine's are Windows-1252. A letter outside is a mistake of the test.
 [[nodiscard]] std::string french(std::string_view utf8);
 
+// The other way, whatever the letters.
+[[nodiscard]] std::string utf8(std::string_view french);
+
 // A record of the user-verbs file: slot texts (UTF-8) by slot number, all others empty.
 struct UserRecord {
   std::map<int, std::string> slots;

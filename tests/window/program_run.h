@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QTimer>
 
+#include "engine/utf8.h"
 #include "tests/unit/dictionary/program_files.h"
 #include "tests/window/program_under_test.h"
 
@@ -27,7 +28,7 @@ class ProgramHome final : public testing::ProgramFolder {
 struct ProgramRun {
   explicit ProgramRun(ProgramHome& home, dictionary::FileSystem& files = dictionary::systemFiles(),
                       const std::optional<std::string>& verb = {})
-      : program({.folder = home.path().string(),
+      : program({.folder = Utf8Text(asUtf8(home.path().string())),
                  .messages = messages,
                  .store = home.store,
                  .end = [this] { ++ends; },

@@ -12,7 +12,7 @@ namespace odmiennik::window_test {
 AnsweredMessages::AnsweredMessages() = default;
 AnsweredMessages::~AnsweredMessages() = default;
 
-dictionary::Button AnsweredMessages::show(dictionary::MessageId id, std::string_view /*argument*/) {
+dictionary::Button AnsweredMessages::show(dictionary::MessageId id, Utf8View /*argument*/) {
   WatchedApplication::mayOpenModal();
   shown.push_back(id);
   if (whileShown) whileShown();

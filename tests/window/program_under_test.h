@@ -8,12 +8,12 @@
 #include <QTest>
 #include <functional>
 #include <map>
-#include <string>
 #include <vector>
 
 #include "app/controls/form_box.h"
 #include "app/controls/main_menu.h"
 #include "app/program.h"
+#include "engine/utf8.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/window/watched_application.h"
 
@@ -28,7 +28,7 @@ class AnsweredMessages final : public dictionary::MessageBoxes {
   AnsweredMessages& operator=(const AnsweredMessages&) = delete;
   ~AnsweredMessages() override;
 
-  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override;
+  dictionary::Button show(dictionary::MessageId id, Utf8View argument) override;
 
   std::vector<dictionary::MessageId> shown;
   dictionary::Button answer = dictionary::Button::ok;           // to every message
@@ -42,10 +42,10 @@ struct ProgramUnderTest {
   AnsweredMessages messages;
   app::UserStore store{QString::fromStdString((folder.path() / "store.ini").string())};
   int ends = 0;  // how often the program has been ended at once
-  app::Program program{
-      {.folder = folder.path().string(), .messages = messages, .store = store, .end = [this] {
-         ++ends;
-       }}};
+  app::Program program{{.folder = Utf8Text(asUtf8(folder.path().string())),
+                        .messages = messages,
+                        .store = store,
+                        .end = [this] { ++ends; }}};
   app::MainWindow& window = program.window();
 
   ProgramUnderTest();

@@ -23,7 +23,7 @@ std::string withTypedLink(std::string page) {
 std::string asciiPage(std::string_view utf8) {
   std::string page;
   while (!utf8.empty()) {
-    const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
+    const engine::DecodedCodePoint letter = engine::decodeUtf8(asUtf8(utf8));
     if (letter.length == 0) throw std::runtime_error("the page is not UTF-8");
     if (letter.value < 0x80) {
       page += static_cast<char>(letter.value);

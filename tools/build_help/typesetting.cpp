@@ -42,7 +42,7 @@ Piece takePiece(std::string_view& page) {
     const std::string_view entity = take(page, end + 1);
     return {entity, entity == kFixedBlank ? kFixedBlankLetter : U'&'};
   }
-  const engine::DecodedCodePoint letter = engine::decodeUtf8(page);
+  const engine::DecodedCodePoint letter = engine::decodeUtf8(asUtf8(page));
   if (letter.length == 0) throw std::runtime_error("the page is not UTF-8");
   return {take(page, static_cast<std::size_t>(letter.length)), letter.value};
 }

@@ -51,7 +51,7 @@ std::string_view entityOfMarkup(char32_t letter) {
 
 // Takes the first letter off the text.
 char32_t takeLetter(std::string_view& utf8) {
-  const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
+  const engine::DecodedCodePoint letter = engine::decodeUtf8(asUtf8(utf8));
   if (letter.length == 0) throw std::runtime_error("a text is not UTF-8");
   utf8.remove_prefix(static_cast<std::size_t>(letter.length));
   return letter.value;

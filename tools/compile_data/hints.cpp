@@ -21,10 +21,11 @@ void generateHints(const Paths& sources, std::ostream& out) {
     names << "  " << name << ",\n";
     texts << "    " << literal(line.takeRest("a text is expected")) << ",\n";
   }
-  out << "#pragma once\n#include <cstdint>\n#include <string_view>\nnamespace odmiennik::app {\n"
+  out << "#pragma once\n#include <cstdint>\n#include \"engine/utf8.h\"\nnamespace odmiennik::app "
+         "{\n"
       << "enum class HintId : std::uint8_t {\n"
       << names.str() << "};\n"
-      << "inline constexpr std::string_view kHints[] = {\n"
+      << "inline constexpr Utf8View kHints[] = {\n"
       << texts.str() << "};\n}\n";
 }
 

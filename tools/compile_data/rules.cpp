@@ -47,7 +47,7 @@ void writeModels(std::ostream& out, const std::string& group,
     const SourceModel& model = models[i];
     const std::string name = "k" + group + "Model" + std::to_string(i);
     writeModelArrays(out, model, name);
-    rows << "    {" << viewLiteral(model.name) << ", " << model.cut << ", "
+    rows << "    {" << literal(model.name) << ", " << model.cut << ", "
          << (model.takesGroup ? "true" : "false") << ", "
          << (model.steps.empty() ? "{}" : name + "Steps") << ", "
          << (model.verbs.empty() ? "{}" : name + "Verbs") << "},\n";

@@ -28,7 +28,7 @@ namespace {
 
 bool isUtf8(std::string_view text) {
   while (!text.empty()) {
-    const int length = engine::decodeUtf8(text).length;
+    const int length = engine::decodeUtf8(asUtf8(text)).length;
     if (length == 0) return false;
     text.remove_prefix(static_cast<std::size_t>(length));
   }
@@ -62,7 +62,7 @@ std::vector<std::string> split(std::string_view text, char separator) {
 }
 
 std::string french(const SourceFile& file, const SourceLine& line, std::string_view utf8) {
-  const engine::FromUtf8 converted = engine::fromUtf8(utf8);
+  const engine::FromUtf8 converted = engine::fromUtf8(asUtf8(utf8));
   if (converted.fault != engine::Utf8Fault::none)
     file.fail(line, "a letter outside Windows-1252 in \"" + std::string(utf8) + "\"");
   return converted.text;

@@ -52,16 +52,16 @@ void generateTenses(const Paths& sources, std::ostream& out) {
 void generateTenseHelp(const Paths& sources, std::ostream& out) {
   const TenseTable tenses(sources.at(0));
   const std::vector<const SourceTense*> headings = numberedHeadings(tenses);
-  out << "#pragma once\n#include <array>\n#include <string_view>\n"
+  out << "#pragma once\n#include <array>\n#include \"engine/utf8.h\"\n"
       << "namespace odmiennik::app {\n"
       << "// A heading lblCzas: the page that it opens, if any, and the first slot below it.\n"
-      << "struct TenseHeading {\n  std::string_view page;\n  int firstSlot;\n};\n"
+      << "struct TenseHeading {\n  Utf8View page;\n  int firstSlot;\n};\n"
       << "inline constexpr std::array<TenseHeading, " << headings.size() << "> kTenseTopics{{\n";
   for (const SourceTense* tense : headings)
     out << "    {" << literal(tense->isHeadingLink ? tense->page : "") << ", " << tense->firstSlot
         << "},\n";
   out << "}};\n// By tense: the page that F1 opens in its boxes.\ninline constexpr "
-         "std::string_view kTensePages[] = {\n";
+         "Utf8View kTensePages[] = {\n";
   for (const SourceTense& tense : tenses.rows()) out << "    " << literal(tense.page) << ",\n";
   out << "};\n}\n";
 }

@@ -23,9 +23,9 @@ void tell(std::string_view what, std::string_view text) {
 // Yes and OK to everything.
 class ToldMessages final : public MessageBoxes {
  public:
-  Button show(MessageId id, std::string_view argument) override {
+  Button show(MessageId id, Utf8View argument) override {
     const bool isQuestion = id == MessageId::settingsWillBeReset;
-    tell(isQuestion ? "asked" : "message", messageText(id, argument));
+    tell(isQuestion ? "asked" : "message", bytesOf(messageText(id, argument)));
     return isQuestion ? Button::ok : row(id).defaultButton;
   }
 };
@@ -42,7 +42,7 @@ UserVerbRecord recordOf(std::string_view verb) {
 
 class Driver {
  public:
-  explicit Driver(std::string_view folder)
+  explicit Driver(Utf8View folder)
       : prefix_(AppFolder(folder)),
         verbs_(prefix_, 0, messages_),
         settings_({prefix_, verbs_, colours(), messages_, [this] { hasEnded_ = true; }}) {}
@@ -103,7 +103,7 @@ class Driver {
     tell("reset", hasEnded_ ? "ended" : "cancelled");
   }
 
-  std::string prefix_;
+  Utf8Text prefix_;
   ToldMessages messages_;
   bool hasEnded_ = false;
   UserVerbsFile verbs_;

@@ -62,7 +62,7 @@ TEST(demonstration_script, the_eye_has_time_for_every_step) {
 
 TEST(demonstration_script, both_verbs_are_in_the_index) {
   dictionary::GeneralVerbIndex index;
-  for (const std::string_view verb : {kTypedVerb, kPickedVerb})
+  for (const Utf8View verb : {kTypedVerb, kPickedVerb})
     EXPECT_FALSE(index.record(engine::fromUtf8(verb).text).empty()) << verb;
 }
 

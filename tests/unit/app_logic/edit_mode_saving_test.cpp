@@ -11,10 +11,10 @@ using dictionary::Button;
 using odmiennik::testing::EditWindowFake;
 using Command = bool (EditMode::*)();
 using Diary = std::vector<std::string>;
-using Texts = std::vector<std::string>;
+using Texts = std::vector<Utf8Text>;
 
-constexpr std::string_view kSaveQuestion = "Zapisać edytowany czasownik - 'ab'?";
-constexpr std::string_view kRefusal = "Musisz wpisać poprawny bezokolicznik.";
+constexpr Utf8View kSaveQuestion = "Zapisać edytowany czasownik - 'ab'?";
+constexpr Utf8View kRefusal = "Musisz wpisać poprawny bezokolicznik.";
 
 // Edits "aller" and changes its infinitive and a form.
 class EditedVerb {
@@ -30,7 +30,7 @@ class EditedVerb {
   void expectNothingLost(Command command) {
     window.messages.answers = {Button::yes};
     const EditWindowFake::Texts before = window.texts;
-    const std::string caption = window.seen.windowCaption;
+    const Utf8Text caption = window.seen.windowCaption;
     EXPECT_FALSE(window.give(command));
     EXPECT_EQ(window.texts, before);
     EXPECT_EQ(window.seen.windowCaption, caption);
@@ -73,7 +73,7 @@ TEST(saving_an_edited_verb, leaving_right_after_it_asks_nothing) {
 TEST(saving_an_edited_verb, refuses_an_infinitive_that_is_none_and_keeps_editing) {
   EditedVerb edited("ab");
   edited.expectNothingLost(&EditMode::save);
-  EXPECT_EQ(edited.window.messages.shown, Texts{std::string(kRefusal)});
+  EXPECT_EQ(edited.window.messages.shown, Texts{Utf8Text(kRefusal)});
   EXPECT_EQ(edited.window.diary, Diary{});
 }
 
@@ -89,7 +89,7 @@ TEST(saving_an_edited_verb, names_the_form_that_cannot_be_saved_and_leads_to_it)
   EXPECT_EQ(edited.window.diary, Diary{"focus 7"});
 }
 
-constexpr std::string_view kCommaQuestion =
+constexpr Utf8View kCommaQuestion =
     "Forma „a, b” zawiera przecinek, który w pliku rozdziela formy. Zapisać mimo to?";
 
 TEST(saving_an_edited_verb, asks_about_a_comma_and_leads_to_it_on_no) {
@@ -97,7 +97,7 @@ TEST(saving_an_edited_verb, asks_about_a_comma_and_leads_to_it_on_no) {
   edited.window.type(3, "a, b");
   edited.window.messages.answers = {Button::no};
   EXPECT_FALSE(edited.window.give(&EditMode::save));
-  EXPECT_EQ(edited.window.messages.shown, Texts{std::string(kCommaQuestion)});
+  EXPECT_EQ(edited.window.messages.shown, Texts{Utf8Text(kCommaQuestion)});
   EXPECT_EQ(edited.window.diary, Diary{"focus 3"});
   EXPECT_TRUE(edited.window.seen.isEditing);
 }
@@ -207,8 +207,7 @@ class save_question : public ::testing::TestWithParam<Command> {};
 TEST_P(save_question, loses_nothing_when_the_infinitive_is_refused) {
   EditedVerb edited("ab");
   edited.expectNothingLost(GetParam());
-  EXPECT_EQ(edited.window.messages.shown,
-            (Texts{std::string(kSaveQuestion), std::string(kRefusal)}));
+  EXPECT_EQ(edited.window.messages.shown, (Texts{Utf8Text(kSaveQuestion), Utf8Text(kRefusal)}));
   EXPECT_EQ(edited.window.diary, Diary{});
 }
 

@@ -11,7 +11,7 @@ using dictionary::Button;
 using odmiennik::testing::EditWindowFake;
 using odmiennik::testing::french;
 using Diary = std::vector<std::string>;
-using Texts = std::vector<std::string>;
+using Texts = std::vector<Utf8Text>;
 
 TEST(edit_mode, a_window_just_opened_shows_its_version_and_the_first_caption) {
   EditWindowFake window("infinitif");
@@ -161,7 +161,7 @@ TEST(edit_mode, the_caption_takes_the_infinitive_of_slot_96_on_entering) {
   EXPECT_EQ(window.seen.windowCaption, "Odmiennik - edycja \"aller\"");
 }
 
-constexpr std::string_view kRestoreQuestion =
+constexpr Utf8View kRestoreQuestion =
     "Usunąć zapisaną odmianę czasownika „laver” i odmienić go od nowa?";
 
 TEST(restoring, removes_the_record_and_conjugates_the_shown_verb_anew_on_yes) {
@@ -170,7 +170,7 @@ TEST(restoring, removes_the_record_and_conjugates_the_shown_verb_anew_on_yes) {
   window.stored = "laver";
   window.messages.answers = {Button::yes};
   EXPECT_TRUE(window.give(&EditMode::restore));
-  EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
+  EXPECT_EQ(window.messages.shown, Texts{Utf8Text(kRestoreQuestion)});
   EXPECT_EQ(window.diary, (Diary{"remove laver", "conjugate se laver"}));
 }
 
@@ -178,7 +178,7 @@ TEST(restoring, does_nothing_on_no) {
   EditWindowFake window("laver");
   window.shown = window.stored = "laver";
   EXPECT_FALSE(window.give(&EditMode::restore));
-  EXPECT_EQ(window.messages.shown, Texts{std::string(kRestoreQuestion)});
+  EXPECT_EQ(window.messages.shown, Texts{Utf8Text(kRestoreQuestion)});
   EXPECT_EQ(window.diary, Diary{});
 }
 

@@ -12,6 +12,7 @@
 #include "app/logic/saving.h"
 #include "data/messages.h"
 #include "engine/slots.h"
+#include "engine/utf8.h"
 #include "tests/support/test_program.h"
 
 namespace odmiennik::testing {
@@ -19,7 +20,7 @@ namespace odmiennik::testing {
 // Answers message boxes in the user's stead, in the order given; a question without an answer left
 // is answered No.
 struct MessagesFake final : dictionary::MessageBoxes {
-  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override {
+  dictionary::Button show(dictionary::MessageId id, Utf8View argument) override {
     shown.push_back(dictionary::messageText(id, argument));
     whileShown();
     if (answers.empty()) return dictionary::Button::no;
@@ -29,7 +30,7 @@ struct MessagesFake final : dictionary::MessageBoxes {
   }
   std::deque<dictionary::Button> answers;
   std::function<void()> whileShown = [] {};  // what is done before the answer
-  std::vector<std::string> shown;
+  std::vector<Utf8Text> shown;
 };
 
 // Like the main window: a change of a text, whoever makes it, is told to edit mode.

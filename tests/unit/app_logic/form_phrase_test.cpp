@@ -11,7 +11,7 @@ namespace odmiennik::app {
 namespace {
 
 // The phrase of a box whose text is given in UTF-8.
-std::string phrase(int slot, std::string_view text, const engine::EngineFlags& flags = {}) {
+Utf8Text phrase(int slot, Utf8View text, const engine::EngineFlags& flags = {}) {
   return formPhrase(slot, engine::fromUtf8(text).text, flags);
 }
 
@@ -123,22 +123,22 @@ TEST(form_phrase, is_empty_where_there_is_no_form) {
   }
 }
 
-std::string tip(const ShownForm& shown) { return formTip(shown); }
+Utf8Text tip(const ShownForm& shown) { return formTip(shown); }
 
 constexpr const char* kPageKey = "F1: kiedy używa się tej formy";
 
 TEST(form_tip, says_the_phrase_and_the_key_that_explains_the_form) {
-  EXPECT_EQ(tip({.slot = 0, .text = "parle", .flags = {}}), std::string("je parle\n") + kPageKey);
+  EXPECT_EQ(tip({.slot = 0, .text = "parle", .flags = {}}), Utf8Text("je parle\n") + kPageKey);
 }
 
 TEST(form_tip, says_that_a_form_is_the_users_own) {
   EXPECT_EQ(tip({.slot = 98, .text = "parlant", .flags = {}, .isOwn = true}),
-            std::string("parlant\nz własnego pliku czasowników\n") + kPageKey);
+            Utf8Text("parlant\nz własnego pliku czasowników\n") + kPageKey);
 }
 
 TEST(form_tip, says_that_there_is_no_form) {
   EXPECT_EQ(tip({.slot = 98, .text = " -- ", .flags = {}}),
-            std::string("ten czasownik nie ma tej formy\n") + kPageKey);
+            Utf8Text("ten czasownik nie ma tej formy\n") + kPageKey);
 }
 
 TEST(form_tip, says_nothing_of_an_empty_box_but_the_entry_box) {

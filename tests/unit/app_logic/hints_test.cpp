@@ -26,7 +26,7 @@ TEST(hints, a_sign_is_no_letter) {
 }
 
 TEST(hints, a_text_without_a_place_to_fill_stays_as_it_is) {
-  for (const std::string_view text : kHints) EXPECT_FALSE(text.empty());
+  for (const Utf8View text : kHints) EXPECT_FALSE(text.empty());
   EXPECT_EQ(hint(HintId::letterRefused, "ł"), "Litery „ł” francuski nie zna.");
 }
 

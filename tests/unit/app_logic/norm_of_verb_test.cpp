@@ -19,7 +19,7 @@ class norm_of_verb : public ::testing::Test {
     program_.conjugate(verb);
     norm_.compareWith(program_.state(), isAuxiliaryChosen);
   }
-  std::string of(int slot) { return engine::toUtf8(norm_.of(slot)); }
+  std::string of(int slot) { return testing::utf8(norm_.of(slot)); }
   bool isSilent() {
     for (int slot = 0; slot < engine::kSlotCount; ++slot)
       if (!norm_.of(slot).empty()) return false;

@@ -9,12 +9,12 @@
 namespace odmiennik::app {
 namespace {
 
-ProgramArguments read(const std::vector<std::string>& arguments) {
+ProgramArguments read(const std::vector<Utf8Text>& arguments) {
   return programArguments(arguments, "1.2.3");
 }
 
 // Expects the arguments to be refused with a sentence that holds `reason`, and with the usage.
-void expectRefused(const std::vector<std::string>& arguments, std::string_view reason) {
+void expectRefused(const std::vector<Utf8Text>& arguments, Utf8View reason) {
   const ProgramArguments refused = read(arguments);
   EXPECT_TRUE(refused.isRefused);
   EXPECT_TRUE(refused.told.starts_with("odmiennik: ")) << refused.told;
@@ -55,8 +55,8 @@ TEST(program_arguments, the_folder_is_taken_byte_for_byte_but_for_its_end) {
 }
 
 TEST(program_arguments, a_folder_and_a_verb_go_together_in_any_order) {
-  for (const auto& arguments : {std::vector<std::string>{"--folder", "/a", "aimer"},
-                                std::vector<std::string>{"aimer", "--folder", "/a"}}) {
+  for (const auto& arguments : {std::vector<Utf8Text>{"--folder", "/a", "aimer"},
+                                std::vector<Utf8Text>{"aimer", "--folder", "/a"}}) {
     EXPECT_EQ(read(arguments).folder, "/a");
     EXPECT_EQ(read(arguments).verb, "aimer");
   }

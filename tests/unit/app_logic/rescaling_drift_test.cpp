@@ -22,7 +22,7 @@ void resize(Layout& layout, TwipSize window) {
 // Boxes, shapes and lines all over a window, of odd sizes.
 Layout someLayout() {
   Layout layout{.design = kDesign, .windowFontSize = 8.25F};
-  for (const std::string_view name : {"txtCzasownik", "shpLiniaTrybu", "linLiniaOddzielająca"})
+  for (const Utf8View name : {"txtCzasownik", "shpLiniaTrybu", "linLiniaOddzielająca"})
     for (int i = 0; i < 100; ++i) {
       const auto odd = static_cast<float>(97 * i + 31);
       layout.controls.push_back({.name = name,

@@ -27,7 +27,7 @@ LayoutControl enlarged(const LayoutControl& control) {
   return layout.controls[0];
 }
 
-LayoutControl named(std::string_view name, std::string_view tag = {}) {
+LayoutControl named(Utf8View name, Utf8View tag = {}) {
   return {.name = name,
           .tag = tag,
           .left = 101,
@@ -42,7 +42,7 @@ LayoutControl named(std::string_view name, std::string_view tag = {}) {
 }
 
 TEST(rescaling, gives_boxes_whole_sizes) {
-  for (const std::string_view name :
+  for (const Utf8View name :
        {"txtCzasownik", "cmdFrancuskaLitera", "chkFrancuskaLitera", "chkZAvoir",
         "frmInformacjeOCzasowniku", "cmdOdmień", "lblCzas", "lblSubjoncif"}) {
     const LayoutControl control = enlarged(named(name));
@@ -84,7 +84,7 @@ TEST(rescaling, moves_both_ends_of_lines_and_nothing_else_of_them) {
 }
 
 TEST(rescaling, a_control_with_a_tag_moves_whatever_its_kind) {
-  for (const std::string_view name : {"txtCzasownik", "shpLiniaTrybu", "picZnak"}) {
+  for (const Utf8View name : {"txtCzasownik", "shpLiniaTrybu", "picZnak"}) {
     const LayoutControl control = enlarged(named(name, "x"));
     EXPECT_EQ(control.left, 126.25F) << name;
     EXPECT_EQ(control.top, 49.5F) << name;

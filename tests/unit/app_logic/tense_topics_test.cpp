@@ -14,7 +14,7 @@ namespace {
 using Change = TopicHover::Change;
 
 TEST(tense_topics, every_heading_of_a_tense_has_a_page_of_its_own) {
-  std::set<std::string> pages;
+  std::set<Utf8Text> pages;
   for (int heading = 0; heading < kTopicHeadings; ++heading)
     pages.insert(topicOf(heading).value_or(""));
   EXPECT_EQ(pages.size(), 17U);

@@ -166,8 +166,7 @@ TEST(list_choices, are_the_users_verbs_and_26_letters) {
   ASSERT_EQ(kListChoices.size(), 27U);
   EXPECT_EQ(kListChoices[0], "Wprowadzone przez użytkownika");
   for (int choice = 1; choice <= 26; ++choice)
-    EXPECT_EQ(kListChoices[static_cast<std::size_t>(choice)],
-              std::string(1, letterOfChoice(choice)));
+    EXPECT_EQ(kListChoices[static_cast<std::size_t>(choice)], Utf8Text(1, letterOfChoice(choice)));
 }
 
 TEST(list_choices, all_letters_together_hold_the_number_behind_the_slash) {

@@ -16,7 +16,7 @@ constexpr AnswerOptions kEditing{.isEditing = true};
 constexpr AnswerOptions kWithEtre{.auxiliary = engine::kEtre};
 constexpr AnswerOptions kWithAvoir{.auxiliary = engine::kAvoir};
 
-using Texts = std::vector<std::string>;
+using Texts = std::vector<Utf8Text>;
 
 const char* const kNotConjugable =
     "Podany czasownik nie został znaleziony i nie było możliwe odmienienie go regularnie.";

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "cli/answerer.h"
 #include "cli/format.h"
+#include "engine/utf8.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -22,18 +22,18 @@ class Asking {
   explicit Asking(AnswerOptions options = {}) : answerer_(userVerbs_, messages_, options) {}
 
   // `line` in UTF-8, as it stands on standard input.
-  Answer answer(std::string_view line) {
+  Answer answer(Utf8View line) {
     question_ = questionOf({.number = 1, .bytes = line});
     return answerer_.answer(question_);
   }
 
-  std::string textOf(Format& format, std::string_view line) {
-    std::string out;
+  Utf8Text textOf(Format& format, Utf8View line) {
+    Utf8Text out;
     format.append(out, answer(line));
     return out;
   }
 
-  std::string box(std::string_view line, int slot) {
+  Utf8Text box(Utf8View line, int slot) {
     return engine::toUtf8(answer(line).conjugation.shown.boxes[static_cast<std::size_t>(slot)]);
   }
 

@@ -9,14 +9,14 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string recordOf(std::string_view infinitive) {
-  std::string out;
+Utf8Text recordOf(Utf8View infinitive) {
+  Utf8Text out;
   appendRecord(out, infinitive);
   return out;
 }
 
-std::string completionOf(std::string_view prefix) {
-  std::string out;
+Utf8Text completionOf(Utf8View prefix) {
+  Utf8Text out;
   appendCompletion(out, prefix);
   return out;
 }
@@ -40,8 +40,8 @@ TEST(index_queries, a_prefix_is_completed_letter_for_letter) {
 }
 
 TEST(index_queries, a_letter_lists_its_accented_verbs_too) {
-  std::string lower;
-  std::string upper;
+  Utf8Text lower;
+  Utf8Text upper;
   EXPECT_TRUE(appendVerbsOfLetter(lower, "e"));
   EXPECT_TRUE(appendVerbsOfLetter(upper, "E"));
   EXPECT_EQ(lower, upper);
@@ -49,20 +49,20 @@ TEST(index_queries, a_letter_lists_its_accented_verbs_too) {
 }
 
 TEST(index_queries, all_letters_together_list_the_whole_index) {
-  std::string all;
+  Utf8Text all;
   for (char letter = 'a'; letter <= 'z'; ++letter) appendVerbsOfLetter(all, {&letter, 1});
   EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 7342);
 }
 
 TEST(index_queries, strings_are_raw_and_ascending) {
-  std::string out;
+  Utf8Text out;
   EXPECT_TRUE(appendStrings(out, {}));
   EXPECT_TRUE(out.starts_with("1\tme \n2\tte \n3\tse \n"));
   EXPECT_NE(out.find("\n2041\taurainet\n"), std::string::npos);
   EXPECT_NE(out.find("\n1042\têtre\n"), std::string::npos);
   int last = 0;
   for (std::size_t start = 0; start < out.size(); start = out.find('\n', start) + 1) {
-    const int identifier = std::stoi(out.substr(start, 6));
+    const int identifier = std::stoi(std::string(bytesOf(Utf8View(out).substr(start, 6))));
     EXPECT_GT(identifier, last);
     last = identifier;
   }

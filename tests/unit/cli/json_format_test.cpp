@@ -7,19 +7,19 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string jsonOf(std::string_view line) {
+Utf8Text jsonOf(Utf8View line) {
   Asking asking;
   return asking.textOf(*makeJsonFormat(), line);
 }
 
 TEST(json_format, keys_stand_in_the_contracts_order) {
-  const std::string json = jsonOf("parler");
+  const Utf8Text json = jsonOf("parler");
   std::size_t last = 0;
   for (const char* key :
        {"typed", "slots", "boxes", "pronouns", "captions", "labels", "group", "transitive",
         "intransitive", "auxiliary", "government", "aux_checked", "aux_enabled", "messages",
         "pronominal", "impersonal", "h_aspirate", "source", "model"}) {
-    const std::size_t at = json.find("\"" + std::string(key) + "\":");
+    const std::size_t at = json.find("\"" + Utf8Text(key) + "\":");
     ASSERT_NE(at, std::string::npos) << key;
     EXPECT_GE(at, last) << key;
     last = at;
@@ -27,7 +27,7 @@ TEST(json_format, keys_stand_in_the_contracts_order) {
 }
 
 TEST(json_format, what_follows_the_table_is_exactly_this) {
-  const std::string json = jsonOf("parler");
+  const Utf8Text json = jsonOf("parler");
   EXPECT_EQ(json.substr(json.find(",\"captions\"")),
             R"(,"captions":["Il faut que ...","Il fallait que ...","Il faut que ...",)"
             R"("Il fallait que ..."],"labels":{"group":"pierwsza","transitive":"tak",)"
@@ -39,7 +39,7 @@ TEST(json_format, what_follows_the_table_is_exactly_this) {
 
 TEST(json_format, an_object_is_one_line) {
   for (const char* line : {"parler", "", "a\nb", "\x01\x02", "\xFF", "resetuj"}) {
-    const std::string json = jsonOf(line);
+    const Utf8Text json = jsonOf(line);
     EXPECT_EQ(json.find('\n'), json.size() - 1) << line;
   }
 }
@@ -49,7 +49,7 @@ TEST(json_format, typed_text_that_is_no_utf8_has_replacement_characters) {
 }
 
 TEST(json_format, slots_carry_reflexive_pronouns_and_pronouns_stand_apart) {
-  const std::string json = jsonOf("s'habiller");
+  const Utf8Text json = jsonOf("s'habiller");
   EXPECT_NE(json.find("\"slots\":[\"m'habille\","), std::string::npos);
   EXPECT_NE(json.find("\"pronouns\":[\"je\",\"tu\",\"il\",\"ns\",\"vs\",\"ils\","),
             std::string::npos);

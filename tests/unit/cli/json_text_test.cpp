@@ -12,14 +12,14 @@ namespace {
 
 using namespace engine::literals;
 
-std::string french(std::string_view text) {
-  std::string out;
+Utf8Text french(std::string_view text) {
+  Utf8Text out;
   appendJsonFrench(out, text);
   return out;
 }
 
-std::string utf8(std::string_view text) {
-  std::string out;
+Utf8Text utf8(Utf8View text) {
+  Utf8Text out;
   appendJsonUtf8(out, text);
   return out;
 }
@@ -32,8 +32,8 @@ TEST(json_text, quotes_and_backslashes_are_escaped) {
 }
 
 TEST(json_text, control_characters_are_escaped) {
-  constexpr std::string_view kControls("\0\b\t\n\f\r\x1f", 7);
-  EXPECT_EQ(french(kControls), R"("\u0000\b\t\n\f\r\u001f")");
+  constexpr Utf8View kControls("\0\b\t\n\f\r\x1f", 7);
+  EXPECT_EQ(french(bytesOf(kControls)), R"("\u0000\b\t\n\f\r\u001f")");
   EXPECT_EQ(utf8(kControls), R"("\u0000\b\t\n\f\r\u001f")");
 }
 

@@ -11,7 +11,7 @@ namespace odmiennik::cli {
 namespace {
 
 // Hands out `text` in blocks of `blockSize` bytes.
-LineReader::Source sourceOf(std::string text, std::size_t blockSize) {
+LineReader::Source sourceOf(Utf8Text text, std::size_t blockSize) {
   return [text = std::move(text), blockSize, at = std::size_t{0}](std::span<char> buffer) mutable {
     const std::size_t size = std::min({blockSize, buffer.size(), text.size() - at});
     std::copy_n(text.begin() + static_cast<std::ptrdiff_t>(at), size, buffer.begin());
@@ -20,14 +20,14 @@ LineReader::Source sourceOf(std::string text, std::size_t blockSize) {
   };
 }
 
-std::vector<std::string> linesOf(const std::string& text, std::size_t blockSize = 7) {
+std::vector<Utf8Text> linesOf(const Utf8Text& text, std::size_t blockSize = 7) {
   LineReader reader(sourceOf(text, blockSize));
-  std::vector<std::string> lines;
+  std::vector<Utf8Text> lines;
   for (InputLine line; reader.next(line);) lines.emplace_back(line.bytes);
   return lines;
 }
 
-using Lines = std::vector<std::string>;
+using Lines = std::vector<Utf8Text>;
 
 TEST(line_reader, splits_at_line_feeds_whatever_the_blocks) {
   for (std::size_t blockSize = 1; blockSize < 20; ++blockSize)
@@ -75,7 +75,7 @@ TEST(line_reader, counts_lines_from_one) {
 }
 
 TEST(line_reader, a_line_of_just_the_limit_is_whole) {
-  LineReader reader(sourceOf(std::string(kLongestLine, 'a') + "\n", 1000));
+  LineReader reader(sourceOf(Utf8Text(kLongestLine, 'a') + "\n", 1000));
   InputLine line;
   ASSERT_TRUE(reader.next(line));
   EXPECT_FALSE(line.isCut);
@@ -83,7 +83,7 @@ TEST(line_reader, a_line_of_just_the_limit_is_whole) {
 }
 
 TEST(line_reader, a_longer_line_is_cut_and_the_next_one_is_read) {
-  LineReader reader(sourceOf(std::string(10 * kLongestLine, 'a') + "\naller\n", kLongestLine));
+  LineReader reader(sourceOf(Utf8Text(10 * kLongestLine, 'a') + "\naller\n", kLongestLine));
   InputLine line;
   ASSERT_TRUE(reader.next(line));
   EXPECT_TRUE(line.isCut);

@@ -17,21 +17,21 @@ namespace {
 // The arguments outlive the views that parsing returns.
 class options : public testing::Test {
  protected:
-  const Options& parse(std::vector<std::string> arguments) {
+  const Options& parse(std::vector<Utf8Text> arguments) {
     arguments_ = std::move(arguments);
     parsed_ = parseOptions(arguments_);
     return parsed_.options;
   }
-  std::string errorOf(std::vector<std::string> arguments) {
+  Utf8Text errorOf(std::vector<Utf8Text> arguments) {
     parse(std::move(arguments));
     return parsed_.error;
   }
 
-  std::vector<std::string> arguments_;
+  std::vector<Utf8Text> arguments_;
   ParsedOptions parsed_;
 };
 
-using Verbs = std::vector<std::string_view>;
+using Verbs = std::vector<Utf8View>;
 
 TEST_F(options, without_arguments_ask_for_text_from_standard_input) {
   EXPECT_EQ(parse({}).query, nullptr);
@@ -110,42 +110,42 @@ TEST_F(options, a_task_takes_no_infinitives) {
 
 TEST_F(options, every_format_of_the_table_is_known) {
   for (const FormatRow& row : kFormats)
-    EXPECT_EQ(parse({"--format", std::string(row.name)}).format, &row) << row.name;
+    EXPECT_EQ(parse({"--format", Utf8Text(row.name)}).format, &row) << row.name;
 }
 
 TEST_F(options, help_names_every_option_and_fits_the_page) {
-  std::string help;
+  Utf8Text help;
   appendHelp(help, {});
   for (const OptionRow& row : optionRows())
-    EXPECT_NE(help.find("\n  " + std::string(row.name) + " "), std::string::npos) << row.name;
+    EXPECT_NE(help.find("\n  " + Utf8Text(row.name) + " "), std::string::npos) << row.name;
   EXPECT_NE(help.find("--format text|tsv|json "), std::string::npos);
   for (std::size_t start = 0; start < help.size();) {
     const std::size_t end = help.find('\n', start);
-    EXPECT_LE(letterCount(std::string_view(help).substr(start, end - start)), 80U);
+    EXPECT_LE(letterCount(Utf8View(help).substr(start, end - start)), 80U);
     start = end + 1;
   }
 }
 
 // An option of the manual page as a line of --help: `.BR \-\-format " " text | tsv` is
 // "--format text|tsv".
-std::string plain(const std::string& line) {
+Utf8Text plain(const std::string& line) {
   std::string text =
       std::regex_replace(line.substr(line.find(' ') + 1), std::regex(R"([\\"])"), "");
   text = std::regex_replace(text, std::regex(R"( *\| *)"), "|");
-  return std::regex_replace(text, std::regex(" +"), " ");
+  return Utf8Text(asUtf8(std::regex_replace(text, std::regex(" +"), " ")));
 }
 
 TEST_F(options, are_those_of_the_manual_page_in_its_order) {
   std::ifstream page(ODMIENNIK_SOURCE_DIR "/docs/odmien.1");
-  std::vector<std::string> described;
+  std::vector<Utf8Text> described;
   std::string before;
   for (std::string line; std::getline(page, line); before = line)
     if (before == ".TP" && line.find(" \\-\\-") != std::string::npos)
       described.push_back(plain(line));
-  std::vector<std::string> known;
+  std::vector<Utf8Text> known;
   for (const OptionRow& row : optionRows())
-    known.push_back(std::string(row.name) + (row.valueName.empty() ? "" : " ") +
-                    std::string(row.valueName));
+    known.push_back(Utf8Text(row.name) + (row.valueName.empty() ? "" : " ") +
+                    Utf8Text(row.valueName));
   EXPECT_EQ(described, known);
 }
 

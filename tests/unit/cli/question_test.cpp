@@ -11,7 +11,7 @@ namespace {
 
 using namespace engine::literals;
 
-Question ask(std::string_view bytes, bool isCut = false) {
+Question ask(Utf8View bytes, bool isCut = false) {
   return questionOf({.number = 1, .bytes = bytes, .isCut = isCut});
 }
 
@@ -74,7 +74,7 @@ TEST(question, a_letter_that_the_cut_went_through_is_dropped) {
 TEST(clean_utf8, every_bad_byte_becomes_one_replacement_character) {
   EXPECT_EQ(cleanUtf8("\xFF\xFE"), "\uFFFD\uFFFD");
   EXPECT_EQ(cleanUtf8("é\xC3 \xED\xA0\x80"), "é\uFFFD \uFFFD\uFFFD\uFFFD");
-  EXPECT_EQ(cleanUtf8(std::string_view("a\0b", 3)), std::string_view("a\0b", 3));
+  EXPECT_EQ(cleanUtf8(Utf8View("a\0b", 3)), Utf8View("a\0b", 3));
 }
 
 }  // namespace

@@ -10,16 +10,14 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string textOf(std::string_view line, bool isColoured = false) {
+Utf8Text textOf(Utf8View line, bool isColoured = false) {
   Asking asking;
   return asking.textOf(*makeTextFormat(isColoured), line);
 }
 
-bool holds(const std::string& text, std::string_view part) {
-  return text.find(part) != std::string::npos;
-}
+bool holds(const Utf8Text& text, Utf8View part) { return text.find(part) != std::string::npos; }
 
-std::size_t widestLine(std::string_view text) {
+std::size_t widestLine(Utf8View text) {
   std::size_t widest = 0;
   for (std::size_t start = 0; start < text.size();) {
     const std::size_t end = text.find('\n', start);
@@ -30,11 +28,11 @@ std::size_t widestLine(std::string_view text) {
 }
 
 // The form as the table shows it, with its pronoun.
-std::string shownForm(const Cell& cell) {
+Utf8Text shownForm(const Cell& cell) {
   return engine::toUtf8(cell.pronoun) + (cell.hasBlank() ? " " : "") + engine::toUtf8(cell.form);
 }
 
-void expectEveryForm(const std::string& text, const engine::Display& shown) {
+void expectEveryForm(const Utf8Text& text, const engine::Display& shown) {
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
     const Cell cell = cellOf(shown, slot);
     if (!cell.isMissing()) {
@@ -46,8 +44,8 @@ void expectEveryForm(const std::string& text, const engine::Display& shown) {
 TEST(text_format, every_verb_of_the_index_fits_the_page_with_all_its_forms) {
   Asking asking;
   for (int i = 0; i < dictionary::verbCount(); ++i) {
-    const std::string verb = engine::toUtf8(dictionary::verbAt(i));
-    const std::string text = asking.textOf(*makeTextFormat(false), verb);
+    const Utf8Text verb = engine::toUtf8(dictionary::verbAt(i));
+    const Utf8Text text = asking.textOf(*makeTextFormat(false), verb);
     ASSERT_LE(widestLine(text), kPageWidth) << verb;
     const Answer answer = asking.answer(verb);
     ASSERT_EQ(text.empty(), answer.isRefused) << verb;
@@ -59,20 +57,20 @@ TEST(text_format, every_verb_of_the_index_fits_the_page_with_all_its_forms) {
 TEST(text_format, every_reflexive_verb_fits_the_page_too) {
   Asking asking;
   for (int i = 0; i < dictionary::verbCount(); ++i) {
-    const std::string verb = "se " + engine::toUtf8(dictionary::verbAt(i));
+    const Utf8Text verb = "se " + engine::toUtf8(dictionary::verbAt(i));
     ASSERT_LE(widestLine(asking.textOf(*makeTextFormat(false), verb)), kPageWidth) << verb;
   }
 }
 
 TEST(text_format, pronouns_are_joined_to_their_forms) {
-  const std::string text = textOf("parler");
+  const Utf8Text text = textOf("parler");
   EXPECT_TRUE(holds(text, "\nje parle "));
   EXPECT_TRUE(holds(text, "\nj'ai parlé "));
   EXPECT_TRUE(holds(text, "\nns avons parlé "));
 }
 
 TEST(text_format, a_compound_tense_stands_under_its_simple_tense) {
-  const std::string text = textOf("parler");
+  const Utf8Text text = textOf("parler");
   EXPECT_TRUE(
       holds(text, "\nPrésent                    Imparfait                  Passé simple\n"));
   EXPECT_TRUE(
@@ -80,7 +78,7 @@ TEST(text_format, a_compound_tense_stands_under_its_simple_tense) {
 }
 
 TEST(text_format, information_stands_above) {
-  const std::string text = textOf("parler");
+  const Utf8Text text = textOf("parler");
   EXPECT_TRUE(holds(text, "\ngrupa: pierwsza            przechodni: tak "));
   EXPECT_TRUE(
       holds(text, "\nposiłkowy: avoir           rząd: b.d.                 źródło: reguła"));
@@ -93,12 +91,12 @@ TEST(text_format, double_forms_take_fewer_columns_instead_of_being_cut) {
 }
 
 TEST(text_format, a_form_wider_than_the_page_is_shown_whole) {
-  const std::string verb(10000, 'a');
+  const Utf8Text verb(10000, 'a');
   EXPECT_TRUE(holds(textOf(verb + "er"), "\nvs eussiez " + verb + "é\n"));
 }
 
 TEST(text_format, persons_that_do_not_exist_are_left_out) {
-  const std::string text = textOf("falloir");
+  const Utf8Text text = textOf("falloir");
   EXPECT_TRUE(holds(text, "\nil faut                    il fallait                 il fallut\n"));
   EXPECT_FALSE(holds(text, "\nje "));
   EXPECT_TRUE(holds(text, "\nIl ne crois pas que ...    Il ne croyais pas que ...\n"));
@@ -127,7 +125,7 @@ TEST(text_format, no_line_ends_in_blanks) { EXPECT_FALSE(holds(textOf("falloir")
 
 TEST(text_format, colours_change_nothing_but_the_colours) {
   EXPECT_FALSE(holds(textOf("parler"), "\x1b"));
-  std::string coloured = textOf("parler", true);
+  Utf8Text coloured = textOf("parler", true);
   ASSERT_TRUE(holds(coloured, "\x1b[1;34m"));
   for (std::size_t at; (at = coloured.find('\x1b')) != std::string::npos;)
     coloured.erase(at, coloured.find('m', at) - at + 1);
@@ -135,7 +133,7 @@ TEST(text_format, colours_change_nothing_but_the_colours) {
 }
 
 TEST(text_format, control_characters_never_reach_the_terminal) {
-  const std::string text = textOf("\x1b[31mparler");
+  const Utf8Text text = textOf("\x1b[31mparler");
   EXPECT_FALSE(holds(text, "\x1b"));
   EXPECT_TRUE(holds(text, "══ \\x1B[31mparler ═"));
 }

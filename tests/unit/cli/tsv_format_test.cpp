@@ -9,23 +9,23 @@
 namespace odmiennik::cli {
 namespace {
 
-std::string tsvOf(std::string_view line) {
+Utf8Text tsvOf(Utf8View line) {
   Asking asking;
   return asking.textOf(*makeTsvFormat(), line);
 }
 
-bool hasLine(const std::string& tsv, const std::string& line) {
+bool hasLine(const Utf8Text& tsv, const Utf8Text& line) {
   return ("\n" + tsv).find("\n" + line + "\n") != std::string::npos;
 }
 
 TEST(tsv_format, begins_with_a_header) {
-  std::string out;
+  Utf8Text out;
   makeTsvFormat()->begin(out);
   EXPECT_EQ(out, "infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\n");
 }
 
 TEST(tsv_format, has_a_line_a_slot) {
-  const std::string tsv = tsvOf("aimer");
+  const Utf8Text tsv = tsvOf("aimer");
   EXPECT_EQ(std::count(tsv.begin(), tsv.end(), '\n'), 101);
   EXPECT_TRUE(hasLine(tsv, "aimer\t0\tIndicatif\tprésent\tje\tj'\taime"));
   EXPECT_TRUE(hasLine(tsv, "aimer\t27\tIndicatif\tpassé composé\tnous\tns\tavons aimé"));
@@ -34,9 +34,9 @@ TEST(tsv_format, has_a_line_a_slot) {
 }
 
 TEST(tsv_format, every_line_has_seven_fields) {
-  const std::string tsv = tsvOf("a\tb");
+  const Utf8Text tsv = tsvOf("a\tb");
   EXPECT_TRUE(tsv.empty());
-  const std::string verb = tsvOf("par\x01ler");
+  const Utf8Text verb = tsvOf("par\x01ler");
   EXPECT_EQ(std::count(verb.begin(), verb.end(), '\t'), 6 * 101);
 }
 
@@ -45,7 +45,7 @@ TEST(tsv_format, a_missing_form_is_an_empty_field) {
 }
 
 TEST(tsv_format, a_line_end_inside_an_infinitive_breaks_no_line) {
-  const std::string tsv = tsvOf("par\nler");
+  const Utf8Text tsv = tsvOf("par\nler");
   EXPECT_EQ(std::count(tsv.begin(), tsv.end(), '\n'), 101);
   EXPECT_TRUE(tsv.starts_with("par\\x0Aler\t0\t"));
 }

@@ -35,8 +35,8 @@ bool isCompound(const engine::Tense& tense) {
 }
 
 std::string sourceName(const engine::Tense& tense) {
-  if (tense.mood == "Indicatif") return std::string(tense.name);
-  std::string name = std::string(tense.mood) + " " + std::string(tense.name);
+  if (tense.mood == "Indicatif") return std::string(bytesOf(tense.name));
+  std::string name = std::string(bytesOf(tense.mood)) + " " + std::string(bytesOf(tense.name));
   name[0] = static_cast<char>(name[0] - 'A' + 'a');
   return name;
 }

@@ -45,7 +45,7 @@ TEST(builtin_verbs, are_84_in_their_order) {
   EXPECT_EQ(builtinVerbCount(), 84);
   EXPECT_EQ(textOf(3000), "84");
   for (int verb = 1; verb <= 84; ++verb)
-    EXPECT_EQ(engine::toUtf8(textOf(3000 + verb)), kInfinitives[verb - 1]) << verb;
+    EXPECT_EQ(testing::utf8(textOf(3000 + verb)), kInfinitives[verb - 1]) << verb;
 }
 
 TEST(builtin_verbs, have_their_infinitive_in_slot_96) {
@@ -64,7 +64,7 @@ TEST(builtin_verbs, have_the_flag_zero_where_the_auxiliary_is_etre) {
                                        "bienvenir", "issir"};
   int withAvoir = 0;
   for (int verb = 1; verb <= 84; ++verb) {
-    const bool isEtre = withEtre.contains(engine::toUtf8(textOf(3000 + verb)));
+    const bool isEtre = withEtre.contains(testing::utf8(textOf(3000 + verb)));
     EXPECT_EQ(entryOf(verb, kFlag), isEtre ? "0" : "1") << verb;
     withAvoir += !isEtre;
   }

@@ -19,7 +19,7 @@ TEST(printable, escape_sequences_are_shown) {
 TEST(printable, every_ascii_control_is_shown) {
   for (int code = 0; code < 0x80; ++code) {
     if (code >= 0x20 && code != 0x7F) continue;
-    const std::string shown = printable(std::string(1, static_cast<char>(code)));
+    const Utf8Text shown = printable(Utf8Text(1, static_cast<char>(code)));
     EXPECT_EQ(shown.size(), 4U) << code;
     EXPECT_TRUE(shown.starts_with("\\x")) << code;
   }

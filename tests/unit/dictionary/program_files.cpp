@@ -15,23 +15,23 @@ namespace odmiennik::testing {
 
 namespace fs = std::filesystem;
 
-std::string ProgramFolder::prefix() const { return dictionary::AppFolder(path().string()); }
+Utf8Text ProgramFolder::prefix() const { return dictionary::AppFolder(asUtf8(path().string())); }
 
-void ProgramFolder::write(std::string_view name, std::string_view content) const {
+void ProgramFolder::write(Utf8View name, std::string_view content) const {
   std::ofstream file(path() / dictionary::pathOf(name), std::ios::binary);
   file << content;
   if (!file.flush()) throw std::runtime_error("a test file cannot be written");
 }
 
-std::string ProgramFolder::read(std::string_view name) const {
+std::string ProgramFolder::read(Utf8View name) const {
   std::ifstream file(path() / dictionary::pathOf(name), std::ios::binary);
-  if (!file) throw std::runtime_error("no such test file: " + std::string(name));
+  if (!file) throw std::runtime_error("no such test file: " + std::string(bytesOf(name)));
   std::ostringstream content;
   content << file.rdbuf();
   return content.str();
 }
 
-bool ProgramFolder::has(std::string_view name) const {
+bool ProgramFolder::has(Utf8View name) const {
   return fs::exists(path() / dictionary::pathOf(name));
 }
 
@@ -45,8 +45,8 @@ std::vector<std::string> ProgramFolder::names() const {
   return names;
 }
 
-dictionary::Button RecordedMessages::show(dictionary::MessageId id, std::string_view argument) {
-  texts.push_back(dictionary::messageText(id, argument));
+dictionary::Button RecordedMessages::show(dictionary::MessageId id, Utf8View argument) {
+  texts.emplace_back(bytesOf(dictionary::messageText(id, argument)));
   return dictionary::row(id).defaultButton;
 }
 

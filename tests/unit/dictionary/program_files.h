@@ -10,6 +10,7 @@
 
 #include "dictionary/messages.h"
 #include "dictionary/user_record.h"
+#include "engine/utf8.h"
 #include "tests/support/scratch_folder.h"
 
 namespace odmiennik::testing {
@@ -20,11 +21,11 @@ inline constexpr const char* kUnreadable = "Nie można odczytać pliku czasownik
 
 class ProgramFolder : public scratch::ScratchFolder {
  public:
-  [[nodiscard]] std::string prefix() const;
+  [[nodiscard]] Utf8Text prefix() const;
 
-  void write(std::string_view name, std::string_view content) const;
-  [[nodiscard]] std::string read(std::string_view name) const;
-  [[nodiscard]] bool has(std::string_view name) const;
+  void write(Utf8View name, std::string_view content) const;
+  [[nodiscard]] std::string read(Utf8View name) const;
+  [[nodiscard]] bool has(Utf8View name) const;
   // The names in the folder, sorted, UTF-8.
   [[nodiscard]] std::vector<std::string> names() const;
 };
@@ -32,7 +33,7 @@ class ProgramFolder : public scratch::ScratchFolder {
 // Message boxes that are remembered and answered with their default button.
 class RecordedMessages final : public dictionary::MessageBoxes {
  public:
-  dictionary::Button show(dictionary::MessageId id, std::string_view argument) override;
+  dictionary::Button show(dictionary::MessageId id, Utf8View argument) override;
   std::vector<std::string> texts;
 };
 

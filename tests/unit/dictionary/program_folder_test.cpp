@@ -9,7 +9,7 @@
 namespace odmiennik::dictionary {
 namespace {
 
-const std::string kSeparator(1, static_cast<char>(std::filesystem::path::preferred_separator));
+const Utf8Text kSeparator(1, static_cast<char>(std::filesystem::path::preferred_separator));
 
 TEST(app_folder, puts_the_systems_separator_behind_a_folder) {
   EXPECT_EQ(AppFolder("/opt/odmiennik"), "/opt/odmiennik" + kSeparator);

@@ -12,7 +12,7 @@ namespace {
 
 using odmiennik::testing::french;
 
-std::string meant(std::string_view typed) { return engine::toUtf8(otherSpelling(french(typed))); }
+std::string meant(std::string_view typed) { return testing::utf8(otherSpelling(french(typed))); }
 
 TEST(other_spelling, finds_a_verb_written_without_its_accents) {
   EXPECT_EQ(meant("etre"), "être");

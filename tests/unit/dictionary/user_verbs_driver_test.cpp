@@ -27,7 +27,7 @@ class UserVerbsInTheDriver : public ::testing::Test {
   std::string slot(std::string_view typed, int number) {
     engine::Driver driver({index_, verbs_, builtin_, rules_, shell_});
     driver.conjugate(conjugation_, french(typed));
-    return engine::toUtf8(conjugation_.forms[number]);
+    return testing::utf8(conjugation_.forms[number]);
   }
 
   odmiennik::testing::ProgramFolder folder_;

@@ -12,8 +12,8 @@ namespace {
 namespace fs = std::filesystem;
 
 using odmiennik::testing::french;
-using odmiennik::testing::lineOf;
 using odmiennik::testing::kUnreadable;
+using odmiennik::testing::lineOf;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
@@ -103,7 +103,7 @@ TEST_F(UserVerbsLookUp, a_count_larger_than_the_file_is_not_found_without_messag
 }
 
 TEST_F(UserVerbsLookUp, a_missing_file_or_folder_holds_no_verbs) {
-  UserVerbsFile nowhere((folder_.path() / "none" / "").string(), 5, messages_);
+  UserVerbsFile nowhere(folder_.prefix() + "none/", 5, messages_);
   EXPECT_FALSE(load(5, "aimer"));
   EXPECT_FALSE(load(nowhere, "aimer"));
   EXPECT_EQ(nowhere.infinitives(), Texts{});

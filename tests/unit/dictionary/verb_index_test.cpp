@@ -18,9 +18,7 @@ std::string record(std::string_view infinitive) {
   return std::string(GeneralVerbIndex().record(french(infinitive)));
 }
 
-std::string completed(std::string_view prefix) {
-  return engine::toUtf8(completion(french(prefix)));
-}
+std::string completed(std::string_view prefix) { return testing::utf8(completion(french(prefix))); }
 
 TEST(verb_index, knows_the_record_of_a_verb) {
   EXPECT_EQ(record("laver"), "|1|1|2|1");
@@ -55,7 +53,7 @@ TEST(verb_index, files_the_ligature_under_o) {
   std::vector<std::string> found;
   for (int k = 1; k <= verbCount('o'); ++k)
     if (verbOfLetter('o', k).starts_with('\x9C'))
-      found.push_back(engine::toUtf8(verbOfLetter('o', k)));
+      found.push_back(testing::utf8(verbOfLetter('o', k)));
   EXPECT_EQ(found, (std::vector<std::string>{"œilletonner", "œuvrer"}));
 }
 

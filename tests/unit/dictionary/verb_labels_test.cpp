@@ -13,7 +13,7 @@ using engine::Use;
 
 TEST(verb_labels, what_is_not_known_is_bd) {
   const VerbLabels labels = labelsOf({});
-  for (const std::string_view label :
+  for (const Utf8View label :
        {labels.group, labels.transitive, labels.intransitive, labels.auxiliary, labels.government})
     EXPECT_EQ(label, "b.d.");
 }

@@ -66,7 +66,7 @@ TEST(completion, derives_the_imperfect_subjunctive_from_the_completed_past_histo
   completeStoredVerb(forms, kAvoir);
   EXPECT_EQ(forms[12], "prendis");
   EXPECT_EQ(forms[54], "prendisse");
-  EXPECT_EQ(toUtf8(forms[56]), "prendît");
+  EXPECT_EQ(testing::utf8(forms[56]), "prendît");
 }
 
 TEST(completion, derives_imperative_and_present_participle) {

@@ -31,7 +31,7 @@ struct Row {
 };
 
 void expectForms(const FormTable& forms, std::initializer_list<Row> rows) {
-  for (const Row& row : rows) EXPECT_EQ(toUtf8(forms[row.slot]), row.text) << row.slot;
+  for (const Row& row : rows) EXPECT_EQ(testing::utf8(forms[row.slot]), row.text) << row.slot;
 }
 
 TEST(compound_tenses, parler_with_avoir) {
@@ -83,7 +83,7 @@ TEST(compound_tenses, the_past_imperative_has_no_plural_s) {
 TEST(compound_tenses, with_avoir_nobody_takes_an_s) {
   const FormTable forms = built("parlé", kAvoir);
   for (int slot = 0; slot < kSlotCount; ++slot)
-    EXPECT_FALSE(forms[slot].ends_with("s")) << slot << toUtf8(forms[slot]);
+    EXPECT_FALSE(forms[slot].ends_with("s")) << slot << testing::utf8(forms[slot]);
 }
 
 TEST(compound_tenses, a_stored_marker_is_not_doubled_with_etre) {
@@ -141,7 +141,7 @@ TEST(compound_tenses, on_screen_an_empty_slot_stays_empty) {
 }
 
 TEST(compound_tenses, while_being_built_an_empty_slot_is_filled) {
-  EXPECT_EQ(toUtf8(built("parlé", kAvoir)[25]), "as parlé");
+  EXPECT_EQ(testing::utf8(built("parlé", kAvoir)[25]), "as parlé");
 }
 
 TEST(compound_tenses, simple_slots_are_not_touched) {

@@ -15,7 +15,7 @@ using odmiennik::testing::french;
 std::string normalized(std::string_view utf8) {
   std::string out = "left over from the last verb";
   normalize(french(utf8), out);
-  return toUtf8(out);
+  return testing::utf8(out);
 }
 
 TEST(normalization, blanks_at_both_ends_are_trimmed) {

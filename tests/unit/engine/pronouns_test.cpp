@@ -80,9 +80,9 @@ TEST(reflexive_pronouns, elide_by_the_auxiliary_in_compound_forms) {
   forms[25] = french("es lavé(e)");
   forms[30] = french("étais lavé(e)");
   addReflexivePronouns(forms, false);
-  EXPECT_EQ(toUtf8(forms[24]), "me suis lavé(e)");
-  EXPECT_EQ(toUtf8(forms[25]), "t'es lavé(e)");
-  EXPECT_EQ(toUtf8(forms[30]), "m'étais lavé(e)");
+  EXPECT_EQ(testing::utf8(forms[24]), "me suis lavé(e)");
+  EXPECT_EQ(testing::utf8(forms[25]), "t'es lavé(e)");
+  EXPECT_EQ(testing::utf8(forms[30]), "m'étais lavé(e)");
 }
 
 TEST(reflexive_pronouns, follow_the_present_imperative) {
@@ -101,7 +101,8 @@ TEST(reflexive_pronouns, empty_the_past_imperative_also_of_a_placeholder) {
   EXPECT_EQ(pronominal("*")[93], "");
 }
 
-TEST(reflexive_pronouns, stand_in_front_of_infinitives_and_participles_but_not_the_past_participle) {
+TEST(reflexive_pronouns,
+     stand_in_front_of_infinitives_and_participles_but_not_the_past_participle) {
   const FormTable consonant = pronominal("laver");
   const FormTable vowel = pronominal("amuser");
   for (const int slot : {96, 97, 98, 100}) {

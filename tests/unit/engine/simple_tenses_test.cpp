@@ -21,7 +21,7 @@ FormTable tableWith(std::initializer_list<std::pair<int, std::string_view>> slot
 std::string row(const FormTable& forms, int first, int count = 6) {
   std::string texts;
   for (int i = 0; i < count; ++i)
-    texts.append(i == 0 ? "" : " | ").append(toUtf8(forms[first + i]));
+    texts.append(i == 0 ? "" : " | ").append(testing::utf8(forms[first + i]));
   return texts;
 }
 
@@ -60,17 +60,17 @@ TEST(simple_tenses, the_imperative_of_vas_is_vas) {
 TEST(simple_tenses, the_imperative_drops_the_s_also_behind_e_diaeresis_and_acute_e) {
   FormTable forms = tableWith({{1, "arguës"}});
   buildImperative(forms);
-  EXPECT_EQ(toUtf8(forms[90]), "arguë");
+  EXPECT_EQ(testing::utf8(forms[90]), "arguë");
   forms[1] = french("crés");
   buildImperative(forms);
-  EXPECT_EQ(toUtf8(forms[90]), "cré");
+  EXPECT_EQ(testing::utf8(forms[90]), "cré");
 }
 
 TEST(simple_tenses, the_imperative_keeps_other_final_letters) {
   for (const std::string_view tu : {"finis", "prends", "dors", "vèts", "èx", "sème", "è", "vêts"}) {
     FormTable forms = tableWith({{1, tu}});
     buildImperative(forms);
-    EXPECT_EQ(toUtf8(forms[90]), tu);
+    EXPECT_EQ(testing::utf8(forms[90]), tu);
   }
 }
 
@@ -78,7 +78,7 @@ TEST(simple_tenses, a_grave_or_circumflex_e_keeps_its_s) {
   for (const std::string_view tu : {"xès", "xês"}) {
     FormTable forms = tableWith({{1, tu}});
     buildImperative(forms);
-    EXPECT_EQ(toUtf8(forms[90]), tu);
+    EXPECT_EQ(testing::utf8(forms[90]), tu);
   }
 }
 
@@ -91,8 +91,8 @@ TEST(simple_tenses, the_present_subjunctive_follows_ils) {
 TEST(simple_tenses, the_present_subjunctive_copies_an_irregular_imperfect) {
   FormTable forms = tableWith({{5, "aillent"}, {9, "irrégulions"}, {10, "irréguliez"}});
   buildPresentSubjunctive(forms);
-  EXPECT_EQ(toUtf8(forms[51]), "irrégulions");
-  EXPECT_EQ(toUtf8(forms[52]), "irréguliez");
+  EXPECT_EQ(testing::utf8(forms[51]), "irrégulions");
+  EXPECT_EQ(testing::utf8(forms[52]), "irréguliez");
 }
 
 TEST(simple_tenses, the_present_subjunctive_treats_double_forms_variant_by_variant) {

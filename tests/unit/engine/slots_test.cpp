@@ -9,7 +9,7 @@ namespace {
 
 struct Row {
   int first, last;
-  std::string_view mood, tense;
+  Utf8View mood, tense;
 };
 
 constexpr Row kRows[] = {
@@ -49,12 +49,12 @@ TEST(slots, every_slot_has_its_mood_and_tense) {
 TEST(slots, there_are_101) { EXPECT_EQ(kSlotCount, 101); }
 
 TEST(slots, persons_come_in_the_order_je_tu_il_nous_vous_ils) {
-  const std::string_view kPersons[] = {"je", "tu", "il", "nous", "vous", "ils"};
+  const Utf8View kPersons[] = {"je", "tu", "il", "nous", "vous", "ils"};
   for (int slot = 0; slot < 90; ++slot) EXPECT_EQ(personOf(slot), kPersons[slot % 6]) << slot;
 }
 
 TEST(slots, the_imperative_has_tu_nous_vous) {
-  const std::string_view kPersons[] = {"tu", "nous", "vous"};
+  const Utf8View kPersons[] = {"tu", "nous", "vous"};
   for (int slot = 90; slot < 96; ++slot) EXPECT_EQ(personOf(slot), kPersons[(slot - 90) % 3]);
 }
 

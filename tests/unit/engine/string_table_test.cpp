@@ -11,9 +11,9 @@
 namespace odmiennik::engine {
 namespace {
 
-std::string textInUtf8(int identifier) { return toUtf8(textOf(identifier)); }
+Utf8Text textInUtf8(int identifier) { return toUtf8(textOf(identifier)); }
 
-void expectTexts(int first, const std::vector<std::string>& texts) {
+void expectTexts(int first, const std::vector<Utf8Text>& texts) {
   for (std::size_t i = 0; i < texts.size(); ++i)
     EXPECT_EQ(textInUtf8(first + static_cast<int>(i)), texts[i]) << first + static_cast<int>(i);
 }
@@ -77,7 +77,7 @@ TEST(string_table, tips_are_utf8) {
     std::string_view rest = textOf(identifier);
     EXPECT_FALSE(rest.empty()) << identifier;
     while (!rest.empty()) {
-      const int length = decodeUtf8(rest).length;
+      const int length = decodeUtf8(asUtf8(rest)).length;
       ASSERT_NE(length, 0) << identifier;
       rest.remove_prefix(static_cast<std::size_t>(length));
     }
@@ -91,7 +91,7 @@ TEST(string_table, all_other_texts_are_windows_1252) {
     if (identifier >= 40 && identifier <= 61) continue;
     const std::string_view text = textOf(identifier);
     for (std::size_t i = 0; i < text.size(); ++i) {
-      const bool isLetterOfUtf8 = decodeUtf8(text.substr(i)).length > 1;
+      const bool isLetterOfUtf8 = decodeUtf8(asUtf8(text.substr(i))).length > 1;
       EXPECT_FALSE(isLetterOfUtf8) << identifier;
     }
   }

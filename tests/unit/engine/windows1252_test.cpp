@@ -9,7 +9,7 @@
 namespace odmiennik::engine {
 namespace {
 
-void expectRefused(std::string_view utf8, Utf8Fault fault, std::size_t position) {
+void expectRefused(Utf8View utf8, Utf8Fault fault, std::size_t position) {
   const FromUtf8 result = fromUtf8(utf8);
   EXPECT_EQ(result.fault, fault) << ::testing::PrintToString(utf8);
   EXPECT_EQ(result.position, position) << ::testing::PrintToString(utf8);
@@ -39,7 +39,7 @@ TEST(windows_1252, all_bytes_in_one_text_survive_the_round_trip) {
 
 TEST(windows_1252, french_letters_have_their_bytes) {
   const struct {
-    std::string_view letter;
+    Utf8View letter;
     unsigned char byte;
   } kLetters[] = {{"à", 0xE0}, {"â", 0xE2}, {"ç", 0xE7}, {"è", 0xE8}, {"é", 0xE9}, {"ê", 0xEA},
                   {"ë", 0xEB}, {"î", 0xEE}, {"ï", 0xEF}, {"ô", 0xF4}, {"ù", 0xF9}, {"û", 0xFB},
@@ -62,7 +62,7 @@ TEST(windows_1252, the_empty_text_is_a_text_in_both_directions) {
 }
 
 TEST(windows_1252, polish_letters_are_outside) {
-  for (const std::string_view letter : {"ą", "ć", "ę", "ł", "ń", "ś", "ź", "ż", "Ł"})
+  for (const Utf8View letter : {"ą", "ć", "ę", "ł", "ń", "ś", "ź", "ż", "Ł"})
     expectRefused(letter, Utf8Fault::letterOutside, 0);
 }
 
@@ -87,7 +87,7 @@ TEST(windows_1252, every_accented_letter_is_made_of_its_parts) {
   const struct {
     char32_t accent;
     std::string_view bases;
-    std::string_view letters;
+    Utf8View letters;
   } kAccents[] = {{0x300, "aeiou", "àèìòù"},   {0x301, "aeiouy", "áéíóúý"},
                   {0x302, "aeiou", "âêîôû"},   {0x303, "ano", "ãñõ"},
                   {0x308, "aeiouy", "äëïöüÿ"}, {0x30A, "A", "Å"},
@@ -139,7 +139,7 @@ TEST(windows_1252, cut_sequences_are_refused) {
 
 TEST(windows_1252, continuation_bytes_alone_are_refused) {
   for (int byte = 0x80; byte < 0xC0; ++byte)
-    expectRefused(std::string(1, static_cast<char>(byte)), Utf8Fault::notUtf8, 0);
+    expectRefused(Utf8Text(1, static_cast<char>(byte)), Utf8Fault::notUtf8, 0);
 }
 
 }  // namespace

@@ -14,9 +14,9 @@ using finder::Reading;
 
 std::string lineOf(const Reading& reading) {
   const engine::Tense& tense = engine::tenseOf(reading.slot);
-  std::string line = engine::toUtf8(finder::phraseOf(reading)) + " | " +
-                     engine::toUtf8(finder::infinitiveOf(reading)) + " | " +
-                     std::string(tense.mood) + " " + std::string(tense.name);
+  std::string line = testing::utf8(finder::phraseOf(reading)) + " | " +
+                     testing::utf8(finder::infinitiveOf(reading)) + " | " +
+                     std::string(bytesOf(tense.mood)) + " " + std::string(bytesOf(tense.name));
   constexpr const char* kAgreements[] = {"", " f", " mp", " fp"};
   line += kAgreements[static_cast<int>(reading.agreed)];
   if (!reading.isInNorm) line += " system";
@@ -42,7 +42,7 @@ Lines Finding::find(std::string_view typed) {
 Lines Finding::verbsOf(std::string_view typed) {
   Lines verbs;
   for (const Reading& reading : readingsOf(typed)) {
-    const std::string verb = engine::toUtf8(finder::infinitiveOf(reading));
+    const std::string verb = testing::utf8(finder::infinitiveOf(reading));
     if (std::ranges::find(verbs, verb) == verbs.end()) verbs.push_back(verb);
   }
   return verbs;

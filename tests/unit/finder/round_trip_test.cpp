@@ -69,7 +69,7 @@ void forEveryVerb(bool isNorm, Check check) {
   if (isNorm) program.followNorm();
   for (int position = 0; position < dictionary::verbCount(); position += kStep) {
     const std::string_view verb = dictionary::verbAt(position);
-    program.conjugate(engine::toUtf8(verb));
+    program.conjugate(testing::utf8(verb));
     check(verb, program.state());
   }
 }
@@ -82,7 +82,7 @@ TEST_F(round_trip, of_every_simple_form_in_either_variety_gives_its_verb) {
         for (const std::string& word : wordsOf(slot, conjugation.forms[slot])) {
           ++count;
           EXPECT_TRUE(leadsBack(word, verb, slot, isNorm))
-              << engine::toUtf8(word) << " of " << engine::toUtf8(verb) << ", slot " << int{slot};
+              << testing::utf8(word) << " of " << testing::utf8(verb) << ", slot " << int{slot};
         }
     });
     EXPECT_GT(count, 340'000 / kStep);
@@ -98,7 +98,7 @@ TEST_F(round_trip, of_every_compound_form_in_either_variety_gives_its_verb) {
         for (const std::string& phrase : phrasesOf(slot, conjugation.shown)) {
           ++count;
           EXPECT_TRUE(leadsBack(phrase, verb, slot, isNorm))
-              << engine::toUtf8(phrase) << " of " << engine::toUtf8(verb) << ", slot " << slot;
+              << testing::utf8(phrase) << " of " << testing::utf8(verb) << ", slot " << slot;
         }
       }
     });

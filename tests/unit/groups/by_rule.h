@@ -27,7 +27,7 @@ struct ByRule {
                                         : groups.conjugateByEnding(forms, auxiliary, isEditing);
   }
 
-  [[nodiscard]] std::string slot(int number) const { return engine::toUtf8(forms[number]); }
+  [[nodiscard]] std::string slot(int number) const { return testing::utf8(forms[number]); }
 
   [[nodiscard]] std::string tense(int firstSlot) const {
     std::string row;

@@ -12,7 +12,9 @@ namespace {
 // The row, a verb that only this row can claim first, its model, je in the present and the future.
 struct Row {
   int order;
-  std::string_view infinitive, model, present, future;
+  std::string_view infinitive;
+  Utf8View model;
+  std::string_view present, future;
 };
 
 constexpr Row kRows[] = {

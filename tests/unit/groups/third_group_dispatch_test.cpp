@@ -11,7 +11,9 @@ namespace {
 
 struct Row {
   int order;
-  std::string_view infinitive, model, present, past;
+  std::string_view infinitive;
+  Utf8View model;
+  std::string_view present, past;
 };
 
 constexpr Row kRows[] = {

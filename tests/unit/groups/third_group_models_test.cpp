@@ -10,7 +10,8 @@ namespace odmiennik::groups {
 namespace {
 
 struct Row {
-  std::string_view model, infinitive, present, futureJe, pastJe, participle;
+  Utf8View model;
+  std::string_view infinitive, present, futureJe, pastJe, participle;
 };
 
 // Every model but asseoir, on a verb with a prefix where there is one. "quièerent", "lir" and the

@@ -37,7 +37,7 @@ Seen look(const QMessageBox& box) {
 
 // Shows a message, looks at it, does something to it and presses a key in it.
 Seen showAndPress(
-    MessageId id, std::string_view argument, Qt::Key key,
+    MessageId id, Utf8View argument, Qt::Key key,
     const std::function<void(QMessageBox&)>& work = [](QMessageBox&) {}) {
   Seen seen;
   QTimer poll;

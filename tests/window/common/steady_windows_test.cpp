@@ -25,8 +25,10 @@ struct RunWithBoxes {
 
   ProgramHome home;
   app::QtMessageBoxes messages;
-  app::Program program{
-      {.folder = home.path().string(), .messages = messages, .store = home.store, .end = [] {}}};
+  app::Program program{{.folder = Utf8Text(asUtf8(home.path().string())),
+                        .messages = messages,
+                        .store = home.store,
+                        .end = [] {}}};
 };
 
 QAbstractButton& button(const QDialog& dialog, const char* name) {

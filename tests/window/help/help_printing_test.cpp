@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "app/common/text.h"
 #include "app/help/page_pieces.h"
 #include "app/help/page_text.h"
 #include "app/help/paper_document.h"
@@ -64,7 +65,7 @@ void HelpPrintingSuite::cleanup() {
 void HelpPrintingSuite::print(const QString& page) {
   server_->addQueue(kQueue);
   help_ = std::make_unique<HelpUnderTest>();
-  help_->viewer().open(("strony\\" + page).toStdString());
+  help_->viewer().open(app::toUtf8("strony\\" + page));
   QPrinter printer(QPrinterInfo::printerInfo(kQueue), QPrinter::HighResolution);
   printer.setResolution(600);
   printer.setPageSize(QPageSize(QPageSize::A4));

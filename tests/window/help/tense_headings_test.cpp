@@ -14,9 +14,7 @@ namespace {
 // Remembers what it was asked to open.
 class NotedHelp final : public app::HelpOpener {
  public:
-  void open(std::string_view page) override {
-    pages += QString::fromUtf8(page.data(), page.size());
-  }
+  void open(Utf8View page) override { pages += QString::fromUtf8(page.data(), page.size()); }
   void openContext(int context) override { pages += QString::number(context); }
   QStringList pages;
 };
@@ -184,8 +182,8 @@ void TenseHeadingsSuite::theUnderlineOutlivesAChangeOfSize() {
 void TenseHeadingsSuite::theTagsOfTheDesignAreThePagesThatOpen() {
   int headings = 0;
   made_->controls.forEach("lblCzas", [&](const app::ControlRow& row, QWidget&) {
-    const std::string_view page = app::kTenseTopics[static_cast<std::size_t>(row.index)].page;
-    QCOMPARE(row.tag, page.empty() ? std::string_view("lblCzas") : page);
+    const Utf8View page = app::kTenseTopics[static_cast<std::size_t>(row.index)].page;
+    QCOMPARE(row.tag, page.empty() ? Utf8View("lblCzas") : page);
     ++headings;
   });
   QCOMPARE(headings, app::kTenseHeadings);

@@ -89,7 +89,7 @@ void ClosingSuite::noIsTheDefaultAnswer() {
   QCOMPARE(question.buttons, Button::yes | Button::no);
   QCOMPARE(question.icon, dictionary::Icon::question);
   QCOMPARE(dictionary::messageText(MessageId::endProgram),
-           "Czy na pewno chcesz zakończyć program?");
+           Utf8Text("Czy na pewno chcesz zakończyć program?"));
 }
 
 void ClosingSuite::answeredNoTheWindowStaysAndNothingIsSaved() {

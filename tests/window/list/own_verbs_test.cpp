@@ -62,7 +62,7 @@ void OwnVerbsSuite::aFormWithACommaComesBackSplit() {
 void OwnVerbsSuite::withCountZeroTheOldFileIsKeptBesideTheNewOne() {
   const std::string old = testing::linesOf({"aimer", "finir"});
   std::ofstream(program_->folder.path() / "Czasowniki.dat", std::ios::binary) << old;
-  app::Program later({.folder = program_->folder.path().string(),
+  app::Program later({.folder = Utf8Text(asUtf8(program_->folder.path().string())),
                       .messages = program_->messages,
                       .store = program_->store,
                       .end = [] {}});
@@ -148,7 +148,7 @@ void OwnVerbsSuite::deliberateAFolderThatEndsInASeparatorIsTheCurrentOne() {
   QVERIFY(QDir::setCurrent(QString::fromStdString(current.path().string())));
   {
     AnsweredMessages messages;
-    app::Program atRoot({.folder = program_->folder.path().string() + "/",
+    app::Program atRoot({.folder = Utf8Text(asUtf8(program_->folder.path().string())) + "/",
                          .messages = messages,
                          .store = program_->store,
                          .end = [] {}});

@@ -111,9 +111,9 @@ class AccessibilitySuite : public QObject {
 std::unique_ptr<QDialog> AccessibilitySuite::made(const QString& window) {
   app::MainWindow& parent = program_->window;
   if (window == "frmLista") {
-    auto list = std::make_unique<app::ListWindow>(program_->folder.path().string() + "/",
-                                                  program_->program.userVerbs(),
-                                                  program_->program.editing(), &parent);
+    auto list = std::make_unique<app::ListWindow>(
+        Utf8Text(asUtf8(program_->folder.path().string())) + "/", program_->program.userVerbs(),
+        program_->program.editing(), &parent);
     list->showFor(app::ListPurpose::list);
     list->findChild<QComboBox*>("cmbLista")->setCurrentIndex(1);
     return list;

@@ -94,7 +94,7 @@ void PrintingSuite::theMessageIsAnExclamationWithOk() {
   QCOMPARE(row.icon, dictionary::Icon::exclamation);
   QCOMPARE(row.buttons, dictionary::Button::ok);
   QVERIFY(row.title.empty());
-  QCOMPARE(std::string(row.text), std::string("Drukarka nie jest gotowa."));
+  QCOMPARE(row.text, Utf8View("Drukarka nie jest gotowa."));
 }
 
 void PrintingSuite::afterAFailureTheHiddenControlsAreBack() {

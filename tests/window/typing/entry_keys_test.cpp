@@ -16,9 +16,9 @@ using Messages = std::vector<MessageId>;
 
 class HelpOpened final : public app::HelpOpener {
  public:
-  void open(std::string_view page) override { pages.emplace_back(page); }
+  void open(Utf8View page) override { pages.emplace_back(page); }
   void openContext(int context) override { contexts.push_back(context); }
-  std::vector<std::string> pages;
+  std::vector<Utf8Text> pages;
   std::vector<int> contexts;
 };
 
