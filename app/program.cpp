@@ -5,12 +5,12 @@
 #include "app/common/look.h"
 #include "app/layout/screen_fit.h"
 #include "app/lifetime/developer_buttons.h"
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::app {
 
 Program::Program(const Environment& given)
-    : prefix_(dictionary::AppFolder(given.folder)),
+    : prefix_(disk::AppFolder(given.folder)),
       userVerbs_(prefix_, 0, given.messages, given.files),  // their number comes with the settings
       shell_(given.messages, [this] { settings_.ResetSettings(); }),
       driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}),

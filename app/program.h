@@ -41,7 +41,7 @@ class Program {
     dictionary::MessageBoxes& messages;
     UserStore& store;
     std::function<void()> end;
-    dictionary::FileSystem& files = dictionary::systemFiles();
+    disk::FileSystem& files = disk::systemFiles();
     ScreenPointer pointer = systemPointer();
     QStringList helpPlaces = helpFilePlaces();
     std::optional<std::string> verb = {};  // conjugated at the start, Windows-1252

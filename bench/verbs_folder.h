@@ -6,8 +6,8 @@
 #include <fstream>
 #include <string>
 
-#include "dictionary/program_folder.h"
 #include "dictionary/user_verbs.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::dictionary {
 
@@ -30,7 +30,7 @@ class VerbsFolder {
     fs::remove_all(folder_, ignored);
   }
 
-  [[nodiscard]] Utf8Text prefix() const { return AppFolder(asUtf8(folder_.string())); }
+  [[nodiscard]] Utf8Text prefix() const { return disk::AppFolder(asUtf8(folder_.string())); }
   static std::string infinitive(int number) { return "conjuguer" + std::to_string(number); }
 
  private:

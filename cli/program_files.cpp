@@ -2,24 +2,24 @@
 // The files of the program folder.
 #include "cli/program_files.h"
 
-#include "dictionary/program_folder.h"
-#include "dictionary/settings.h"
+#include "disk/program_folder.h"
+#include "disk/settings.h"
 
 namespace odmiennik::cli {
 namespace {
 
 Utf8Text prefixOf(std::optional<Utf8View> folder) {
-  return dictionary::AppFolder(folder ? Utf8Text(dictionary::withoutTrailingSeparators(*folder))
-                                      : dictionary::programFolder());
+  return disk::AppFolder(folder ? Utf8Text(disk::withoutTrailingSeparators(*folder))
+                                : disk::programFolder());
 }
 
 }  // namespace
 
 ProgramFiles findProgramFiles(std::optional<Utf8View> folder, Console& console) {
   ProgramFiles files{.prefix = prefixOf(folder)};
-  dictionary::Settings settings;
-  const dictionary::SettingsRead read = readSettingsFile(files.prefix, settings);
-  if (read == dictionary::SettingsRead::damaged || read == dictionary::SettingsRead::unreadable) {
+  disk::Settings settings;
+  const disk::SettingsRead read = readSettingsFile(files.prefix, settings);
+  if (read == disk::SettingsRead::damaged || read == disk::SettingsRead::unreadable) {
     files.hasTrouble = true;
     console.complain(
         "Wystąpił błąd podczas odczytywania pliku konfiguracyjnego. Program może działać "

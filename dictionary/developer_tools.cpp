@@ -2,9 +2,9 @@
 // Building the resource script and joining texts.
 #include "dictionary/developer_tools.h"
 
-#include "dictionary/file_names.h"
-#include "dictionary/file_replacement.h"
 #include "dictionary/user_record_reader.h"
+#include "disk/names.h"
+#include "disk/replacement.h"
 #include "engine/string_table.h"
 
 namespace odmiennik::dictionary {
@@ -17,7 +17,7 @@ constexpr std::size_t kPrintZone = 14;
 constexpr std::string_view kLineBreak = "\r\n";
 
 // `4000          "vais"`: the text begins in the second print zone.
-void writeEntry(FileReplacement& script, std::string identifier, std::string_view text) {
+void writeEntry(disk::FileReplacement& script, std::string identifier, std::string_view text) {
   identifier.resize((identifier.size() / kPrintZone + 1) * kPrintZone, ' ');
   script.write(identifier + '"');
   script.write(text);
@@ -30,11 +30,11 @@ std::string infinitiveIdentifier(std::int64_t number) {
   return "3" + std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
 }
 
-void writeInfinitive(FileReplacement& script, const UserRecordReader& records) {
+void writeInfinitive(disk::FileReplacement& script, const UserRecordReader& records) {
   writeEntry(script, infinitiveIdentifier(records.number()), records.outline().infinitive);
 }
 
-void writeForms(FileReplacement& script, const UserRecordReader& records) {
+void writeForms(disk::FileReplacement& script, const UserRecordReader& records) {
   engine::FormTable forms;
   readForms(records.line(), forms);
   std::int64_t identifier =
@@ -44,10 +44,10 @@ void writeForms(FileReplacement& script, const UserRecordReader& records) {
   writeEntry(script, std::to_string(identifier), std::to_string(records.outline().flag));
 }
 
-using WriteRecord = void (*)(FileReplacement&, const UserRecordReader&);
+using WriteRecord = void (*)(disk::FileReplacement&, const UserRecordReader&);
 
-bool writeEach(std::unique_ptr<InputFile> verbs, std::int32_t count, FileReplacement& script,
-               WriteRecord writeRecord) {
+bool writeEach(std::unique_ptr<disk::InputFile> verbs, std::int32_t count,
+               disk::FileReplacement& script, WriteRecord writeRecord) {
   UserRecordReader records(std::move(verbs));
   while (records.number() < count) {
     if (records.next() != RecordRead::record) return false;
@@ -57,49 +57,51 @@ bool writeEach(std::unique_ptr<InputFile> verbs, std::int32_t count, FileReplace
 }
 
 // False when the file is there and cannot be read.
-bool appendLines(FileSystem& files, const fs::path& source, FileReplacement& joined) {
+bool appendLines(disk::FileSystem& files, const fs::path& source, disk::FileReplacement& joined) {
   const auto file = files.open(source);
   if (!file) return false;
-  LineReader lines(*file);
-  Line line;
-  LineRead status;
-  while ((status = lines.next(line)) == LineRead::line) {
+  disk::LineReader lines(*file);
+  disk::Line line;
+  disk::LineRead status;
+  while ((status = lines.next(line)) == disk::LineRead::line) {
     joined.write(line.text);
     if (!line.isCut) joined.write(kLineBreak);
   }
   if (line.isCut) joined.write(kLineBreak);
-  return status == LineRead::endOfFile;
+  return status == disk::LineRead::endOfFile;
 }
 
 }  // namespace
 
 fs::path resourceScriptPath([[maybe_unused]] Utf8View prefix) {
 #ifdef _WIN32
-  return pathOf("D:\\PROGRAMY\\PROGRAMOWANIE\\RC\\Czasowniki\\odmiana.rc");
+  return disk::pathOf("D:\\PROGRAMY\\PROGRAMOWANIE\\RC\\Czasowniki\\odmiana.rc");
 #else
-  return findFile(prefix, "odmiana.rc").path;
+  return disk::findFile(prefix, "odmiana.rc").path;
 #endif
 }
 
 bool buildResourceScript(Utf8View prefix, std::int32_t count, const fs::path& script,
-                         FileSystem& files) {
-  const auto verbs = existingFile(prefix, "czasowniki.dat", files);
+                         disk::FileSystem& files) {
+  const auto verbs = disk::existingFile(prefix, "czasowniki.dat", files);
   if (!verbs) return false;
-  FileReplacement entries(files, fileToReplace(files, {files.presence(script), script}));
+  disk::FileReplacement entries(files,
+                                disk::fileToReplace(files, {files.presence(script), script}));
   writeEntry(entries, std::to_string(text_id::kBuiltinCount), std::to_string(count));
   return writeEach(files.open(*verbs), count, entries, writeInfinitive) &&
          writeEach(files.open(*verbs), count, entries, writeForms) && entries.finish() &&
          entries.swapIn();
 }
 
-bool joinTextFiles(Utf8View prefix, FileSystem& files) {
+bool joinTextFiles(Utf8View prefix, disk::FileSystem& files) {
   constexpr int kFirstText = 196, kLastText = 252;
   const Utf8Text texts =
       Utf8Text(prefix) + "teksty" + static_cast<char>(fs::path::preferred_separator);
-  FileReplacement joined(files, fileToReplace(files, findFile(texts, "Połącz.txt", files)));
+  disk::FileReplacement joined(
+      files, disk::fileToReplace(files, disk::findFile(texts, "Połącz.txt", files)));
   // deliberate: even numbers only
   for (int number = kFirstText; number <= kLastText; number += 2)
-    if (const auto source = existingFile(texts, decimal(number) + ".txt", files))
+    if (const auto source = disk::existingFile(texts, decimal(number) + ".txt", files))
       if (!appendLines(files, *source, joined)) return false;
   return joined.finish() && joined.swapIn();
 }

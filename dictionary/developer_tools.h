@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 #include "engine/utf8.h"
 
 namespace odmiennik::dictionary {
@@ -20,11 +20,11 @@ namespace odmiennik::dictionary {
 // fewer readable records.
 [[nodiscard]] bool buildResourceScript(Utf8View prefix, std::int32_t count,
                                        const std::filesystem::path& script,
-                                       FileSystem& files = systemFiles());
+                                       disk::FileSystem& files = disk::systemFiles());
 
 // Joins 196.txt, 198.txt … 252.txt of the folder "teksty", those that exist, into "Połącz.txt" in
 // the same folder, with a line break behind every line. False, with nothing written, when a file
 // cannot be read or written.
-[[nodiscard]] bool joinTextFiles(Utf8View prefix, FileSystem& files = systemFiles());
+[[nodiscard]] bool joinTextFiles(Utf8View prefix, disk::FileSystem& files = disk::systemFiles());
 
 }  // namespace odmiennik::dictionary

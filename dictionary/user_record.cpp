@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "dictionary/file_fields.h"
+#include "disk/fields.h"
 #include "engine/normalization.h"
 
 namespace odmiennik::dictionary {
@@ -42,7 +42,7 @@ struct RecordParts {
 };
 
 std::optional<RecordParts> partsOfQuotedLine(std::string_view line) {
-  FieldScanner fields(line);
+  disk::FieldScanner fields(line);
   RecordParts parts;
   int count = 0;
   for (; fields.next(parts.flag); ++count)
@@ -88,7 +88,7 @@ std::optional<RecordOutline> outlineOf(std::string_view line) {
 }
 
 void readForms(std::string_view line, engine::FormTable& forms) {
-  FieldScanner fields(line);
+  disk::FieldScanner fields(line);
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
     std::string_view field;
     forms[slot].assign(fields.next(field) ? field : std::string_view{});
@@ -115,7 +115,7 @@ std::optional<int> quotedForm(const UserVerbRecord& record) {
 
 std::string rewrittenLine(std::string_view line) {
   std::string rewritten;
-  FieldScanner fields(line);
+  disk::FieldScanner fields(line);
   std::string_view field, following;
   bool hasField = fields.next(field);
   while (hasField) {

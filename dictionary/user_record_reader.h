@@ -6,9 +6,9 @@
 #include <memory>
 #include <string_view>
 
-#include "dictionary/file_lines.h"
-#include "dictionary/file_replacement.h"
 #include "dictionary/user_record.h"
+#include "disk/lines.h"
+#include "disk/replacement.h"
 
 namespace odmiennik::dictionary {
 
@@ -17,7 +17,7 @@ enum class RecordRead : std::uint8_t { record, damaged, endOfFile, failed };
 class UserRecordReader {
  public:
   // `file` may be nothing, as FileSystem::open answers it: reading it fails.
-  explicit UserRecordReader(std::unique_ptr<InputFile> file);
+  explicit UserRecordReader(std::unique_ptr<disk::InputFile> file);
 
   // Reads on to the next line. Every line counts as a record, whatever stands in it.
   [[nodiscard]] RecordRead next();
@@ -34,17 +34,17 @@ class UserRecordReader {
 
   // Appends a damaged record byte for byte, its line end included; false when reading it failed or
   // it is longer than `longest`.
-  [[nodiscard]] bool copyDamaged(FileReplacement& target, std::uint64_t longest);
+  [[nodiscard]] bool copyDamaged(disk::FileReplacement& target, std::uint64_t longest);
 
   // Whether the file holds anything behind the record read last.
   [[nodiscard]] bool hasMore();
 
  private:
-  [[nodiscard]] LineRead readPiece();
+  [[nodiscard]] disk::LineRead readPiece();
 
-  std::unique_ptr<InputFile> file_;
-  std::unique_ptr<LineReader> lines_;
-  Line line_;
+  std::unique_ptr<disk::InputFile> file_;
+  std::unique_ptr<disk::LineReader> lines_;
+  disk::Line line_;
   RecordOutline outline_;
   std::int64_t number_ = 0;
 };

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "dictionary/file_names.h"
 #include "dictionary/user_verbs_rewrite.h"
+#include "disk/names.h"
 #include "engine/normalization.h"
 #include "engine/windows1252.h"
 
@@ -39,14 +39,14 @@ auto isKeptAs(std::string_view infinitive) {
 }  // namespace
 
 UserVerbsFile::UserVerbsFile(Utf8Text prefix, std::int32_t count, MessageBoxes& messages,
-                             FileSystem& files)
+                             disk::FileSystem& files)
     : prefix_(std::move(prefix)),
-      newFile_(pathOf(prefix_ + Utf8Text(kVerbs))),
+      newFile_(disk::pathOf(prefix_ + Utf8Text(kVerbs))),
       count_(count),
       messages_(messages),
       files_(files) {}
 
-FoundFile UserVerbsFile::find() const { return findFile(prefix_, kVerbs, files_); }
+disk::FoundFile UserVerbsFile::find() const { return disk::findFile(prefix_, kVerbs, files_); }
 
 // Of the records whose infinitives are `infinitive` without their prefixes: the first, or better
 // the first that has the prefix too.
@@ -83,8 +83,8 @@ class ChosenRecord {
 
 bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
                          std::uint8_t& storedAux) {
-  if (count_ <= 0 && files_.presence(newFile_) == Presence::notThere) return false;
-  const FoundFile found = find();
+  if (count_ <= 0 && files_.presence(newFile_) == disk::Presence::notThere) return false;
+  const disk::FoundFile found = find();
   const bool isKnown = takeNoticeOf(found.path) && count_ > 0 && hasPlacesOf(found);
   ChosenRecord chosen(infinitive, forms, storedAux);
   const bool isRead = isKnown && loadByPlace(found, chosen);
@@ -95,11 +95,11 @@ bool UserVerbsFile::load(std::string_view infinitive, engine::FormTable& forms,
 }
 
 // False when the file is no longer what the places were noted of.
-bool UserVerbsFile::loadByPlace(const FoundFile& found, ChosenRecord& chosen) {
+bool UserVerbsFile::loadByPlace(const disk::FoundFile& found, ChosenRecord& chosen) {
   std::int64_t last = count_;
   for (const UserVerbPlaces::Place& place : places_.of(chosen.key())) {
     if (place.record > count_) break;
-    std::unique_ptr<InputFile> file = files_.open(found.path);
+    std::unique_ptr<disk::InputFile> file = files_.open(found.path);
     if (!file || !file->skip(place.start)) return false;
     UserRecordReader records(std::move(file));
     if (records.next() != RecordRead::record) return false;
@@ -114,8 +114,8 @@ bool UserVerbsFile::loadByPlace(const FoundFile& found, ChosenRecord& chosen) {
 }
 
 // Notes the places where that has not been done since the file has changed.
-bool UserVerbsFile::hasPlacesOf(const FoundFile& found) {
-  if (found.presence != Presence::there) return false;
+bool UserVerbsFile::hasPlacesOf(const disk::FoundFile& found) {
+  if (found.presence != disk::Presence::there) return false;
   return versionOfPlaces_ == version_ || readPlaces(found.path);
 }
 
@@ -147,10 +147,10 @@ void UserVerbsFile::forEach(
 }
 
 // Shows every readable record to `isEnough` until it has enough; false when reading failed.
-bool UserVerbsFile::visitRecords(const FoundFile& found, std::int64_t limit,
+bool UserVerbsFile::visitRecords(const disk::FoundFile& found, std::int64_t limit,
                                  const Visit& isEnough) {
-  if (limit <= 0 || found.presence == Presence::notThere) return true;
-  const bool isThere = found.presence == Presence::there;
+  if (limit <= 0 || found.presence == disk::Presence::notThere) return true;
+  const bool isThere = found.presence == disk::Presence::there;
   UserRecordReader records(isThere ? files_.open(found.path) : nullptr);
   while (records.number() < limit) {
     const RecordRead read = records.next();
@@ -173,10 +173,10 @@ void UserVerbsFile::lookAgain() { static_cast<void>(takeNoticeOf(find().path)); 
 // either, since the stored count and the file are expected to disagree after a crash.
 // False when it cannot be told whether the file has changed.
 bool UserVerbsFile::takeNoticeOf(const fs::path& file) {
-  const FileLook look = files_.look(file);
-  if (look.presence == Presence::unknown) return false;
+  const disk::FileLook look = files_.look(file);
+  if (look.presence == disk::Presence::unknown) return false;
   if (seen_ == look) return true;
-  const bool isCounted = seen_ && look.presence == Presence::there;
+  const bool isCounted = seen_ && look.presence == disk::Presence::there;
   if (isCounted && !readPlaces(file)) return false;  // tried again at the next look
   if (isCounted) count_ = static_cast<std::int32_t>(places_.recordCount());
   see(look);
@@ -184,7 +184,7 @@ bool UserVerbsFile::takeNoticeOf(const fs::path& file) {
   return true;
 }
 
-void UserVerbsFile::see(const FileLook& look) {
+void UserVerbsFile::see(const disk::FileLook& look) {
   seen_ = look;
   ++version_;
 }
@@ -195,7 +195,7 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
     return SaveResult::failed;
   }
   const CopyResult copied =
-      rewriteInTurn([&](const ReplacedFile& target) { return rewriteWith(record, target); });
+      rewriteInTurn([&](const disk::ReplacedFile& target) { return rewriteWith(record, target); });
   if (!copied.isComplete) {
     messages_.show(MessageId::userVerbsNotSaved);
     return SaveResult::failed;
@@ -214,9 +214,9 @@ SaveResult UserVerbsFile::save(const UserVerbRecord& record) {
 // place of the old.
 CopyResult UserVerbsFile::rewriteInTurn(const Rewrite& rewrite) {
   constexpr int kTries = 5;
-  const auto lock = files_.lock(folderOf(newFile_));
+  const auto lock = files_.lock(disk::folderOf(newFile_));
   for (int tries = 0; lock && tries < kTries; ++tries) {
-    const auto target = fileToReplace(files_, find());
+    const auto target = disk::fileToReplace(files_, find());
     if (!target) break;
     takeNoticeOf(target->path);
     const CopyResult copied = rewrite(*target);
@@ -227,16 +227,17 @@ CopyResult UserVerbsFile::rewriteInTurn(const Rewrite& rewrite) {
   return {};
 }
 
-CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record, const ReplacedFile& target) {
+CopyResult UserVerbsFile::rewriteWith(const UserVerbRecord& record,
+                                      const disk::ReplacedFile& target) {
   const std::string line = recordLine(record);
   UserVerbsRewrite rewrite(files_, target);
   CopyResult copied{.isComplete = true};
   std::optional<fs::path> backup = fs::path();
-  if (target.look.presence == Presence::there) {
+  if (target.look.presence == disk::Presence::there) {
     UserRecordReader records(files_.open(target.path));
     copied =
         rewrite.copy(records, count_, {isOfVerb(record.forms[engine::slot::kInfinitive]), line});
-    if (copied.isComplete && records.hasMore()) backup = freeName(prefix_, kBackup, files_);
+    if (copied.isComplete && records.hasMore()) backup = disk::freeName(prefix_, kBackup, files_);
   }
   if (copied.changed == 0) rewrite.append(line);
   copied.isComplete = copied.isComplete && backup && rewrite.content().finish();
@@ -252,7 +253,7 @@ DeleteResult UserVerbsFile::remove(std::string_view infinitive) {
     return isFound = isMeant(records.outline().infinitive);
   });
   if (isRead && !isFound) return DeleteResult::notFound;
-  const CopyResult copied = isRead ? rewriteInTurn([&](const ReplacedFile& target) {
+  const CopyResult copied = isRead ? rewriteInTurn([&](const disk::ReplacedFile& target) {
     return rewriteWithout(infinitive, target);
   })
                                    : CopyResult{};
@@ -266,7 +267,8 @@ DeleteResult UserVerbsFile::remove(std::string_view infinitive) {
   return DeleteResult::deleted;
 }
 
-CopyResult UserVerbsFile::rewriteWithout(std::string_view infinitive, const ReplacedFile& target) {
+CopyResult UserVerbsFile::rewriteWithout(std::string_view infinitive,
+                                         const disk::ReplacedFile& target) {
   UserVerbsRewrite rewrite(files_, target);
   CopyResult copied;
   {
@@ -277,39 +279,40 @@ CopyResult UserVerbsFile::rewriteWithout(std::string_view infinitive, const Repl
   copied.isComplete = rewrite.content().finish();
   if (!copied.isComplete) return copied;
   removePrevious();
-  keepAndSwap(rewrite.content(), target, pathOf(prefix_ + Utf8Text(kPreviousVerbs)), copied);
+  keepAndSwap(rewrite.content(), target, disk::pathOf(prefix_ + Utf8Text(kPreviousVerbs)), copied);
   return copied;
 }
 
 // The old content gets its second name first, so that it never is without one.
-void UserVerbsFile::keepAndSwap(FileReplacement& content, const ReplacedFile& target,
+void UserVerbsFile::keepAndSwap(disk::FileReplacement& content, const disk::ReplacedFile& target,
                                 const fs::path& keptAs, CopyResult& copied) {
   copied.isOvertaken = !content.isTargetAsItWas();
   copied.isComplete = !copied.isOvertaken;
   if (copied.isComplete && !keptAs.empty()) {
     copied.isComplete = files_.keepAs(target.path, keptAs);
-    if (copied.isComplete) files_.syncFolder(folderOf(keptAs));
+    if (copied.isComplete) files_.syncFolder(disk::folderOf(keptAs));
   }
   copied.isComplete = copied.isComplete && content.swapIn();
 }
 
 void UserVerbsFile::removePrevious() {
-  if (const auto previous = existingFile(prefix_, kPreviousVerbs, files_)) files_.remove(*previous);
+  if (const auto previous = disk::existingFile(prefix_, kPreviousVerbs, files_))
+    files_.remove(*previous);
 }
 
 void UserVerbsFile::recoverAfterCrash() {
-  const FoundFile found = find();
-  removeUnfinished(files_, found);
-  if (count_ != 0 && found.presence == Presence::unknown) showUnreadable();
-  if (count_ != 0 && found.presence == Presence::notThere) putBackPrevious();
+  const disk::FoundFile found = find();
+  disk::removeUnfinished(files_, found);
+  if (count_ != 0 && found.presence == disk::Presence::unknown) showUnreadable();
+  if (count_ != 0 && found.presence == disk::Presence::notThere) putBackPrevious();
   lookAgain();
 }
 
 // A folder under that name is nothing to put back. deliberate: whatever has come to stand under the
 // file's name meanwhile stays.
 void UserVerbsFile::putBackPrevious() {
-  const FoundFile previous = findFile(prefix_, kPreviousVerbs, files_);
-  if (previous.presence == Presence::notThere) return;
+  const disk::FoundFile previous = disk::findFile(prefix_, kPreviousVerbs, files_);
+  if (previous.presence == disk::Presence::notThere) return;
   std::error_code fault;
   const bool isOrdinary = fs::is_regular_file(previous.path, fault);
   if (!isOrdinary && !fault) return;
@@ -317,7 +320,7 @@ void UserVerbsFile::putBackPrevious() {
     messages_.show(MessageId::userVerbsNotRestored);
     return;
   }
-  files_.syncFolder(folderOf(newFile_));
+  files_.syncFolder(disk::folderOf(newFile_));
 }
 
 void UserVerbsFile::showDamage(std::int64_t record) {

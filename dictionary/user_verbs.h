@@ -10,19 +10,22 @@
 #include <string_view>
 #include <vector>
 
-#include "dictionary/file_system.h"
 #include "dictionary/messages.h"
 #include "dictionary/user_record.h"
 #include "dictionary/user_verb_places.h"
+#include "disk/file_system.h"
 #include "engine/ports.h"
 #include "engine/utf8.h"
+
+namespace odmiennik::disk {
+class FileReplacement;
+struct ReplacedFile;
+struct FoundFile;
+}  // namespace odmiennik::disk
 
 namespace odmiennik::dictionary {
 
 class ChosenRecord;
-class FileReplacement;
-struct ReplacedFile;
-struct FoundFile;
 struct CopyResult;
 
 enum class SaveResult : std::uint8_t { replaced, appended, failed };
@@ -38,7 +41,7 @@ class UserVerbsFile final : public engine::UserVerbs {
  public:
   // `prefix` is put before every bare file name (see AppFolder).
   UserVerbsFile(Utf8Text prefix, std::int32_t count, MessageBoxes& messages,
-                FileSystem& files = systemFiles());
+                disk::FileSystem& files = disk::systemFiles());
 
   // A damaged record is passed over, but counted.
   [[nodiscard]] bool load(std::string_view infinitive, engine::FormTable& forms,
@@ -86,32 +89,34 @@ class UserVerbsFile final : public engine::UserVerbs {
 
  private:
   using Visit = std::function<bool(const UserRecordReader&)>;
-  using Rewrite = std::function<CopyResult(const ReplacedFile& target)>;
+  using Rewrite = std::function<CopyResult(const disk::ReplacedFile& target)>;
 
-  [[nodiscard]] FoundFile find() const;
-  bool visitRecords(const FoundFile& found, std::int64_t limit, const Visit& isEnough);
+  [[nodiscard]] disk::FoundFile find() const;
+  bool visitRecords(const disk::FoundFile& found, std::int64_t limit, const Visit& isEnough);
   bool takeNoticeOf(const std::filesystem::path& file);
   [[nodiscard]] bool readPlaces(const std::filesystem::path& file);
-  [[nodiscard]] bool hasPlacesOf(const FoundFile& found);
-  [[nodiscard]] bool loadByPlace(const FoundFile& found, ChosenRecord& chosen);
+  [[nodiscard]] bool hasPlacesOf(const disk::FoundFile& found);
+  [[nodiscard]] bool loadByPlace(const disk::FoundFile& found, ChosenRecord& chosen);
   [[nodiscard]] CopyResult rewriteInTurn(const Rewrite& rewrite);
-  [[nodiscard]] CopyResult rewriteWith(const UserVerbRecord& record, const ReplacedFile& target);
-  [[nodiscard]] CopyResult rewriteWithout(std::string_view infinitive, const ReplacedFile& target);
-  void keepAndSwap(FileReplacement& content, const ReplacedFile& target,
+  [[nodiscard]] CopyResult rewriteWith(const UserVerbRecord& record,
+                                       const disk::ReplacedFile& target);
+  [[nodiscard]] CopyResult rewriteWithout(std::string_view infinitive,
+                                          const disk::ReplacedFile& target);
+  void keepAndSwap(disk::FileReplacement& content, const disk::ReplacedFile& target,
                    const std::filesystem::path& keptAs, CopyResult& copied);
   void putBackPrevious();
   void removePrevious();
   void showDamage(std::int64_t record);
   void showUnreadable();
-  void see(const FileLook& look);
+  void see(const disk::FileLook& look);
 
   Utf8Text prefix_;
   std::filesystem::path newFile_;  // where the first save puts it
   std::int32_t count_;
   MessageBoxes& messages_;
-  FileSystem& files_;
+  disk::FileSystem& files_;
   std::function<void()> changed_ = [] {};
-  std::optional<FileLook> seen_;  // the file when this program looked at it last
+  std::optional<disk::FileLook> seen_;  // the file when this program looked at it last
   std::uint64_t version_ = 1;
   UserVerbPlaces places_;
   std::uint64_t versionOfPlaces_ = 0;

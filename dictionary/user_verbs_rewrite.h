@@ -7,8 +7,8 @@
 #include <limits>
 #include <string_view>
 
-#include "dictionary/file_replacement.h"
 #include "dictionary/user_record_reader.h"
+#include "disk/replacement.h"
 
 namespace odmiennik::dictionary {
 
@@ -34,7 +34,8 @@ inline constexpr std::uint64_t kLongestCopiedLine = std::uint64_t{64} << 20;
 // New content for the user-verbs file, record after record.
 class UserVerbsRewrite {
  public:
-  UserVerbsRewrite(FileSystem& files, const ReplacedFile& target) : content_(files, target) {}
+  UserVerbsRewrite(disk::FileSystem& files, const disk::ReplacedFile& target)
+      : content_(files, target) {}
 
   // Copies at most `limit` records in the writer's format, the changed ones changed, and damaged
   // lines byte for byte; incomplete where one is longer than kLongestCopiedLine.
@@ -44,12 +45,12 @@ class UserVerbsRewrite {
   // Writes a line of the writer's, after ending a damaged one that ended with the old file.
   void append(std::string_view line);
 
-  [[nodiscard]] FileReplacement& content() { return content_; }
+  [[nodiscard]] disk::FileReplacement& content() { return content_; }
 
  private:
   [[nodiscard]] bool copyDamaged(UserRecordReader& records, CopyResult& result);
 
-  FileReplacement content_;
+  disk::FileReplacement content_;
   bool lacksLineEnd_ = false;
 };
 

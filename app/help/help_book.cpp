@@ -6,7 +6,7 @@
 
 #include "app/common/text.h"
 #include "app/logic/start_up.h"
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::app {
 namespace {
@@ -32,7 +32,7 @@ QUrl helpAddress(const QString& page) {
 }
 
 QStringList helpFilePlaces() {
-  const std::filesystem::path folder = dictionary::executablePath().parent_path();
+  const std::filesystem::path folder = disk::executablePath().parent_path();
   const std::filesystem::path shared = folder.parent_path() / "share" / "odmiennik";
   const auto place = [](const std::filesystem::path& in) {
     constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);

@@ -5,16 +5,16 @@
 #include <filesystem>
 #include <system_error>
 
-#include "dictionary/file_names.h"
-#include "dictionary/program_folder.h"
+#include "disk/names.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::app {
 
 Utf8Text programFolderOf(const std::optional<Utf8Text>& named) {
   if (named) return *named;
-  Utf8Text folder = dictionary::programFolder();
+  Utf8Text folder = disk::programFolder();
   std::error_code ignored;  // the settings tell when they cannot be written
-  std::filesystem::create_directories(dictionary::pathOf(folder), ignored);
+  std::filesystem::create_directories(disk::pathOf(folder), ignored);
   return folder;
 }
 

@@ -7,12 +7,12 @@
 namespace odmiennik::app {
 
 using dictionary::MessageId;
-using dictionary::SettingsRead;
+using disk::SettingsRead;
 
 void SettingsKeeper::ReadSettings() {
-  dictionary::removeUnfinishedSettings(parts_.prefix, parts_.files);
+  disk::removeUnfinishedSettings(parts_.prefix, parts_.files);
   const auto read = [this] {
-    return dictionary::readSettingsFile(parts_.prefix, settings_, parts_.files);
+    return disk::readSettingsFile(parts_.prefix, settings_, parts_.files);
   };
   SettingsRead result = read();
   if (result == SettingsRead::missing) {
@@ -34,7 +34,7 @@ void SettingsKeeper::WriteDefaultSettings() {
 
 // The colours come from the headings and not from what was read: whatever was applied since is
 // saved. Another program may have saved verbs that are to be counted.
-dictionary::Settings SettingsKeeper::current() {
+disk::Settings SettingsKeeper::current() {
   parts_.userVerbs.lookAgain();
   const auto [mood, tense] = parts_.colours.live();
   return {.userVerbCount = parts_.userVerbs.count(),
@@ -49,7 +49,7 @@ void SettingsKeeper::SaveSettings() {
 }
 
 bool SettingsKeeper::saveSilently() {
-  return !isFileUnread_ && dictionary::writeSettingsFile(parts_.prefix, current(), parts_.files);
+  return !isFileUnread_ && disk::writeSettingsFile(parts_.prefix, current(), parts_.files);
 }
 
 void SettingsKeeper::ResetSettings() {
@@ -62,8 +62,8 @@ void SettingsKeeper::countConjugation() { countOne(settings_.conjugationCount); 
 
 void SettingsKeeper::countRun() { countOne(settings_.runCount); }
 
-void SettingsKeeper::write(const dictionary::Settings& settings) {
-  if (!dictionary::writeSettingsFile(parts_.prefix, settings, parts_.files))
+void SettingsKeeper::write(const disk::Settings& settings) {
+  if (!disk::writeSettingsFile(parts_.prefix, settings, parts_.files))
     parts_.messages.show(MessageId::settingsNotWritten);
 }
 

@@ -7,8 +7,8 @@
 
 #include "app/logic/colour_dialog.h"
 #include "dictionary/messages.h"
-#include "dictionary/settings.h"
 #include "dictionary/user_verbs.h"
+#include "disk/settings.h"
 #include "engine/utf8.h"
 
 namespace odmiennik::app {
@@ -31,7 +31,7 @@ class SettingsKeeper {
     HeadingColourPort colours;
     dictionary::MessageBoxes& messages;
     std::function<void()> end;
-    dictionary::FileSystem& files = dictionary::systemFiles();
+    disk::FileSystem& files = disk::systemFiles();
   };
   explicit SettingsKeeper(Parts parts) : parts_(std::move(parts)) {}
 
@@ -63,11 +63,11 @@ class SettingsKeeper {
   [[nodiscard]] std::int32_t runCount() const { return settings_.runCount; }
 
  private:
-  [[nodiscard]] dictionary::Settings current();
-  void write(const dictionary::Settings& settings);
+  [[nodiscard]] disk::Settings current();
+  void write(const disk::Settings& settings);
 
   Parts parts_;
-  dictionary::Settings settings_;
+  disk::Settings settings_;
   bool isFileUnread_ = false;  // there is a file, and nobody knows what it holds
 };
 

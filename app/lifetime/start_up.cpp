@@ -15,7 +15,7 @@
 #include "app/main_window/window_pointer.h"
 #include "app/platform/character_map.h"
 #include "app/tips/tip_of_the_day.h"
-#include "dictionary/file_names.h"
+#include "disk/names.h"
 
 namespace odmiennik::app {
 
@@ -72,7 +72,7 @@ void StartUp::readSettings() {
 }
 
 void StartUp::checkFirstStart() {
-  if (!dictionary::existingFile(parts_.prefix, kFirstStartMarker)) return;
+  if (!disk::existingFile(parts_.prefix, kFirstStartMarker)) return;
   parts_.messages.show(dictionary::MessageId::restartSystemFirst);
   parts_.closing.closeWithoutQuestion();
 }

@@ -5,15 +5,15 @@
 #include <QCoreApplication>
 
 #include "app/common/text.h"
-#include "dictionary/file_names.h"
 #include "dictionary/verb_index.h"
+#include "disk/names.h"
 
 namespace odmiennik::app {
 
 UserVerbsFound findUserVerbs(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs) {
   // A file that cannot be looked for is read all the same: the reader says what is wrong.
   const bool isPresent =
-      dictionary::findFile(prefix, "Czasowniki.dat").presence != dictionary::Presence::notThere;
+      disk::findFile(prefix, "Czasowniki.dat").presence != disk::Presence::notThere;
   return {isPresent, userVerbs.infinitives(), userVerbs.count()};
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "dictionary/printable.h"
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::app {
@@ -103,7 +103,7 @@ class Reading {
       folder = rest.front();
     }
     if (folder.empty()) return refuse("opcja „--folder” wymaga nazwy folderu");
-    read_.folder = dictionary::withoutTrailingSeparators(folder);
+    read_.folder = disk::withoutTrailingSeparators(folder);
   }
 
   void takeVerb() {

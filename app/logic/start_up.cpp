@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "dictionary/messages.h"
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::app {
 
@@ -22,7 +22,7 @@ Utf8Text helpFilePath(Utf8View folder, char separator) {
 }
 
 std::string characterMapPath(std::string_view windowsFolder) {
-  const Utf8Text prefix = dictionary::AppFolder(asUtf8(windowsFolder));
+  const Utf8Text prefix = disk::AppFolder(asUtf8(windowsFolder));
   return std::string(bytesOf(prefix)).append(bytesOf(kCharacterMap));
 }
 

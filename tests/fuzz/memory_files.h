@@ -8,14 +8,14 @@
 #include <string>
 #include <utility>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 
 namespace odmiennik::testing {
 
-class MemoryFiles final : public dictionary::FileSystem {
+class MemoryFiles final : public disk::FileSystem {
  public:
   using Path = std::filesystem::path;
-  using Presence = dictionary::Presence;
+  using Presence = disk::Presence;
 
   void put(const std::string& name, std::string content) {
     files_[name] = {std::move(content), ++changes_};
@@ -29,7 +29,7 @@ class MemoryFiles final : public dictionary::FileSystem {
   Presence presence(const Path& name) override {
     return files_.contains(name.string()) ? Presence::there : Presence::notThere;
   }
-  dictionary::FileLook look(const Path& file) override {
+  disk::FileLook look(const Path& file) override {
     const auto found = files_.find(file.string());
     if (found == files_.end()) return {Presence::notThere, {}};
     return {Presence::there, {1, found->second.number, found->second.content.size(), 0}};
@@ -40,14 +40,14 @@ class MemoryFiles final : public dictionary::FileSystem {
     for (const auto& [name, file] : files_) names.emplace_back(name);
     return names;
   }
-  std::unique_ptr<dictionary::FolderLock> lock(const Path&) override {
-    return std::make_unique<dictionary::FolderLock>();
+  std::unique_ptr<disk::FolderLock> lock(const Path&) override {
+    return std::make_unique<disk::FolderLock>();
   }
-  std::unique_ptr<dictionary::InputFile> open(const Path& file) override {
+  std::unique_ptr<disk::InputFile> open(const Path& file) override {
     const auto found = files_.find(file.string());
     return found == files_.end() ? nullptr : std::make_unique<Input>(found->second.content);
   }
-  std::unique_ptr<dictionary::OutputFile> create(const Path& file, const Path&) override {
+  std::unique_ptr<disk::OutputFile> create(const Path& file, const Path&) override {
     if (files_.contains(file.string())) return nullptr;
     put(file.string(), {});
     return std::make_unique<Output>(files_[file.string()].content);
@@ -71,7 +71,7 @@ class MemoryFiles final : public dictionary::FileSystem {
     std::uint64_t number = 0;
   };
 
-  class Input final : public dictionary::InputFile {
+  class Input final : public disk::InputFile {
    public:
     explicit Input(std::string content) : content_(std::move(content)) {}
     std::ptrdiff_t read(char* buffer, std::size_t size) override {
@@ -86,7 +86,7 @@ class MemoryFiles final : public dictionary::FileSystem {
     std::size_t place_ = 0;
   };
 
-  class Output final : public dictionary::OutputFile {
+  class Output final : public disk::OutputFile {
    public:
     explicit Output(std::string& content) : content_(content) {}
     bool write(std::string_view bytes) override {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: any bytes as the settings file; what is read, written and read again is the same.
-#include "dictionary/settings.h"
+#include "disk/settings.h"
 
 #include <string>
 #include <string_view>
@@ -13,30 +13,31 @@ namespace {
 
 using namespace dictionary;
 
-bool areSame(const Settings& one, const Settings& other) {
+bool areSame(const disk::Settings& one, const disk::Settings& other) {
   return one.userVerbCount == other.userVerbCount && one.moodColour == other.moodColour &&
          one.tenseColour == other.tenseColour && one.conjugationCount == other.conjugationCount &&
          one.runCount == other.runCount;
 }
 
 void readWriteRead(std::string_view text) {
-  Settings read, again;
-  const bool isRead = parseSettings(text, read);
-  const std::string written = settingsText(read);
-  require(parseSettings(written, again), "what is written can be read");
+  disk::Settings read, again;
+  const bool isRead = disk::parseSettings(text, read);
+  const std::string written = disk::settingsText(read);
+  require(disk::parseSettings(written, again), "what is written can be read");
   require(areSame(read, again), "what is written is what was read");
-  require(settingsText(again) == written, "what was written once is written the same again");
+  require(disk::settingsText(again) == written, "what was written once is written the same again");
   if (text == written) require(isRead, "the program's own file is sound");
 }
 
 void throughFiles(const std::string& text) {
   MemoryFiles files;
   files.put("Werbolin.cfg", text);
-  Settings read, again;
-  const SettingsRead result = readSettingsFile("", read, files);
-  require(result == SettingsRead::read || result == SettingsRead::damaged, "the file is there");
-  require(writeSettingsFile("", read, files), "settings can be written");
-  require(readSettingsFile("", again, files) == SettingsRead::read, "and read again");
+  disk::Settings read, again;
+  const disk::SettingsRead result = disk::readSettingsFile("", read, files);
+  require(result == disk::SettingsRead::read || result == disk::SettingsRead::damaged,
+          "the file is there");
+  require(disk::writeSettingsFile("", read, files), "settings can be written");
+  require(disk::readSettingsFile("", again, files) == disk::SettingsRead::read, "and read again");
   require(areSame(read, again), "what is in the file is what was read");
   require(files.count() == 1, "nothing is left beside the file");
 }
@@ -47,8 +48,9 @@ void encodeAndDecode(std::string_view bytes) {
   for (const char byte : bytes.substr(0, 4))
     number = number << 8 | static_cast<unsigned char>(byte);
   const auto runCount = static_cast<std::int32_t>(number);
-  Settings read;
-  require(parseSettings("0\n0\n0\n0\n" + encodeRunCount(runCount), read), "a run count is read");
+  disk::Settings read;
+  require(disk::parseSettings("0\n0\n0\n0\n" + disk::encodeRunCount(runCount), read),
+          "a run count is read");
   require(read.runCount == runCount, "a run count is what it was");
 }
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "dictionary/file_fields.h"
 #include "dictionary/user_record.h"
 #include "dictionary/user_verbs.h"
+#include "disk/fields.h"
 #include "engine/normalization.h"
 #include "engine/windows1252.h"
 #include "tests/fuzz/fuzz_input.h"

@@ -16,10 +16,11 @@ using Folders = std::set<std::string>;
 const std::map<std::string, Folders> kMayInclude{
     {"engine", {"engine", "data"}},
     {"groups", {"engine", "groups", "data"}},
-    {"dictionary", {"engine", "groups", "dictionary", "data"}},
-    {"finder", {"engine", "groups", "dictionary", "finder", "data"}},
-    {"cli", {"engine", "groups", "dictionary", "finder", "cli", "data"}},
-    {"app", {"engine", "groups", "dictionary", "finder", "app", "data"}},
+    {"disk", {"engine", "disk"}},
+    {"dictionary", {"engine", "groups", "disk", "dictionary", "data"}},
+    {"finder", {"engine", "groups", "disk", "dictionary", "finder", "data"}},
+    {"cli", {"engine", "groups", "disk", "dictionary", "finder", "cli", "data"}},
+    {"app", {"engine", "groups", "disk", "dictionary", "finder", "app", "data"}},
     {"tools", {"engine", "groups", "dictionary", "finder", "tools"}},
 };
 
@@ -35,8 +36,8 @@ const std::vector<Folders> kFloorsOfTheWindow{
     {"typing"},
 };
 
-const Folders kProjectFolders{"engine", "groups", "dictionary", "finder", "cli",
-                              "app",    "data",   "tools",      "tests",  "bench"};
+const Folders kProjectFolders{"engine", "groups", "disk",  "dictionary", "finder", "cli",
+                              "app",    "data",   "tools", "tests",      "bench"};
 
 // "file includes file", for every include that points upward.
 std::vector<std::string> upwardIncludes() {
@@ -110,6 +111,17 @@ TEST(layering, the_logic_of_the_window_and_its_windows_sources_know_no_qt) {
     if (!isFreeOfQt) continue;
     for (const std::string& line : linesOf(source.text))
       EXPECT_FALSE(isQtHeader(includedBy(line))) << source.path << ": " << line;
+  }
+}
+
+TEST(layering, the_disk_knows_no_verb) {
+  const Folders kOfTheEngine{"engine/normalization.h", "engine/utf8.h"};
+  for (const Source& source : cppSources()) {
+    if (source.folder() != "disk") continue;
+    for (const std::string& line : linesOf(source.text)) {
+      const bool isOfTheEngine = includedBy(line).starts_with("engine/");
+      EXPECT_TRUE(!isOfTheEngine || kOfTheEngine.contains(includedBy(line))) << source.path;
+    }
   }
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A file's name is UTF-8, whatever the system; an infinitive is not.
-#include "dictionary/file_names.h"
+#include "disk/names.h"
 #include "engine/french.h"
 
 using namespace odmiennik;
 using namespace engine::literals;
 
-const auto kFile = dictionary::pathOf("céder"_fr);
+const auto kFile = disk::pathOf("céder"_fr);

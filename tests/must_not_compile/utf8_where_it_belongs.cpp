@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control: converted, or written as a literal, either text is taken.
-#include "dictionary/file_names.h"
 #include "dictionary/messages.h"
+#include "disk/names.h"
 #include "engine/form_table.h"
 #include "engine/windows1252.h"
 
@@ -11,5 +11,5 @@ void tell(dictionary::MessageBoxes& messages, engine::FormTable& forms) {
   forms[0] = engine::fromUtf8("cédé").text;
   messages.show(dictionary::MessageId::commaInForm, engine::toUtf8(forms[0]));
   messages.show(dictionary::MessageId::commaInForm, "céder");
-  const auto file = dictionary::pathOf("Połącz.txt");
+  const auto file = disk::pathOf("Połącz.txt");
 }

@@ -26,7 +26,7 @@ class ProgramHome final : public testing::ProgramFolder {
 
 // One run, not yet started; Yes to every question unless told otherwise.
 struct ProgramRun {
-  explicit ProgramRun(ProgramHome& home, dictionary::FileSystem& files = dictionary::systemFiles(),
+  explicit ProgramRun(ProgramHome& home, disk::FileSystem& files = disk::systemFiles(),
                       const std::optional<std::string>& verb = {})
       : program({.folder = Utf8Text(asUtf8(home.path().string())),
                  .messages = messages,

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "app/lifetime/settings_keeper.h"
-#include "dictionary/program_folder.h"
 #include "dictionary/user_verbs.h"
+#include "disk/program_folder.h"
 
 namespace odmiennik::attacks {
 namespace {
@@ -43,7 +43,7 @@ UserVerbRecord recordOf(std::string_view verb) {
 class Driver {
  public:
   explicit Driver(Utf8View folder)
-      : prefix_(AppFolder(folder)),
+      : prefix_(disk::AppFolder(folder)),
         verbs_(prefix_, 0, messages_),
         settings_({prefix_, verbs_, colours(), messages_, [this] { hasEnded_ = true; }}) {}
 

@@ -6,8 +6,8 @@
 #include <map>
 #include <sstream>
 
-#include "dictionary/settings.h"
 #include "dictionary/user_verbs.h"
+#include "disk/settings.h"
 #include "tests/unit/dictionary/program_files.h"
 
 namespace odmiennik::dictionary {
@@ -81,8 +81,9 @@ TEST(broken_settings, are_read_up_to_the_damage) {
   for (const auto& [damage, content] : files) {
     const ProgramFolder folder;
     folder.write("Werbolin.cfg", content);
-    Settings settings{-1, -1, -1, -1, -1};
-    EXPECT_EQ(readSettingsFile(folder.prefix(), settings), SettingsRead::damaged) << damage;
+    disk::Settings settings{-1, -1, -1, -1, -1};
+    EXPECT_EQ(disk::readSettingsFile(folder.prefix(), settings), disk::SettingsRead::damaged)
+        << damage;
     const std::int32_t found[] = {settings.userVerbCount, settings.moodColour, settings.tenseColour,
                                   settings.conjugationCount};
     for (int i = 0; i < 4; ++i)

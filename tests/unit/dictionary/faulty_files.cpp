@@ -10,9 +10,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FaultyInput final : public dictionary::InputFile {
+class FaultyInput final : public disk::InputFile {
  public:
-  FaultyInput(std::unique_ptr<dictionary::InputFile> file, std::size_t readable)
+  FaultyInput(std::unique_ptr<disk::InputFile> file, std::size_t readable)
       : file_(std::move(file)), readable_(readable) {}
 
   std::ptrdiff_t read(char* buffer, std::size_t size) override {
@@ -23,13 +23,13 @@ class FaultyInput final : public dictionary::InputFile {
   }
 
  private:
-  std::unique_ptr<dictionary::InputFile> file_;
+  std::unique_ptr<disk::InputFile> file_;
   std::size_t readable_;
 };
 
-class FaultyOutput final : public dictionary::OutputFile {
+class FaultyOutput final : public disk::OutputFile {
  public:
-  FaultyOutput(FaultyFiles& files, std::unique_ptr<dictionary::OutputFile> file)
+  FaultyOutput(FaultyFiles& files, std::unique_ptr<disk::OutputFile> file)
       : files_(files), file_(std::move(file)) {}
 
   bool write(std::string_view bytes) override {
@@ -40,7 +40,7 @@ class FaultyOutput final : public dictionary::OutputFile {
 
  private:
   FaultyFiles& files_;
-  std::unique_ptr<dictionary::OutputFile> file_;
+  std::unique_ptr<disk::OutputFile> file_;
 };
 
 }  // namespace
@@ -60,64 +60,63 @@ bool FaultyFiles::isAnswered(const char* question) {
   return false;
 }
 
-dictionary::Presence FaultyFiles::presence(const fs::path& name) {
-  return isAnswered("presence") ? dictionary::systemFiles().presence(name)
-                                : dictionary::Presence::unknown;
+disk::Presence FaultyFiles::presence(const fs::path& name) {
+  return isAnswered("presence") ? disk::systemFiles().presence(name) : disk::Presence::unknown;
 }
 
-dictionary::FileLook FaultyFiles::look(const fs::path& file) {
-  return isAnswered("look") ? dictionary::systemFiles().look(file) : dictionary::FileLook{};
+disk::FileLook FaultyFiles::look(const fs::path& file) {
+  return isAnswered("look") ? disk::systemFiles().look(file) : disk::FileLook{};
 }
 
 std::optional<fs::path> FaultyFiles::realFile(const fs::path& file) {
-  return isAnswered("realFile") ? dictionary::systemFiles().realFile(file) : std::nullopt;
+  return isAnswered("realFile") ? disk::systemFiles().realFile(file) : std::nullopt;
 }
 
 std::optional<std::vector<fs::path>> FaultyFiles::names(const fs::path& folder) {
-  return isAnswered("names") ? dictionary::systemFiles().names(folder) : std::nullopt;
+  return isAnswered("names") ? disk::systemFiles().names(folder) : std::nullopt;
 }
 
-std::unique_ptr<dictionary::FolderLock> FaultyFiles::lock(const fs::path& folder) {
-  return isAnswered("lock") ? dictionary::systemFiles().lock(folder) : nullptr;
+std::unique_ptr<disk::FolderLock> FaultyFiles::lock(const fs::path& folder) {
+  return isAnswered("lock") ? disk::systemFiles().lock(folder) : nullptr;
 }
 
 void FaultyFiles::act() {
   if (beforeMoving_) std::exchange(beforeMoving_, nullptr)();
 }
 
-std::unique_ptr<dictionary::InputFile> FaultyFiles::open(const fs::path& file) {
-  auto opened = dictionary::systemFiles().open(file);
+std::unique_ptr<disk::InputFile> FaultyFiles::open(const fs::path& file) {
+  auto opened = disk::systemFiles().open(file);
   if (!opened) return nullptr;
   auto input = std::make_unique<FaultyInput>(std::move(opened), readable_);
   return wrap_ ? wrap_(std::move(input)) : std::move(input);
 }
 
-std::unique_ptr<dictionary::OutputFile> FaultyFiles::create(const fs::path& file,
-                                                            const fs::path& replaced) {
+std::unique_ptr<disk::OutputFile> FaultyFiles::create(const fs::path& file,
+                                                      const fs::path& replaced) {
   if (!takeStep("create")) return nullptr;
-  return std::make_unique<FaultyOutput>(*this, dictionary::systemFiles().create(file, replaced));
+  return std::make_unique<FaultyOutput>(*this, disk::systemFiles().create(file, replaced));
 }
 
 bool FaultyFiles::keepAs(const fs::path& file, const fs::path& secondName) {
-  return takeStep("keepAs") && dictionary::systemFiles().keepAs(file, secondName);
+  return takeStep("keepAs") && disk::systemFiles().keepAs(file, secondName);
 }
 
 bool FaultyFiles::moveOver(const fs::path& file, const fs::path& target) {
   act();
-  return takeStep("moveOver") && dictionary::systemFiles().moveOver(file, target);
+  return takeStep("moveOver") && disk::systemFiles().moveOver(file, target);
 }
 
 bool FaultyFiles::moveToNew(const fs::path& file, const fs::path& target) {
   act();
-  return takeStep("moveToNew") && dictionary::systemFiles().moveToNew(file, target);
+  return takeStep("moveToNew") && disk::systemFiles().moveToNew(file, target);
 }
 
 bool FaultyFiles::remove(const fs::path& file) {
-  return takeStep("remove") && dictionary::systemFiles().remove(file);
+  return takeStep("remove") && disk::systemFiles().remove(file);
 }
 
 void FaultyFiles::syncFolder(const fs::path& folder) {
-  if (takeStep("syncFolder")) dictionary::systemFiles().syncFolder(folder);
+  if (takeStep("syncFolder")) disk::systemFiles().syncFolder(folder);
 }
 
 }  // namespace odmiennik::testing

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 
 namespace odmiennik::testing {
 
@@ -19,7 +19,7 @@ enum class Afterwards {
 
 // Carries out `steps` changing operations; the next one fails. A write that fails is carried out by
 // half, as on a disk that fills up.
-class FaultyFiles final : public dictionary::FileSystem {
+class FaultyFiles final : public disk::FileSystem {
  public:
   explicit FaultyFiles(int steps, Afterwards afterwards = Afterwards::allFails)
       : steps_(steps), afterwards_(afterwards) {}
@@ -34,22 +34,21 @@ class FaultyFiles final : public dictionary::FileSystem {
   void leaveUnanswered(const std::string& question, int times) { unanswered_[question] = times; }
 
   // What stands between the program and every file it reads from now on.
-  using Wrap =
-      std::function<std::unique_ptr<dictionary::InputFile>(std::unique_ptr<dictionary::InputFile>)>;
+  using Wrap = std::function<std::unique_ptr<disk::InputFile>(std::unique_ptr<disk::InputFile>)>;
   void wrapInputs(Wrap wrap) { wrap_ = std::move(wrap); }
 
   // Called before the next file is moved into its place, as another program would act just then.
   void beforeMoving(std::function<void()> act) { beforeMoving_ = std::move(act); }
 
-  dictionary::Presence presence(const std::filesystem::path& name) override;
-  dictionary::FileLook look(const std::filesystem::path& file) override;
+  disk::Presence presence(const std::filesystem::path& name) override;
+  disk::FileLook look(const std::filesystem::path& file) override;
   std::optional<std::filesystem::path> realFile(const std::filesystem::path& file) override;
   std::optional<std::vector<std::filesystem::path>> names(
       const std::filesystem::path& folder) override;
-  std::unique_ptr<dictionary::FolderLock> lock(const std::filesystem::path& folder) override;
-  std::unique_ptr<dictionary::InputFile> open(const std::filesystem::path& file) override;
-  std::unique_ptr<dictionary::OutputFile> create(const std::filesystem::path& file,
-                                                 const std::filesystem::path& replaced) override;
+  std::unique_ptr<disk::FolderLock> lock(const std::filesystem::path& folder) override;
+  std::unique_ptr<disk::InputFile> open(const std::filesystem::path& file) override;
+  std::unique_ptr<disk::OutputFile> create(const std::filesystem::path& file,
+                                           const std::filesystem::path& replaced) override;
   bool keepAs(const std::filesystem::path& file, const std::filesystem::path& secondName) override;
   bool moveOver(const std::filesystem::path& file, const std::filesystem::path& target) override;
   bool moveToNew(const std::filesystem::path& file, const std::filesystem::path& target) override;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a file: the three line ends, wherever reading happens to stop, and lines without end.
-#include "dictionary/file_lines.h"
+#include "disk/lines.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 // Gives at most `step` bytes at a time, so that line ends fall on every border.
@@ -107,4 +107,4 @@ TEST(file_lines, a_failed_read_is_no_end_of_file) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -7,33 +7,31 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "dictionary/file_names.h"
-#include "dictionary/program_folder.h"
+#include "disk/names.h"
+#include "disk/program_folder.h"
 #include "tests/support/test_program.h"
 
 namespace odmiennik::testing {
 
 namespace fs = std::filesystem;
 
-Utf8Text ProgramFolder::prefix() const { return dictionary::AppFolder(asUtf8(path().string())); }
+Utf8Text ProgramFolder::prefix() const { return disk::AppFolder(asUtf8(path().string())); }
 
 void ProgramFolder::write(Utf8View name, std::string_view content) const {
-  std::ofstream file(path() / dictionary::pathOf(name), std::ios::binary);
+  std::ofstream file(path() / disk::pathOf(name), std::ios::binary);
   file << content;
   if (!file.flush()) throw std::runtime_error("a test file cannot be written");
 }
 
 std::string ProgramFolder::read(Utf8View name) const {
-  std::ifstream file(path() / dictionary::pathOf(name), std::ios::binary);
+  std::ifstream file(path() / disk::pathOf(name), std::ios::binary);
   if (!file) throw std::runtime_error("no such test file: " + std::string(bytesOf(name)));
   std::ostringstream content;
   content << file.rdbuf();
   return content.str();
 }
 
-bool ProgramFolder::has(Utf8View name) const {
-  return fs::exists(path() / dictionary::pathOf(name));
-}
+bool ProgramFolder::has(Utf8View name) const { return fs::exists(path() / disk::pathOf(name)); }
 
 std::vector<std::string> ProgramFolder::names() const {
   std::vector<std::string> names;

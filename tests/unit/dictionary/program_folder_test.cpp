@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The prefix of file names.
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 const Utf8Text kSeparator(1, static_cast<char>(std::filesystem::path::preferred_separator));
@@ -26,4 +26,4 @@ TEST(app_folder, is_empty_for_a_folder_that_ends_in_a_separator_of_any_kind) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file: five numbers, the last one encoded.
-#include "dictionary/settings.h"
+#include "disk/settings.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/unit/dictionary/faulty_files.h"
 #include "tests/unit/dictionary/program_files.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 bool operator==(const Settings& left, const Settings& right) {
   return settingsText(left) == settingsText(right);
@@ -157,4 +157,4 @@ TEST_F(SettingsFile, is_the_old_one_or_the_new_one_whenever_the_power_fails) {
 }
 
 }  // namespace
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "dictionary/file_fields.h"
+#include "disk/fields.h"
 #include "tests/support/test_program.h"
 #include "tests/unit/dictionary/program_files.h"
 
@@ -20,7 +20,7 @@ using odmiennik::testing::verb;
 using Fields = std::vector<std::string>;
 
 Fields fieldsOf(std::string_view line) {
-  FieldScanner scanner(line);
+  disk::FieldScanner scanner(line);
   Fields fields;
   for (std::string_view field; scanner.next(field);) fields.emplace_back(field);
   return fields;

@@ -3,8 +3,8 @@
 // lost.
 #include <gtest/gtest.h>
 
-#include "dictionary/settings.h"
 #include "dictionary/user_verbs.h"
+#include "disk/settings.h"
 #include "tests/unit/dictionary/faulty_files.h"
 #include "tests/unit/dictionary/program_files.h"
 
@@ -12,9 +12,9 @@ namespace odmiennik::dictionary {
 namespace {
 
 using odmiennik::testing::FaultyFiles;
-using odmiennik::testing::lineOf;
 using odmiennik::testing::kNotSaved;
 using odmiennik::testing::kUnreadable;
+using odmiennik::testing::lineOf;
 using odmiennik::testing::linesOf;
 using odmiennik::testing::ProgramFolder;
 using odmiennik::testing::RecordedMessages;
@@ -29,7 +29,7 @@ constexpr const char* kQuestions[] = {"presence", "look", "realFile", "names"};
 class UserVerbsInDoubt : public ::testing::Test {
  protected:
   UserVerbsFile open(std::int32_t count) { return {folder_.prefix(), count, messages_, files_}; }
-  void write(std::string_view name, std::string_view content) { folder_.write(name, content); }
+  void write(Utf8View name, std::string_view content) { folder_.write(name, content); }
   std::string verbs() { return folder_.read("Czasowniki.dat"); }
 
   ProgramFolder folder_;
@@ -96,22 +96,23 @@ TEST_F(UserVerbsInDoubt, a_first_save_replaces_no_file_that_has_come_meanwhile) 
 }
 
 TEST_F(UserVerbsInDoubt, settings_that_cannot_be_looked_for_are_not_missing) {
-  write("WERBOLIN.CFG", settingsText({.userVerbCount = 7}));
-  Settings settings;
+  write("WERBOLIN.CFG", disk::settingsText({.userVerbCount = 7}));
+  disk::Settings settings;
   for (const char* question : {"presence", "names"}) {
     files_.leaveUnanswered(question, 1);
-    EXPECT_EQ(readSettingsFile(folder_.prefix(), settings, files_), SettingsRead::unreadable);
+    EXPECT_EQ(disk::readSettingsFile(folder_.prefix(), settings, files_),
+              disk::SettingsRead::unreadable);
     files_.leaveUnanswered(question, 1);
-    EXPECT_FALSE(writeSettingsFile(folder_.prefix(), settings, files_));
+    EXPECT_FALSE(disk::writeSettingsFile(folder_.prefix(), settings, files_));
     files_.leaveUnanswered(question, 0);
   }
   EXPECT_EQ(folder_.names(), Texts{"WERBOLIN.CFG"});
 }
 
 TEST_F(UserVerbsInDoubt, what_a_killed_exit_left_of_the_settings_goes_at_the_next_start) {
-  write("Werbolin.cfg", settingsText({}));
+  write("Werbolin.cfg", disk::settingsText({}));
   write("Werbolin.cfg.new", "half");
-  removeUnfinishedSettings(folder_.prefix());
+  disk::removeUnfinishedSettings(folder_.prefix());
   EXPECT_EQ(folder_.names(), Texts{"Werbolin.cfg"});
 }
 
@@ -151,9 +152,9 @@ TEST_F(TwoPrograms, notice_each_others_deletes) {
 }
 
 // Acts between reading and swapping, as an editor does that knows nothing of locks.
-class ActingInput final : public InputFile {
+class ActingInput final : public disk::InputFile {
  public:
-  ActingInput(std::unique_ptr<InputFile> file, std::function<void()>& act)
+  ActingInput(std::unique_ptr<disk::InputFile> file, std::function<void()>& act)
       : file_(std::move(file)), act_(act) {}
   std::ptrdiff_t read(char* buffer, std::size_t size) override {
     const std::ptrdiff_t got = file_->read(buffer, size);
@@ -162,14 +163,14 @@ class ActingInput final : public InputFile {
   }
 
  private:
-  std::unique_ptr<InputFile> file_;
+  std::unique_ptr<disk::InputFile> file_;
   std::function<void()>& act_;
 };
 
 TEST_F(TwoPrograms, a_change_between_reading_and_swapping_is_read_anew_and_merged) {
   write("Czasowniki.dat", lineOf("aimer"));
   std::function<void()> act = [this] { write("Czasowniki.dat", linesOf({"aimer", "finir"})); };
-  files_.wrapInputs([&act](std::unique_ptr<InputFile> file) {
+  files_.wrapInputs([&act](std::unique_ptr<disk::InputFile> file) {
     return std::make_unique<ActingInput>(std::move(file), act);
   });
   UserVerbsFile verbs = open(1);

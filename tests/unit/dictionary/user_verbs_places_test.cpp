@@ -19,9 +19,9 @@ using odmiennik::testing::RecordedMessages;
 constexpr int kVerbs = 1000;
 
 // Counts what is read, and passes over without reading, unless it is told not to.
-class CountingInput final : public InputFile {
+class CountingInput final : public disk::InputFile {
  public:
-  CountingInput(std::unique_ptr<InputFile> file, std::uint64_t& count, const bool& maySkip)
+  CountingInput(std::unique_ptr<disk::InputFile> file, std::uint64_t& count, const bool& maySkip)
       : file_(std::move(file)), count_(count), maySkip_(maySkip) {}
   std::ptrdiff_t read(char* buffer, std::size_t size) override {
     const std::ptrdiff_t got = file_->read(buffer, size);
@@ -31,7 +31,7 @@ class CountingInput final : public InputFile {
   bool skip(std::uint64_t count) override { return maySkip_ && file_->skip(count); }
 
  private:
-  std::unique_ptr<InputFile> file_;
+  std::unique_ptr<disk::InputFile> file_;
   std::uint64_t& count_;
   const bool& maySkip_;
 };
@@ -39,9 +39,10 @@ class CountingInput final : public InputFile {
 class places_of_user_verbs : public ::testing::Test {
  protected:
   places_of_user_verbs() {
-    files_.wrapInputs([this](std::unique_ptr<InputFile> file) -> std::unique_ptr<InputFile> {
-      return std::make_unique<CountingInput>(std::move(file), bytesRead_, maySkip_);
-    });
+    files_.wrapInputs(
+        [this](std::unique_ptr<disk::InputFile> file) -> std::unique_ptr<disk::InputFile> {
+          return std::make_unique<CountingInput>(std::move(file), bytesRead_, maySkip_);
+        });
   }
   void writeVerbs(int first, const std::string& before = {}) {
     std::string content = before;

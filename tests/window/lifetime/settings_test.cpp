@@ -116,7 +116,7 @@ void SettingsSuite::theWordThatResetsDoesNotCount() {
 void SettingsSuite::fullCountersStayFull() {
   const std::string full = std::to_string(std::numeric_limits<std::int32_t>::max());
   home_->write("Werbolin.cfg",
-               "0\r\n0\r\n0\r\n" + full + "\r\n" + dictionary::encodeRunCount(2147483647) + "\r\n");
+               "0\r\n0\r\n0\r\n" + full + "\r\n" + disk::encodeRunCount(2147483647) + "\r\n");
   ProgramRun run(*home_);
   run.program.start();
   run.conjugate("parler");

@@ -257,7 +257,7 @@ void StartUpSuite::aStartEndedByTheResolutionReadsNoSettings() {
 }
 
 void StartUpSuite::theVerbOfTheCommandLineIsConjugatedAtTheStart() {
-  ProgramRun run(*home_, dictionary::systemFiles(), "se laver");
+  ProgramRun run(*home_, disk::systemFiles(), "se laver");
   run.program.start();
   QCOMPARE(run.entry().text(), "se laver");
   QCOMPARE(run.entry().selectedText(), "se laver");
@@ -266,7 +266,7 @@ void StartUpSuite::theVerbOfTheCommandLineIsConjugatedAtTheStart() {
 }
 
 void StartUpSuite::anUnknownVerbOfTheCommandLineHasItsMessage() {
-  ProgramRun run(*home_, dictionary::systemFiles(), "xyz");
+  ProgramRun run(*home_, disk::systemFiles(), "xyz");
   run.program.start();
   QCOMPARE(run.messages.shown, Messages{MessageId::notConjugable});
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Cutting a line into fields.
-#include "dictionary/file_fields.h"
+#include "disk/fields.h"
 
 #include <algorithm>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 void dropLeadingBlanks(std::string_view& text) {
@@ -41,4 +41,4 @@ void FieldScanner::takePlain(std::string_view& field) {
   rest_.remove_prefix(hasMore_ ? comma + 1 : rest_.size());
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Cutting a file into lines within one buffer.
-#include "dictionary/file_lines.h"
+#include "disk/lines.h"
 
 #include <algorithm>
 #include <cstring>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 constexpr std::size_t kChunk = std::size_t{1} << 16;
@@ -102,4 +102,4 @@ void LineReader::readMore() {
   if (lineFeed_ == unread) lineFeed_ = find(buffer_.get(), '\n', unread, last_);
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

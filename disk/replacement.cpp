@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Replacing a file.
-#include "dictionary/file_replacement.h"
+#include "disk/replacement.h"
 
-#include "dictionary/file_names.h"
+#include "disk/names.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 namespace fs = std::filesystem;
@@ -98,4 +98,4 @@ void removeUnfinished(FileSystem& files, const FoundFile& target) {
     if (!files.remove(nameBeside(*real, number))) return;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

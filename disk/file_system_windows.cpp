@@ -10,9 +10,9 @@
 #include <system_error>
 #include <utility>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 namespace fs = std::filesystem;
@@ -239,4 +239,4 @@ FileSystem& systemFiles() {
   return files;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

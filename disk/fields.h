@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // Blanks around a field are dropped. A field that begins with a double quote ends at the closing
 // one (what follows it, but for blanks and one comma, is the next field) or at the line's end; what
@@ -25,4 +25,4 @@ class FieldScanner {
   bool hasMore_ = true;
 };
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

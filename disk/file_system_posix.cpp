@@ -15,9 +15,9 @@
 #include <thread>
 #include <utility>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 namespace fs = std::filesystem;
@@ -259,4 +259,4 @@ FileSystem& systemFiles() {
   return files;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

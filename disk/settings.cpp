@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file's text.
-#include "dictionary/settings.h"
+#include "disk/settings.h"
 
 #include <charconv>
 #include <optional>
 
-#include "dictionary/file_fields.h"
+#include "disk/fields.h"
 #include "engine/normalization.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 constexpr int kFirstEncoded = 32;  // the code of a blank, encoded as 00
@@ -98,4 +98,4 @@ std::string encodeRunCount(std::int32_t runCount) {
   return encoded;
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

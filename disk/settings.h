@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 #include "engine/utf8.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // Signed 32-bit values; colours are red + 256 x green + 65536 x blue.
 struct Settings {
@@ -48,4 +48,4 @@ enum class SettingsRead : std::uint8_t { read, missing, damaged, unreadable };
 // Removes what a write that was ended half-way left beside the file; for the program's start.
 void removeUnfinishedSettings(Utf8View prefix, FileSystem& files = systemFiles());
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -6,7 +6,7 @@
 
 #include "engine/utf8.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // The folder of the executable; but `userData` where nothing can be kept there: for an installation
 // (the executable in PREFIX/bin with PREFIX/share/odmiennik beside it), and where the system lets
@@ -36,4 +36,4 @@ namespace odmiennik::dictionary {
 // drive's root names its files relative to the current folder.
 [[nodiscard]] Utf8Text AppFolder(Utf8View folder);
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -2,11 +2,11 @@
 // Reading and replacing the settings file.
 #include <optional>
 
-#include "dictionary/file_names.h"
-#include "dictionary/file_replacement.h"
-#include "dictionary/settings.h"
+#include "disk/names.h"
+#include "disk/replacement.h"
+#include "disk/settings.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 namespace {
 
 constexpr Utf8View kSettingsFile = "Werbolin.cfg";
@@ -49,4 +49,4 @@ void removeUnfinishedSettings(Utf8View prefix, FileSystem& files) {
   removeUnfinished(files, findFile(prefix, kSettingsFile, files));
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Finding files by name.
-#include "dictionary/file_names.h"
+#include "disk/names.h"
 
 #include <algorithm>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 namespace {
 
@@ -61,4 +61,4 @@ std::optional<fs::path> freeName(Utf8View prefix, Utf8View name, FileSystem& fil
   }
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program folder.
-#include "dictionary/program_folder.h"
+#include "disk/program_folder.h"
 
 #include "engine/normalization.h"
 
@@ -18,7 +18,7 @@
 #include <cstdlib>
 #include <system_error>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 namespace {
 
@@ -131,4 +131,4 @@ Utf8Text AppFolder(Utf8View folder) {
   return Utf8Text(kept) + static_cast<char>(std::filesystem::path::preferred_separator);
 }
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // What stands under a name. Whoever cannot tell must not take it for a missing file: a network
 // folder that does not answer for a moment still has its files.
@@ -116,4 +116,4 @@ class FileSystem {
 // The files of the system the program runs on.
 [[nodiscard]] FileSystem& systemFiles();
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

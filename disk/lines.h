@@ -6,9 +6,9 @@
 #include <memory>
 #include <string_view>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // A longer line is nothing that this program has written, and is not kept in memory.
 inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
@@ -50,4 +50,4 @@ class LineReader {
   bool isFailed_ = false;
 };
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

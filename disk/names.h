@@ -5,10 +5,10 @@
 #include <filesystem>
 #include <optional>
 
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
 #include "engine/utf8.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // The path of a name, whatever the system's own encoding: pathOf("Połącz.txt").
 [[nodiscard]] std::filesystem::path pathOf(Utf8View name);
@@ -37,4 +37,4 @@ struct FoundFile {
 // The folder of a file, "." for a bare name.
 [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& file);
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk

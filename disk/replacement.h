@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "dictionary/file_names.h"
-#include "dictionary/file_system.h"
+#include "disk/file_system.h"
+#include "disk/names.h"
 
-namespace odmiennik::dictionary {
+namespace odmiennik::disk {
 
 // The file that is to be replaced, as it stood when its content was read.
 struct ReplacedFile {
@@ -68,4 +68,4 @@ class FileReplacement {
 // program may be writing it.
 void removeUnfinished(FileSystem& files, const FoundFile& target);
 
-}  // namespace odmiennik::dictionary
+}  // namespace odmiennik::disk
