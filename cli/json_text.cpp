@@ -60,15 +60,59 @@ constexpr std::array<Image, 256> kFrenchImages = [] {
   return images;
 }();
 
-// Writes the images of at most kBlock letters at `end` and returns the new end.
-constexpr std::size_t kBlock = 64;
-char* writeImages(char* end, std::string_view letters) {
-  for (const char letter : letters) {
-    const Image& image = kFrenchImages[static_cast<unsigned char>(letter)];
-    std::memcpy(end, &image, sizeof image);
-    end += image.length;
-  }
+// Eight bytes are written, whatever the image's length.
+char* writeImage(char* end, char letter) {
+  const Image& image = kFrenchImages[static_cast<unsigned char>(letter)];
+  std::memcpy(end, &image, sizeof image);
+  return end + image.length;
+}
+
+char* writeImagesOf(char* end, const char* from, const char* last) {
+  while (from != last) end = writeImage(end, *from++);
   return end;
+}
+
+// Whether no letter of the word needs an image of its own: none is beyond ASCII, a control
+// character, a quote, a backslash or delete. Each test sets the high bit of a letter that is one.
+template <typename Word>
+bool arePlain(Word letters) {
+  constexpr Word kEach = static_cast<Word>(-1) / 0xFF;
+  constexpr Word kHigh = 0x80 * kEach;
+  const Word isControl = letters - 0x20 * kEach;
+  const Word isQuote = (letters ^ ('"' * kEach)) - kEach;
+  const Word isBackslash = (letters ^ ('\\' * kEach)) - kEach;
+  const Word isDelete = letters + kEach;
+  return ((letters | isControl | isQuote | isBackslash | isDelete) & kHigh) == 0;
+}
+
+// Writes at least a word's letters, a word at a time where they are plain; the last word may lie
+// over the one before, whose letters it then repeats.
+template <typename Word>
+char* writeByWords(char* end, std::string_view letters) {
+  const char* from = letters.data();
+  const char* const last = from + letters.size();
+  Word word;
+  for (; last - from >= std::ptrdiff_t{sizeof word}; from += sizeof word) {
+    std::memcpy(&word, from, sizeof word);
+    if (!arePlain(word)) {
+      end = writeImagesOf(end, from, from + sizeof word);
+      continue;
+    }
+    std::memcpy(end, &word, sizeof word);
+    end += sizeof word;
+  }
+  std::memcpy(&word, last - sizeof word, sizeof word);
+  if (!arePlain(word)) return writeImagesOf(end, from, last);
+  end += last - from;
+  std::memcpy(end - sizeof word, &word, sizeof word);
+  return end;
+}
+
+// Most forms have only plain letters; letter by letter, an answer in JSON takes half as much again.
+char* writeImages(char* end, std::string_view letters) {
+  if (letters.size() >= 8) return writeByWords<std::uint64_t>(end, letters);
+  if (letters.size() >= 4) return writeByWords<std::uint32_t>(end, letters);
+  return writeImagesOf(end, letters.data(), letters.data() + letters.size());
 }
 
 void appendImage(Utf8Text& out, const Image& image) { out.append(image.bytes, image.length); }
@@ -87,35 +131,45 @@ void appendCodePoint(Utf8Text& out, char32_t codePoint) {
   appendUnit(out, 0xDC00 + ((codePoint - kFirstPlane) & 0x3FF));
 }
 
+// Whether a byte of UTF-8 is a letter that stands for itself.
+bool isPlain(char byte) { return byte >= ' ' && byte < '\x7F' && byte != '"' && byte != '\\'; }
+
+// Takes the first letter off `utf8`.
+void takeLetter(Utf8Text& out, Utf8View& utf8) {
+  const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
+  const Utf8View bytes = utf8.substr(0, static_cast<std::size_t>(std::max(letter.length, 1)));
+  if (letter.value < 0xA0)
+    appendImage(out, imageOf(letter.value));
+  else if (dictionary::actsOnTerminal(letter.value))
+    appendCodePoint(out, letter.value);
+  else
+    out.append(bytes);
+  utf8.remove_prefix(bytes.size());
+}
+
 }  // namespace
 
-void appendJsonFrench(Utf8Text& out, std::string_view french) {
-  char block[kBlock * sizeof(Image) + 2];
-  char* end = block;
+char* writeJsonFrench(char* end, std::string_view french) {
   *end++ = '"';
-  while (french.size() > kBlock) {
-    end = writeImages(end, french.substr(0, kBlock));
-    out.append(block, static_cast<std::size_t>(end - block));
-    end = block;
-    french.remove_prefix(kBlock);
-  }
   end = writeImages(end, french);
   *end++ = '"';
-  out.append(block, static_cast<std::size_t>(end - block));
+  return end;
+}
+
+void appendJsonFrench(Utf8Text& out, std::string_view french) {
+  const std::size_t start = out.size();
+  out.resize(start + roomForJson(french));
+  out.resize(static_cast<std::size_t>(writeJsonFrench(&out[start], french) - out.data()));
 }
 
 void appendJsonUtf8(Utf8Text& out, Utf8View utf8) {
   out.push_back('"');
   while (!utf8.empty()) {
-    const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
-    const Utf8View bytes = utf8.substr(0, static_cast<std::size_t>(std::max(letter.length, 1)));
-    if (letter.value < 0xA0)
-      appendImage(out, imageOf(letter.value));
-    else if (dictionary::actsOnTerminal(letter.value))
-      appendCodePoint(out, letter.value);
-    else
-      out.append(bytes);
-    utf8.remove_prefix(bytes.size());
+    const auto plain = static_cast<std::size_t>(
+        std::find_if_not(utf8.begin(), utf8.end(), isPlain) - utf8.begin());
+    out.append(utf8.substr(0, plain));
+    utf8.remove_prefix(plain);
+    if (!utf8.empty()) takeLetter(out, utf8);
   }
   out.push_back('"');
 }

@@ -14,39 +14,30 @@ Utf8View nameOf(engine::Source source) {
   return kNames[static_cast<std::size_t>(source)];
 }
 
-void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
+void appendFlag(Utf8Text& out, Utf8View key, bool isSet) {
+  out.append(key).append(isSet ? "true" : "false");
+}
 
 void appendUtf8(Utf8Text& out, Utf8View key, Utf8View text) {
-  appendKey(out, key);
+  out.append(key);
   appendJsonUtf8(out, text);
 }
 
-void appendFlag(Utf8Text& out, Utf8View key, bool isSet) {
-  appendKey(out, key);
-  out.append(isSet ? "true" : "false");
-}
-
-// An array of texts, each written by `appendText`.
-template <typename Texts, typename View>
-void appendArray(Utf8Text& out, Utf8View key, const Texts& texts,
-                 void (*appendText)(Utf8Text&, View)) {
-  appendKey(out, key);
-  char before = '[';
-  for (const auto& text : texts) {
-    out.push_back(before);
-    appendText(out, text);
-    before = ',';
+void appendMessages(Utf8Text& out, const std::vector<Utf8Text>& messages) {
+  out.append(R"(,"messages":[)");
+  for (const Utf8Text& message : messages) {
+    if (&message != &messages.front()) out.push_back(',');
+    appendJsonUtf8(out, message);
   }
-  out.append(before == '[' ? "[]" : "]");
+  out.push_back(']');
 }
 
 void appendLabels(Utf8Text& out, const dictionary::VerbLabels& labels) {
-  out.append(",\"labels\":{\"group\":");
-  appendJsonUtf8(out, labels.group);
-  appendUtf8(out, "transitive", labels.transitive);
-  appendUtf8(out, "intransitive", labels.intransitive);
-  appendUtf8(out, "auxiliary", labels.auxiliary);
-  appendUtf8(out, "government", labels.government);
+  appendUtf8(out, R"(,"labels":{"group":)", labels.group);
+  appendUtf8(out, R"(,"transitive":)", labels.transitive);
+  appendUtf8(out, R"(,"intransitive":)", labels.intransitive);
+  appendUtf8(out, R"(,"auxiliary":)", labels.auxiliary);
+  appendUtf8(out, R"(,"government":)", labels.government);
   out.push_back('}');
 }
 
@@ -55,28 +46,35 @@ class JsonFormat final : public Format {
   void begin(Utf8Text&) override {}
   void append(Utf8Text& out, const Answer& answer) override {
     const engine::Conjugation& conjugation = answer.conjugation;
-    out.append("{\"typed\":");
-    appendJsonUtf8(out, answer.typed);
+    appendUtf8(out, R"({"typed":)", answer.typed);
     appendTable(out, conjugation);
     appendLabels(out, dictionary::labelsOf(conjugation.information));
-    appendFlag(out, "aux_checked", conjugation.flags.auxiliary == engine::kAvoir);
-    appendFlag(out, "aux_enabled", conjugation.information.isAuxiliaryFree);
-    appendArray(out, "messages", answer.messages, appendJsonUtf8);
-    appendFlag(out, "pronominal", answer.isPronominal);
-    appendFlag(out, "impersonal", conjugation.flags.isImpersonal);
-    appendFlag(out, "h_aspirate", conjugation.flags.hAspirate);
-    appendUtf8(out, "source", nameOf(conjugation.source));
-    appendUtf8(out, "model", conjugation.model);
+    appendFlag(out, R"(,"aux_checked":)", conjugation.flags.auxiliary == engine::kAvoir);
+    appendFlag(out, R"(,"aux_enabled":)", conjugation.information.isAuxiliaryFree);
+    appendMessages(out, answer.messages);
+    appendFlag(out, R"(,"pronominal":)", answer.isPronominal);
+    appendFlag(out, R"(,"impersonal":)", conjugation.flags.isImpersonal);
+    appendFlag(out, R"(,"h_aspirate":)", conjugation.flags.hAspirate);
+    appendUtf8(out, R"(,"source":)", nameOf(conjugation.source));
+    appendUtf8(out, R"(,"model":)", conjugation.model);
     out.append("}\n");
   }
 
  private:
-  static void appendTable(Utf8Text& out, const engine::Conjugation& conjugation) {
-    appendArray(out, "slots", conjugation.forms, appendJsonFrench);
-    appendArray(out, "boxes", conjugation.shown.boxes, appendJsonFrench);
-    appendArray(out, "pronouns", conjugation.shown.pronouns, appendJsonFrench);
-    appendArray(out, "captions", conjugation.shown.captions, appendJsonFrench);
+  void appendTable(Utf8Text& out, const engine::Conjugation& conjugation) {
+    appendFrench(out, R"(,"slots":)", conjugation.forms);
+    appendFrench(out, R"(,"boxes":)", conjugation.shown.boxes);
+    appendFrench(out, R"(,"pronouns":)", conjugation.shown.pronouns);
+    appendFrench(out, R"(,"captions":)", conjugation.shown.captions);
   }
+
+  template <typename Texts>
+  void appendFrench(Utf8Text& out, Utf8View key, const Texts& texts) {
+    out.append(key);
+    appendJsonArray(out, texts, room_);
+  }
+
+  JsonRoom room_;
 };
 
 }  // namespace

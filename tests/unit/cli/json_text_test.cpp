@@ -13,9 +13,8 @@ namespace {
 using namespace engine::literals;
 
 Utf8Text french(std::string_view text) {
-  Utf8Text out;
-  appendJsonFrench(out, text);
-  return out;
+  std::string room(roomForJson(text), ' ');
+  return {room.data(), writeJsonFrench(room.data(), text)};
 }
 
 Utf8Text utf8(Utf8View text) {
@@ -51,6 +50,35 @@ TEST(json_text, every_byte_from_blank_on_has_the_engines_utf8_image) {
     const std::string text(1, static_cast<char>(byte));
     EXPECT_EQ(french(text), "\"" + engine::toUtf8(text) + "\"") << byte;
   }
+}
+
+// What a letter becomes on its own: letters are written several at a time where they are plain.
+Utf8Text letterByLetter(std::string_view text) {
+  Utf8Text letters;
+  for (const char letter : text) {
+    const Utf8Text alone = french(std::string_view(&letter, 1));
+    letters.append(alone, 1, alone.size() - 2);
+  }
+  return "\"" + letters + "\"";
+}
+
+TEST(json_text, a_letter_that_is_not_plain_is_written_the_same_wherever_it_stands) {
+  for (const char letter : std::string_view("\"\\\x7F\x1F\0\x80\xE9\xFF", 8))
+    for (std::size_t length = 1; length < 20; ++length)
+      for (std::size_t place = 0; place < length; ++place) {
+        std::string text(length, 'a');
+        text[place] = letter;
+        EXPECT_EQ(french(text), letterByLetter(text)) << length << " letters, at " << place;
+      }
+}
+
+TEST(json_text, an_array_holds_its_texts_in_order) {
+  Utf8Text out = "x";
+  JsonRoom room;
+  appendJsonArray(out, std::vector<std::string>{"", "parler", std::string("été"_fr), "a\"b"}, room);
+  EXPECT_EQ(out, R"(x["","parler","été","a\"b"])");
+  appendJsonArray(out, std::vector<std::string_view>{}, room);
+  EXPECT_EQ(out, R"(x["","parler","été","a\"b"][])");
 }
 
 TEST(json_text, texts_of_every_length_stay_whole) {
