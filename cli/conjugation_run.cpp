@@ -38,6 +38,7 @@ ExitStatus ConjugationRun::answerAll() {
     answerIndex();
   else
     hasInputTrouble_ = !answerInput(console_, answerLine);
+  if (!departures_) format_->end(out);
   if (files_.hasTrouble || hasInputTrouble_ || messages_.hasFileTrouble())
     return ExitStatus::fileTrouble;
   return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;

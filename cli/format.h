@@ -17,6 +17,8 @@ class Format {
   // What stands before the first answer.
   virtual void begin(Utf8Text& out) = 0;
   virtual void append(Utf8Text& out, const Answer& answer) = 0;
+  // What stands behind the last one.
+  virtual void end(Utf8Text& /*out*/) {}
 };
 
 // The formats, a row each: what --format calls it, and what makes it, in a file of its own in
@@ -24,7 +26,11 @@ class Format {
 #define ODMIENNIK_FORMATS(ROW)                                                              \
   ROW("text", makeTextFormat) /* a table that fits 80 columns; a refused verb has none */   \
   ROW("tsv", makeTsvFormat)   /* a header, then one slot a line; a refused verb has none */ \
-  ROW("json", makeJsonFormat) /* one JSON object a line */
+  ROW("json", makeJsonFormat) /* one JSON object a line */                                  \
+  ROW("csv", makeCsvFormat)   /* what tsv has, for spreadsheets */                          \
+  ROW("markdown", makeMarkdownFormat) /* headings and tables */                             \
+  ROW("html", makeHtmlFormat)         /* one page, to be printed */                         \
+  ROW("anki", makeAnkiFormat)         /* cards to learn from */
 
 #define ODMIENNIK_DECLARE(name, make) \
   [[nodiscard]] std::unique_ptr<Format> make(bool isColoured = false);

@@ -7,6 +7,14 @@
 
 namespace odmiennik::cli {
 
+namespace {
+
+// Where the explanations stand; behind a longer option they begin on a line of their own.
+constexpr std::size_t kHelpColumn = 26;
+constexpr std::size_t kGap = 2;
+
+}  // namespace
+
 bool appendHelp(Utf8Text& out, Utf8View) {
   out.append(
       "Użycie: odmien [OPCJE] [BEZOKOLICZNIK…]\n"
@@ -20,7 +28,8 @@ bool appendHelp(Utf8Text& out, Utf8View) {
     page.addUtf8(row.name);
     if (!row.valueName.empty()) page.addUtf8(" ");
     page.addUtf8(row.valueName);
-    page.moveTo(26);
+    if (page.column() + kGap > kHelpColumn) page.endLine();
+    page.moveTo(kHelpColumn);
     page.addUtf8(row.help);
     page.endLine();
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tab-separated values: a header, then 101 lines a verb.
 #include "cli/format.h"
+#include "cli/phrase.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -14,7 +15,7 @@ std::string_view formOf(std::string_view box) {
 class TsvFormat final : public Format {
  public:
   void begin(Utf8Text& out) override {
-    out.append("infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\n");
+    out.append("infinitive\tslot\tmood\ttense\tperson\tpronoun\tform\tphrase\n");
   }
   void append(Utf8Text& out, const Answer& answer) override {
     if (answer.isRefused) return;
@@ -34,6 +35,8 @@ class TsvFormat final : public Format {
     if (slot < engine::kPersonalSlotCount) engine::appendUtf8(out, shown.pronouns[position]);
     out.push_back('\t');
     appendPrintable(out, formOf(shown.boxes[position]));
+    out.push_back('\t');
+    appendPhrase(out, shown, slot);
     out.push_back('\n');
   }
 };

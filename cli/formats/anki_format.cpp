@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Cards for Anki, as it imports text: front "manger, imparfait, nous", back the phrase, tags.
+#include <algorithm>
+
+#include "cli/format.h"
+#include "cli/phrase.h"
+#include "cli/quoted_field.h"
+#include "cli/text_layout.h"
+#include "dictionary/verb_labels.h"
+
+namespace odmiennik::cli {
+namespace {
+
+// A blank would begin another tag: "passé composé" -> "passé-composé".
+void appendTag(Utf8Text& out, Utf8View text) {
+  for (const char letter : text) out.push_back(letter == ' ' ? '-' : letter);
+}
+
+// The tense as it is called, with its mood but for the indicative.
+void appendTense(Utf8Text& out, const engine::Tense& tense) {
+  if (tense.mood != engine::kTenses.front().mood) {
+    Utf8Text mood(tense.mood);
+    std::transform(mood.begin(), mood.begin() + 1, mood.begin(),
+                   [](char letter) { return static_cast<char>(letter - 'A' + 'a'); });
+    out.append(mood).append(" ");
+  }
+  out.append(tense.name);
+}
+
+// At the start of a field it would begin a quoted one.
+constexpr Utf8View kMarks = "\"";
+
+class AnkiFormat final : public Format {
+ public:
+  void begin(Utf8Text& out) override {
+    out.append("#separator:tab\n#html:false\n#columns:Front\tBack\tTags\n#tags column:3\n");
+  }
+
+  void append(Utf8Text& out, const Answer& answer) override {
+    if (answer.isRefused) return;
+    for (int slot = 0; slot < engine::kSlotCount; ++slot)
+      if (slot != engine::slot::kInfinitive) appendCard(out, answer, slot);  // it is asked with
+  }
+
+ private:
+  void appendCard(Utf8Text& out, const Answer& answer, int slot) {
+    const engine::Display& shown = answer.conjugation.shown;
+    if (cellOf(shown, slot).isMissing()) return;
+    const engine::Tense& tense = engine::tenseOf(slot);
+    front_.clear();
+    appendPrintable(front_, cellOf(shown, engine::slot::kInfinitive).form);
+    front_.append(", ");
+    appendTense(front_, tense);
+    if (const Utf8View person = engine::personOf(slot); !person.empty())
+      front_.append(", ").append(person);
+    appendField(out, front_, kMarks);
+    out.push_back('\t');
+    back_.clear();
+    appendPhrase(back_, shown, slot);
+    appendField(out, back_, kMarks);
+    out.append("\todmiennik::");
+    appendTag(out, tense.mood);
+    out.append("::");
+    appendTag(out, tense.name);
+    out.append(" odmiennik::grupa::");
+    appendTag(out, dictionary::labelsOf(answer.conjugation.information).group);
+    out.push_back('\n');
+  }
+
+  Utf8Text front_;
+  Utf8Text back_;
+};
+
+}  // namespace
+
+std::unique_ptr<Format> makeAnkiFormat(bool) { return std::make_unique<AnkiFormat>(); }
+
+}  // namespace odmiennik::cli

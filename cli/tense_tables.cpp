@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A conjugation as tables.
+#include "cli/tense_tables.h"
+
+#include <algorithm>
+
+namespace odmiennik::cli {
+namespace {
+
+const engine::Tense& tenseAt(int position) {
+  return engine::kTenses[static_cast<std::size_t>(position)];
+}
+
+bool hasForm(const engine::Display& shown, Band tenses, int row) {
+  return std::ranges::any_of(
+      tenses, [&](int tense) { return !cellOf(shown, slotOf(tense, row)).isMissing(); });
+}
+
+}  // namespace
+
+int slotOf(int tense, int row) { return tenseAt(tense).firstSlot + row; }
+
+Utf8View personOf(const TenseTable& table, int row) {
+  return engine::personOf(slotOf(table.tenses.front(), row));
+}
+
+std::vector<TenseTable> tenseTablesOf(const engine::Display& shown) {
+  constexpr std::size_t kColumns = 3;
+  std::vector<TenseTable> tables;
+  Utf8View mood;
+  for (const Band band : bandsOf(kColumns)) {
+    const engine::Tense& first = tenseAt(band.front());
+    TenseTable& table = tables.emplace_back();
+    if (first.mood != mood) table.mood = mood = first.mood;
+    table.tenses = band;
+    for (int row = 0; row < first.slotCount; ++row)
+      if (hasForm(shown, band, row)) table.rows.push_back(row);
+  }
+  return tables;
+}
+
+}  // namespace odmiennik::cli

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A conjugation as tables that stand below each other on a page: tenses in columns, persons in
+// rows.
+#pragma once
+
+#include <vector>
+
+#include "cli/text_layout.h"
+
+namespace odmiennik::cli {
+
+struct TenseTable {
+  Utf8View mood;          // where a mood begins; else empty
+  Band tenses;            // its columns, up to three
+  std::vector<int> rows;  // those that any of its tenses has a form in, counted from 0
+};
+
+// The tables of a conjugation in reading order. One without a form is there, without rows.
+[[nodiscard]] std::vector<TenseTable> tenseTablesOf(const engine::Display& shown);
+
+// The slot of a cell, and the person of a row ("je", "tu"; nothing where there is none).
+[[nodiscard]] int slotOf(int tense, int row);
+[[nodiscard]] Utf8View personOf(const TenseTable& table, int row);
+
+}  // namespace odmiennik::cli
