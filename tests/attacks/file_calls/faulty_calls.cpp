@@ -340,6 +340,11 @@ ssize_t write(int descriptor, const void* buffer, std::size_t size) {
   return isStruck("write", isBelow(descriptor), size) ? -1 : real(descriptor, buffer, size);
 }
 
+off_t lseek(int descriptor, off_t offset, int from) noexcept {
+  REAL(lseek, off_t(int, off_t, int));
+  return isStruck("lseek", isBelow(descriptor)) ? -1 : real(descriptor, offset, from);
+}
+
 #define ON_DESCRIPTOR(NAME)                                              \
   int NAME(int descriptor) {                                             \
     REAL(NAME, int(int));                                                \
