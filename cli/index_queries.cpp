@@ -6,6 +6,7 @@
 #include "engine/normalization.h"
 #include "engine/string_table.h"
 #include "engine/windows1252.h"
+#include "finder/letters.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -24,12 +25,18 @@ constexpr bool isUtf8Entry(int identifier) {
 
 }  // namespace
 
-bool appendVerbsOfLetter(Utf8Text& out, Utf8View letter) {
-  const char first = letter.front();
-  const char lower = first >= 'A' && first <= 'Z' ? static_cast<char>(first - 'A' + 'a') : first;
-  const int count = dictionary::verbCount(lower);
-  for (int k = 1; k <= count; ++k) appendLine(out, dictionary::verbOfLetter(lower, k));
-  return count > 0;
+bool appendVerbsBeginning(Utf8Text& out, Utf8View beginning) {
+  engine::FromUtf8 french = engine::fromUtf8(beginning);
+  if (french.fault != engine::Utf8Fault::none) return false;
+  engine::lowerCase(french.text);
+  const finder::Folded wanted(french.text);
+  bool hasFound = false;
+  for (int position = 0; position < dictionary::verbCount(); ++position) {
+    const std::string_view verb = dictionary::verbAt(position);
+    if (wanted.isTooLong() || !finder::Folded(verb).text().starts_with(wanted.text())) continue;
+    hasFound = appendLine(out, verb);
+  }
+  return hasFound;
 }
 
 bool appendCompletion(Utf8Text& out, Utf8View prefix) {

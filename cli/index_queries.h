@@ -8,8 +8,9 @@ namespace odmiennik::cli {
 
 // Each appends its answer, a line each in UTF-8, and returns whether there was any.
 
-// The verbs filed under a letter a to z or A to Z, in the index's order.
-bool appendVerbsOfLetter(Utf8Text& out, Utf8View letter);
+// The verbs that begin so (UTF-8), accents and case aside, in the index's order: "ete" ->
+// "éteindre", "étendre" and more; all of them for the empty text.
+bool appendVerbsBeginning(Utf8Text& out, Utf8View beginning);
 
 // The verb that completes `prefix` (UTF-8), compared letter for letter.
 bool appendCompletion(Utf8Text& out, Utf8View prefix);

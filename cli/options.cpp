@@ -63,12 +63,6 @@ bool ask(Options& options, Utf8View text) {
   return true;
 }
 
-bool askForLetter(Options& options, Utf8View value) {
-  const bool isLetter = value.size() == 1 && ((value[0] >= 'a' && value[0] <= 'z') ||
-                                              (value[0] >= 'A' && value[0] <= 'Z'));
-  return isLetter && ask<appendVerbsOfLetter>(options, value);
-}
-
 bool takeNorm(Options& options, Utf8View) { return options.isInNorm = true; }
 bool takeFinding(Options& options, Utf8View) { return options.isFinding = true; }
 bool takeDepartures(Options& options, Utf8View) { return options.listsDepartures = true; }
@@ -85,7 +79,7 @@ constexpr OptionRow kOptions[] = {
     {"--norm", "", takeNorm, "odmień według dzisiejszej normy"},
     {"--departures", "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
     {"--find", "", takeFinding, "podaj, jakiego czasownika i jakimi formami są słowa"},
-    {"--list", "LITERA", askForLetter, "wypisz czasowniki spisu na tę literę (a-z)"},
+    {"--list", "POCZĄTEK", ask<appendVerbsBeginning>, "wypisz czasowniki spisu o tym początku"},
     {"--complete", "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
     {"--record", "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
     {"--strings", "", ask<appendStrings>, "wypisz ponumerowane teksty programu"},

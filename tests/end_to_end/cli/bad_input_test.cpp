@@ -117,8 +117,9 @@ TEST(bad_input, control_characters_are_escaped_in_json_and_hidden_from_terminals
 
 TEST(bad_input, a_refused_option_is_shown_and_not_obeyed) {
   const std::string attack = "--\x1b[31m\x9B\u009B\u202E\nodmien: OK";
-  for (const Arguments& arguments : {Arguments{attack}, Arguments{"--format", attack},
-                                     Arguments{"--list", attack}, Arguments{"--help", attack}}) {
+  for (const Arguments& arguments :
+       {Arguments{attack}, Arguments{"--format", attack}, Arguments{"--auxiliary", attack},
+        Arguments{"--help", attack}}) {
     const std::string err = run(arguments).err;
     EXPECT_TRUE(holds(err, "--\\x1B[31m\\x9B\\u009B\\u202E\\x0Aodmien: OK")) << err;
     EXPECT_EQ(linesOf(err).size(), 1U) << err;

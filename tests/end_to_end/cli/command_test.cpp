@@ -82,7 +82,7 @@ TEST(command, resetuj_gives_one_and_its_message) {
 TEST(command, wrong_usage_gives_two_and_says_why) {
   for (const Arguments& arguments :
        {Arguments{"--nowa"}, Arguments{"--format"}, Arguments{"--format", "xml", "parler"},
-        Arguments{"--list", "é"}, Arguments{"--strings", "parler"}}) {
+        Arguments{"--auxiliary", "é"}, Arguments{"--strings", "parler"}}) {
     const Result result = run(arguments);
     EXPECT_EQ(result.exitCode, 2) << arguments[0];
     EXPECT_EQ(result.out, "") << arguments[0];
@@ -99,8 +99,8 @@ TEST(command, help_and_version_are_polish_data) {
 TEST(command, a_record_behind_a_tab_replaces_the_index) {
   const Result result = run({"--format", "tsv"}, "parler\t|1|2|1|1|1\n");
   EXPECT_EQ(result.exitCode, 0);
-  EXPECT_TRUE(holds(result.out, "\nparler\t2\tIndicatif\tprésent\til\til\tparle\n"));
-  EXPECT_TRUE(holds(result.out, "\nparler\t0\tIndicatif\tprésent\tje\tje\t\n"));
+  EXPECT_TRUE(holds(result.out, "\nparler\t2\tIndicatif\tprésent\til\til\tparle\til parle\n"));
+  EXPECT_TRUE(holds(result.out, "\nparler\t0\tIndicatif\tprésent\tje\tje\t\t\n"));
 }
 
 TEST(command, an_argument_may_carry_a_record_too) {
@@ -116,7 +116,7 @@ TEST(command, a_user_may_switch_the_auxiliary) {
 TEST(command, editing_keeps_placeholders) {
   const Result result = run({"--edit", "--format", "tsv", "pouvoir"});
   EXPECT_EQ(result.exitCode, 0);
-  EXPECT_TRUE(holds(result.out, "\npouvoir\t24\tIndicatif\tpassé composé\tje\tje\t*\n"));
+  EXPECT_TRUE(holds(result.out, "\npouvoir\t24\tIndicatif\tpassé composé\tje\tje\t*\tje *\n"));
 }
 
 TEST(command, asks_the_index) {
@@ -125,6 +125,8 @@ TEST(command, asks_the_index) {
   EXPECT_EQ(run({"--record", "blabler"}).exitCode, 1);
   EXPECT_EQ(run({"--complete", "qqq"}).exitCode, 1);
   EXPECT_EQ(linesOf(run({"--list", "A"}).out).front(), "abaisser");
+  EXPECT_EQ(run({"--list", "etei"}).out, "éteindre\n");
+  EXPECT_EQ(linesOf(run({"--list", ""}).out).size(), 7342U);
 }
 
 TEST(command, knows_verbs_of_today) {

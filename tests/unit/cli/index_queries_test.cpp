@@ -39,19 +39,32 @@ TEST(index_queries, a_prefix_is_completed_letter_for_letter) {
   EXPECT_EQ(completionOf(""), "");
 }
 
-TEST(index_queries, a_letter_lists_its_accented_verbs_too) {
-  Utf8Text lower;
-  Utf8Text upper;
-  EXPECT_TRUE(appendVerbsOfLetter(lower, "e"));
-  EXPECT_TRUE(appendVerbsOfLetter(upper, "E"));
-  EXPECT_EQ(lower, upper);
-  EXPECT_NE(lower.find("\nêtre\n"), std::string::npos);
+Utf8Text listOf(Utf8View beginning) {
+  Utf8Text out;
+  const bool hasFound = appendVerbsBeginning(out, beginning);
+  EXPECT_EQ(hasFound, !out.empty());
+  return out;
 }
 
-TEST(index_queries, all_letters_together_list_the_whole_index) {
+TEST(index_queries, a_beginning_lists_its_verbs_accents_and_case_aside) {
+  EXPECT_EQ(listOf("etei"), "éteindre\n");
+  EXPECT_EQ(listOf("ÉTEI"), "éteindre\n");
+  EXPECT_EQ(listOf("oeuv"), "œuvrer\n");
+  EXPECT_NE(listOf("e").find("\nêtre\n"), Utf8Text::npos);
+}
+
+TEST(index_queries, what_no_verb_begins_with_lists_nothing) {
+  EXPECT_EQ(listOf("parlez"), "");
+  EXPECT_EQ(listOf("żó"), "");
+  EXPECT_EQ(listOf("\xFF"), "");
+  EXPECT_EQ(listOf(Utf8Text(100, 'a')), "");
+}
+
+TEST(index_queries, the_whole_index_is_listed_by_letters_or_at_once) {
   Utf8Text all;
-  for (char letter = 'a'; letter <= 'z'; ++letter) appendVerbsOfLetter(all, {&letter, 1});
+  for (char letter = 'a'; letter <= 'z'; ++letter) all += listOf({&letter, 1});
   EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 7342);
+  EXPECT_EQ(listOf(""), all);
 }
 
 TEST(index_queries, strings_are_raw_and_ascending) {
