@@ -2,6 +2,7 @@
 // The steps of the start, carried out.
 #include "app/lifetime/start_up.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QVersionNumber>
 
@@ -13,11 +14,22 @@
 #include "app/main_window/cursors.h"
 #include "app/main_window/main_window.h"
 #include "app/main_window/window_pointer.h"
-#include "app/platform/character_map.h"
+#include "app/platform/platform.h"
 #include "app/tips/tip_of_the_day.h"
 #include "disk/names.h"
 
 namespace odmiennik::app {
+namespace {
+
+// The item starts the system's character map; where the system has none it is disabled.
+void offerCharacterMap(QAction& item) {
+  const std::string program = platform::characterMap();
+  item.setEnabled(!program.empty());
+  if (program.empty()) return;
+  QObject::connect(&item, &QAction::triggered, &item, [program] { platform::start(program); });
+}
+
+}  // namespace
 
 // What asks or tells the user something may end the program, and then nothing follows.
 void StartUp::run() {

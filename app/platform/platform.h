@@ -31,6 +31,14 @@ void tell(Utf8View text, bool isError);
 // started.
 bool start(const std::string& program);
 
+// Makes a printer, named as the system names it, the user's default from now on; false when the
+// system refuses. An empty name is refused.
+bool makeDefaultPrinter(const Utf8Text& printer);
+
+// Whether the print system refused the document that this thread has just handed over. Qt does not
+// tell.
+[[nodiscard]] bool hasPrintSystemRefused();
+
 // Whether a program places its windows, keeps them above others and moves the pointer; under
 // Wayland the compositor alone decides of all that, and tells neither places nor panels.
 [[nodiscard]] bool mayPlaceWindows();

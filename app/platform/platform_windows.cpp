@@ -6,6 +6,7 @@
 #include <windows.h>
 // windows.h must come before shellapi.h.
 #include <shellapi.h>
+#include <winspool.h>
 
 #include <algorithm>
 #include <array>
@@ -135,6 +136,13 @@ bool start(const std::string& program) {
   CloseHandle(started.hProcess);
   return true;
 }
+
+bool makeDefaultPrinter(const Utf8Text& printer) {
+  return !printer.empty() && SetDefaultPrinterW(toWide(printer).data()) != FALSE;
+}
+
+// The state of Qt's printer tells it here.
+bool hasPrintSystemRefused() { return false; }
 
 bool mayPlaceWindows() { return true; }
 

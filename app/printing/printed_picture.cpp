@@ -6,7 +6,7 @@
 #include <QPrinter>
 #include <QWidget>
 
-#include "app/platform/printers.h"
+#include "app/platform/platform.h"
 
 namespace odmiennik::app {
 namespace {

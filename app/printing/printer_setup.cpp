@@ -3,7 +3,7 @@
 #include "app/printing/printer_setup.h"
 
 #include "app/common/text.h"
-#include "app/platform/printers.h"
+#include "app/platform/platform.h"
 #include "app/printing/printer_dialog.h"
 
 namespace odmiennik::app {
