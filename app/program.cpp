@@ -28,11 +28,12 @@ Program::Program(const Environment& given)
                   if (verb) editing_.conjugate(*verb);
                 }}),
       viewMenu_(window_, chooser_, given.store),
-      editing_(window_, pointer_, userVerbs_, given.messages),
-      typing_(window_, given.store, given.messages),
       printing_(window_, given.messages),
+      editing_(window_, pointer_, userVerbs_, given.messages, [this] { return printing_.print(); }),
+      typing_(window_, given.store, given.messages),
       listMenu_(window_, prefix_, userVerbs_, editing_),
-      demonstration_(window_, editing_, given.pointer),
+      demonstration_(
+          window_, editing_, [this](bool isOn) { typing_.suspendCompletion(isOn); }, given.pointer),
       help_(window_, given.store, given.messages,
             [this] {
               return Usage{settings_.conjugationCount(), settings_.runCount()};
@@ -54,9 +55,6 @@ void Program::connectParts(const Environment& given) {
     given.end();
     return false;
   });
-  demonstration_.suspendCompletionWith(
-      [this](bool isSuspended) { typing_.suspendCompletion(isSuspended); });
-  editing_.printWith([this] { return printing_.print(); });
   closing_.askWith([this] { return editing_.leaveForClosing(); });
   closing_.stayWith([this] { editing_.stay(); });
   tips_.demonstrateWith(

@@ -84,9 +84,9 @@ class Program {
   StartUp startUp_;
   QtColourChooser chooser_;
   ViewMenu viewMenu_;
+  Printing printing_;
   Editing editing_;
   Typing typing_;
-  Printing printing_;
   ListMenu listMenu_;
   DemonstrationRunner demonstration_;
   HelpCommands help_;

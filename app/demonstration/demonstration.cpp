@@ -44,6 +44,7 @@ bool isInterruption(const QEvent& event) {
 }  // namespace
 
 DemonstrationRunner::DemonstrationRunner(QMainWindow& window, MainCommands& commands,
+                                         std::function<void(bool)> suspendCompletion,
                                          ScreenPointer pointer)
     : QObject(&window),
       window_(window),
@@ -53,7 +54,8 @@ DemonstrationRunner::DemonstrationRunner(QMainWindow& window, MainCommands& comm
       timCzas(timerOf(window, "timCzas")),
       timCzas2(timerOf(window, "timCzas2")),
       timCzasClick(timerOf(window, "timCzasClick")),
-      timCzasLiterki(timerOf(window, "timCzasLiterki")) {
+      timCzasLiterki(timerOf(window, "timCzasLiterki")),
+      suspend_(std::move(suspendCompletion)) {
   connect(&timCzas, &QTimer::timeout, this, &DemonstrationRunner::takeStep);
   connect(&timCzas2, &QTimer::timeout, this, &DemonstrationRunner::followPath);
   connect(&timCzasClick, &QTimer::timeout, this, &DemonstrationRunner::releaseButton);

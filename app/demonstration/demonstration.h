@@ -27,7 +27,10 @@ class DemonstrationRunner final : public QObject {
 
  public:
   // `commands` leave edit mode, which may ask to save; they outlive the runner, as does `window`.
+  // `suspendCompletion` is called with true when a demonstration begins and with false when it is
+  // over, however it ended: the letters that it types are not to be completed.
   DemonstrationRunner(QMainWindow& window, MainCommands& commands,
+                      std::function<void(bool)> suspendCompletion,
                       ScreenPointer pointer = systemPointer());
 
   // Begins the first (0) or the second (1) demonstration. Nothing begins while one is running, or
@@ -36,10 +39,6 @@ class DemonstrationRunner final : public QObject {
   void stop();
 
   [[nodiscard]] bool isRunning() const { return isRunning_; }
-
-  // Called with true when a demonstration begins and with false when it is over, however it ended:
-  // the letters that it types are not to be completed.
-  void suspendCompletionWith(std::function<void(bool)> suspend) { suspend_ = std::move(suspend); }
 
   // Lets a demonstration take `pace` times as long: 0.5 is twice as fast, 0 is without any pause.
   void setPace(double pace) { pace_ = pace; }
@@ -91,7 +90,7 @@ class DemonstrationRunner final : public QObject {
   QString letters_;                    // still to be typed
   std::optional<QString> textBefore_;  // while the verb is being typed over it
   QPoint pointerBefore_;
-  std::function<void(bool)> suspend_ = [](bool) {};
+  std::function<void(bool)> suspend_;
 };
 
 }  // namespace odmiennik::app

@@ -11,10 +11,11 @@
 namespace odmiennik::app {
 
 Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs,
-                 dictionary::MessageBoxes& messages)
+                 dictionary::MessageBoxes& messages, std::function<bool()> print)
     : window_(window),
       edited_(window, pointer, userVerbs),
-      mode_(toUtf8(window.windowTitle()), edited_, messages) {
+      mode_(toUtf8(window.windowTitle()), edited_, messages),
+      print_(std::move(print)) {
   connectCommands();
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);

@@ -18,8 +18,9 @@ class Editing final : public QObject, public MainCommands {
   Q_OBJECT
 
  public:
+  // `print` is what the list's print command runs.
   Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVerbsFile& userVerbs,
-          dictionary::MessageBoxes& messages);
+          dictionary::MessageBoxes& messages, std::function<bool()> print);
 
   [[nodiscard]] bool isEditing() const override { return mode_.isEditing(); }
 
@@ -41,9 +42,7 @@ class Editing final : public QObject, public MainCommands {
   // The window has not been closed after all.
   void stay() { mode_.stay(); }
 
-  // What the list's print command runs; until then it prints nothing and fails.
-  void printWith(std::function<bool()> print) { print_ = std::move(print); }
-  bool print() override { return print_ && print_(); }
+  bool print() override { return print_(); }
 
  private:
   void connectCommands();

@@ -30,11 +30,7 @@ struct WrittenPointer {
 };
 
 struct DemonstratedProgram : EditedProgram {
-  DemonstratedProgram() {
-    runner.setPace(0);
-    runner.suspendCompletionWith(
-        [this](bool isSuspended) { program.typing().suspendCompletion(isSuspended); });
-  }
+  DemonstratedProgram() { runner.setPace(0); }
 
   // The verb list; null before it has been opened.
   [[nodiscard]] QDialog* list() const {
@@ -59,7 +55,10 @@ struct DemonstratedProgram : EditedProgram {
   }
 
   WrittenPointer pointer;
-  app::DemonstrationRunner runner{window, program.editing(), pointer.port()};
+  app::DemonstrationRunner runner{
+      window, program.editing(),
+      [this](bool isSuspended) { program.typing().suspendCompletion(isSuspended); },
+      pointer.port()};
 };
 
 }  // namespace odmiennik::window_test

@@ -212,7 +212,8 @@ void DemonstrationSuite::anEditedVerbThatIsKeptKeepsItFromBeginning() {
     bool conjugate(std::string_view) override { return false; }
     bool print() override { return false; }
   } kept;
-  app::DemonstrationRunner other(shown_->window, kept, shown_->pointer.port());
+  app::DemonstrationRunner other(
+      shown_->window, kept, [](bool) {}, shown_->pointer.port());
   other.run(0);
   QCOMPARE(kept.asked, 1);
   QVERIFY(!other.isRunning());
