@@ -40,13 +40,19 @@ class JsonRoom {
   std::size_t size_ = 0;
 };
 
+// The most bytes that a JSON array of the texts may touch.
+template <typename Texts>
+[[nodiscard]] std::size_t roomForArray(const Texts& texts) {
+  std::size_t bytes = 2;
+  for (const std::string_view text : texts) bytes += roomForJson(text) + 1;
+  return bytes;
+}
+
 // Appends French texts as a JSON array: {"va", "été"} -> ["va","été"]. Room is made once for all of
 // them: text by text, an answer takes a quarter more instructions.
 template <typename Texts>
 void appendJsonArray(Utf8Text& out, const Texts& texts, JsonRoom& room) {
-  std::size_t bytes = 2;
-  for (const std::string_view text : texts) bytes += roomForJson(text) + 1;
-  char* const start = room.of(bytes);
+  char* const start = room.of(roomForArray(texts));
   char* end = start;
   *end++ = '[';
   for (const std::string_view text : texts) {

@@ -5,6 +5,7 @@
 #include "cli/format.h"
 #include "cli/json_text.h"
 #include "dictionary/verb_labels.h"
+#include "engine/letters.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -62,8 +63,7 @@ class JsonFormat final : public Format {
 
  private:
   void appendTable(Utf8Text& out, const engine::Conjugation& conjugation) {
-    appendFrench(out, R"(,"slots":)", conjugation.forms);
-    appendFrench(out, R"(,"boxes":)", conjugation.shown.boxes);
+    appendForms(out, conjugation.forms, conjugation.shown);
     appendFrench(out, R"(,"pronouns":)", conjugation.shown.pronouns);
     appendFrench(out, R"(,"captions":)", conjugation.shown.captions);
   }
@@ -74,7 +74,29 @@ class JsonFormat final : public Format {
     appendJsonArray(out, texts, room_);
   }
 
-  JsonRoom room_;
+  // Slots and boxes side by side: most boxes show their slot whole, and its JSON is copied, which
+  // is a tenth of an answer's instructions.
+  void appendForms(Utf8Text& out, const engine::FormTable& forms, const engine::Display& shown) {
+    char* const slots = room_.of(roomForArray(forms));
+    char* const boxes = boxRoom_.of(roomForArray(shown.boxes));
+    char* slotEnd = slots;
+    char* boxEnd = boxes;
+    for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+      const std::string_view form = forms[slot];
+      const std::string_view box = shown.boxes[static_cast<std::size_t>(slot)];
+      *slotEnd++ = *boxEnd++ = slot == 0 ? '[' : ',';
+      const char* const written = slotEnd;
+      slotEnd = writeJsonFrench(slotEnd, form);
+      const bool isSame = box.data() == form.data() && box.size() == form.size();
+      boxEnd =
+          isSame ? engine::copyLetters(boxEnd, {written, slotEnd}) : writeJsonFrench(boxEnd, box);
+    }
+    out.append(R"(,"slots":)").append(slots, static_cast<std::size_t>(slotEnd - slots));
+    out.append(R"(],"boxes":)").append(boxes, static_cast<std::size_t>(boxEnd - boxes));
+    out.push_back(']');
+  }
+
+  JsonRoom room_, boxRoom_;
 };
 
 }  // namespace
