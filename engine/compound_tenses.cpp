@@ -24,10 +24,10 @@ struct CompoundSlot {
 };
 
 constexpr auto kCompoundSlots = [] {
-  struct Run {
+  struct TenseOfSix {
     int firstSlot, firstIndex;
   };
-  constexpr Run kRuns[] = {
+  constexpr TenseOfSix kTensesOfSix[] = {
       {slot::kPerfect, auxiliary_index::kPresent},
       {slot::kPluperfect, auxiliary_index::kImperfect},
       {slot::kPastAnterior, auxiliary_index::kPastHistoric},
@@ -46,13 +46,13 @@ constexpr auto kCompoundSlots = [] {
       {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, one, several},
       {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, one, either},
   };
-  std::array<CompoundSlot, std::size(kRuns) * kPersonCount + std::size(kSingles)> rows{};
+  std::array<CompoundSlot, std::size(kTensesOfSix) * kPersonCount + std::size(kSingles)> rows{};
   auto row = rows.begin();
-  for (const Run& run : kRuns)
+  for (const TenseOfSix& tense : kTensesOfSix)
     for (int person = 0; person < kPersonCount; ++person) {
       const Number number = person < 3 ? one : several;
-      *row++ = {static_cast<std::int8_t>(run.firstSlot + person),
-                static_cast<std::int8_t>(run.firstIndex + person), number, number};
+      *row++ = {static_cast<std::int8_t>(tense.firstSlot + person),
+                static_cast<std::int8_t>(tense.firstIndex + person), number, number};
     }
   std::copy(std::begin(kSingles), std::end(kSingles), row);
   return rows;

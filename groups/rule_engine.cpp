@@ -16,8 +16,8 @@ using engine::FormTable;
 using engine::less;
 namespace slot = engine::slot;
 
-// One run of a model: what its steps share.
-struct Run {
+// A model at work on an infinitive: what its steps share.
+struct RunningModel {
   FormTable& forms;
   std::string_view infinitive;
   std::string_view stem;
@@ -26,14 +26,14 @@ struct Run {
   bool isListed;
 };
 
-void appendForm(std::string& form, std::string_view text, const Run& run) {
+void appendForm(std::string& form, std::string_view text, const RunningModel& run) {
   const auto mark = text.find(kGroupMark);
   form.append(run.stem).append(text.substr(0, mark));
   if (mark != std::string_view::npos) form.append(run.group).append(text.substr(mark + 1));
 }
 
 // Every form of "a/b" or "a, b" gets the stem, but for the text that stands for a missing one.
-void writeForms(std::string& target, std::string_view text, const Run& run) {
+void writeForms(std::string& target, std::string_view text, const RunningModel& run) {
   target.clear();
   for (;;) {
     const auto end = text.find_first_of("/,");
@@ -46,17 +46,17 @@ void writeForms(std::string& target, std::string_view text, const Run& run) {
   }
 }
 
-void write(const Step& step, const Run& run) {
+void write(const Step& step, const RunningModel& run) {
   std::string& form = run.forms[step.slot];
   step.isPlain ? engine::setTo(form, run.stem, step.text) : writeForms(form, step.text, run);
 }
 
-void writePastParticiple(const Step& step, const Run& run) {
+void writePastParticiple(const Step& step, const RunningModel& run) {
   write(step, run);
   if (run.auxiliary == engine::kEtre) run.forms[slot::kPastParticiple].append("(e)");
 }
 
-std::string_view baseText(const Step& step, const Run& run) {
+std::string_view baseText(const Step& step, const RunningModel& run) {
   switch (step.base) {
     case Base::stem:
       return run.stem;
@@ -76,7 +76,7 @@ std::string_view baseText(const Step& step, const Run& run) {
 // The text that a builder starts from: the base with the step's text behind it.
 class BuilderBase {
  public:
-  BuilderBase(const Step& step, const Run& run) : text_(baseText(step, run)) {
+  BuilderBase(const Step& step, const RunningModel& run) : text_(baseText(step, run)) {
     if (step.text.empty()) return;
     engine::setTo(joined_(), text_, step.text);
     text_ = joined_();
@@ -91,7 +91,7 @@ class BuilderBase {
   std::string_view text_;
 };
 
-void buildPastHistoric(const Step& step, const Run& run) {
+void buildPastHistoric(const Step& step, const RunningModel& run) {
   std::optional<engine::PastEndings> endings;
   if (step.endings != Endings::byInfinitive)
     endings = static_cast<engine::PastEndings>(step.endings);
@@ -99,7 +99,7 @@ void buildPastHistoric(const Step& step, const Run& run) {
   engine::buildPastHistoric(run.forms, endings, BuilderBase(step, run).text());
 }
 
-void carryOut(const Step& step, const Run& run) {
+void carryOut(const Step& step, const RunningModel& run) {
   switch (step.action) {
     case Action::write:
       return write(step, run);
@@ -138,7 +138,7 @@ void applyModel(FormTable& forms, const Model& model, std::string_view group,
   const std::size_t cut = model.cut + (model.takesGroup ? group.size() : 0);
   const bool isListed =
       std::find(model.verbs.begin(), model.verbs.end(), infinitive) != model.verbs.end();
-  const Run run{forms, infinitive, less(infinitive, cut), group, auxiliary, isListed};
+  const RunningModel run{forms, infinitive, less(infinitive, cut), group, auxiliary, isListed};
   for (const Step& step : model.steps)
     if (applies(step.condition, isListed)) carryOut(step, run);
 }
