@@ -17,7 +17,7 @@ TEST(norm, is_given_where_it_is_asked_for_and_nowhere_else) {
 
 TEST(norm, holds_in_every_format) {
   EXPECT_TRUE(holds(run({"--norm", "--format", "json", "lire"}).out, "\"lit\""));
-  EXPECT_TRUE(holds(run({"--norm", "--format", "tsv", "lire"}).out, "\til\til\tlit\n"));
+  EXPECT_TRUE(holds(run({"--norm", "--format", "tsv", "lire"}).out, "\til\til\tlit\til lit\n"));
 }
 
 TEST(norm, holds_for_every_line_of_standard_input) {
