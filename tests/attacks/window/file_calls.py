@@ -275,6 +275,13 @@ class WindowSweep:
                                    f"({calls[point - 1]}): {fall!r}")
         self.tried[name] = (len(calls), len(cases), len(cases[::self.every]))
 
+    def table(self):
+        """What was tried so far, an action a line, and what fell."""
+        lines = [f"file calls of the window, {name}: {calls} calls, {tried} of {cases} cases tried"
+                 for name, (calls, cases, tried) in self.tried.items()]
+        lines.append(f"{len(self.fallen)} fallen, {self.again} tried again")
+        return "\n".join(lines + self.fallen) + "\n"
+
     def _fall(self, action, case, point, calls):
         """What was wrong in a case; nothing when all was well."""
         try:
@@ -314,8 +321,5 @@ def run(program, library, driver, table, every, *actions):
     sweep = WindowSweep(Window(program, library, driver), int(every))
     for name in actions:
         sweep.sweep(name)
-    lines = [f"file calls of the window, {name}: {calls} calls, {tried} of {cases} cases tried"
-             for name, (calls, cases, tried) in sweep.tried.items()]
-    lines.append(f"{len(sweep.fallen)} fallen, {sweep.again} tried again")
-    pathlib.Path(table).write_text("\n".join(lines + sweep.fallen) + "\n", encoding="utf-8")
+        pathlib.Path(table).write_text(sweep.table(), encoding="utf-8")
     assert not sweep.fallen, "\n".join(sweep.fallen[:20])

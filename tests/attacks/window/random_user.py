@@ -21,7 +21,6 @@ FILE = "Czasowniki.dat"
 SLOTS = 101
 WRONG = ("", " ", "x", "se", "s'", "xyz", "zzzer", "a" * 300 + "er", "123", "aller aller", "'", "?!",
          "SE LAVER", " finir ", "être né", "oir", "éér", "--", "infinitif")
-MISSING = " -- "
 FORMS = ("a", "changé", "deux mots", "avec, virgule", '"guillemet', " -- ", "", "  blancs  ",
          "x" * 400, "œuvrât", "*", "s'est")
 # What a question is answered with; any other gets a button by chance.
@@ -39,6 +38,7 @@ class User:
         self.chance = random.Random(seed)
         self.shown = "infinitif"
         self.options = ()  # how the command is to show it
+        self.edited = ""  # the entry box in edit mode
         self.is_typed_over = True  # the entry box says something that was not conjugated
         self.done = collections.Counter()
         self.verbs = [verb for letter in "aefhprs" for verb in
@@ -138,11 +138,16 @@ class User:
 
     def _note_end_of_editing(self):
         if not self.is_editing():
-            self.note_conjugated(self.entry().text)
+            self.note_conjugated(self.edited)
+
+    def note_edited(self):
+        """Remembers what leaving edit mode would conjugate; afterwards the box may say less."""
+        text = self.entry().text
+        if self.is_editing():
+            self.edited = text
 
     def note_conjugated(self, verb):
-        is_empty = verb == MISSING  # what the box of an empty infinitive says
-        self.shown, self.options, self.is_typed_over = "" if is_empty else verb, (), False
+        self.shown, self.options, self.is_typed_over = verb, (), False
 
     def item(self, menu, *names):
         """The item of a menu that has one of these captions."""
@@ -156,10 +161,12 @@ class User:
                                      [weight for _, weight in ACTIONS])[0]
         self.done[action.__name__] += 1
         was_editing = self.is_editing()
+        self.note_edited()
         action(self)
         self.settle()
-        if was_editing and not self.is_editing():
-            self.note_conjugated(self.entry().text)
+        if was_editing:
+            self._note_end_of_editing()
+        self.note_edited()
         return action.__name__
 
     def check(self):
@@ -202,6 +209,7 @@ def conjugate(user):
     else:
         user.program.button("Odmień").press()
     if was_editing:
+        user.edited = text
         wait_for(lambda: user.program.messages() or not user.is_editing(), "the end of editing",
                  LIMIT)
         return

@@ -20,4 +20,6 @@ manager = orca.getSettingsManager()
 manager.activate(sys.argv[1], {"speechServerFactory": "orca_voice", "enableBraille": False,
                                "enableSound": False})
 settings.speechServerFactory = "orca_voice"
+# It would take itself for hung, and end, when its start waits for its turn on a busy machine.
+settings.timeoutTime = 0
 sys.exit(orca.main())
