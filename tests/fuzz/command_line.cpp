@@ -85,7 +85,7 @@ void ask(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace odmiennik::testing;
   const std::string bytes(reinterpret_cast<const char*>(data), size);
-  const std::vector<Utf8Text> arguments = argumentsOf(bytes);
+  const auto arguments = argumentsOf(bytes);
   openTheWindow(arguments);
   startTheCommand(arguments);
   ask(bytes);

@@ -11,8 +11,6 @@
 namespace odmiennik::testing {
 namespace {
 
-using namespace dictionary;
-
 bool areSame(const disk::Settings& one, const disk::Settings& other) {
   return one.userVerbCount == other.userVerbCount && one.moodColour == other.moodColour &&
          one.tenseColour == other.tenseColour && one.conjugationCount == other.conjugationCount &&
