@@ -67,54 +67,6 @@ char* writeImage(char* end, char letter) {
   return end + image.length;
 }
 
-char* writeImagesOf(char* end, const char* from, const char* last) {
-  while (from != last) end = writeImage(end, *from++);
-  return end;
-}
-
-// Whether no letter of the word needs an image of its own: none is beyond ASCII, a control
-// character, a quote, a backslash or delete. Each test sets the high bit of a letter that is one.
-template <typename Word>
-bool arePlain(Word letters) {
-  constexpr Word kEach = static_cast<Word>(-1) / 0xFF;
-  constexpr Word kHigh = 0x80 * kEach;
-  const Word isControl = letters - 0x20 * kEach;
-  const Word isQuote = (letters ^ ('"' * kEach)) - kEach;
-  const Word isBackslash = (letters ^ ('\\' * kEach)) - kEach;
-  const Word isDelete = letters + kEach;
-  return ((letters | isControl | isQuote | isBackslash | isDelete) & kHigh) == 0;
-}
-
-// Writes at least a word's letters, a word at a time where they are plain; the last word may lie
-// over the one before, whose letters it then repeats.
-template <typename Word>
-char* writeByWords(char* end, std::string_view letters) {
-  const char* from = letters.data();
-  const char* const last = from + letters.size();
-  Word word;
-  for (; last - from >= std::ptrdiff_t{sizeof word}; from += sizeof word) {
-    std::memcpy(&word, from, sizeof word);
-    if (!arePlain(word)) {
-      end = writeImagesOf(end, from, from + sizeof word);
-      continue;
-    }
-    std::memcpy(end, &word, sizeof word);
-    end += sizeof word;
-  }
-  std::memcpy(&word, last - sizeof word, sizeof word);
-  if (!arePlain(word)) return writeImagesOf(end, from, last);
-  end += last - from;
-  std::memcpy(end - sizeof word, &word, sizeof word);
-  return end;
-}
-
-// Most forms have only plain letters; letter by letter, an answer in JSON takes half as much again.
-char* writeImages(char* end, std::string_view letters) {
-  if (letters.size() >= 8) return writeByWords<std::uint64_t>(end, letters);
-  if (letters.size() >= 4) return writeByWords<std::uint32_t>(end, letters);
-  return writeImagesOf(end, letters.data(), letters.data() + letters.size());
-}
-
 void appendImage(Utf8Text& out, const Image& image) { out.append(image.bytes, image.length); }
 
 void appendUnit(Utf8Text& out, char32_t utf16) {
@@ -151,7 +103,7 @@ void takeLetter(Utf8Text& out, Utf8View& utf8) {
 
 char* writeJsonFrench(char* end, std::string_view french) {
   *end++ = '"';
-  end = writeImages(end, french);
+  for (const char letter : french) end = writeImage(end, letter);
   *end++ = '"';
   return end;
 }

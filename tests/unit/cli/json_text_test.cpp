@@ -52,7 +52,7 @@ TEST(json_text, every_byte_from_blank_on_has_the_engines_utf8_image) {
   }
 }
 
-// What a letter becomes on its own: letters are written several at a time where they are plain.
+// What a letter becomes on its own: each is written over the end of the one before.
 Utf8Text letterByLetter(std::string_view text) {
   Utf8Text letters;
   for (const char letter : text) {
