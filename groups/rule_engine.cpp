@@ -85,7 +85,8 @@ class BuilderBase {
 
  private:
   static std::string& joined_() {
-    thread_local std::string joined;  // kept between steps for its buffer only
+    // Kept between steps for its buffer, so that no verb allocates; it saves nothing else.
+    thread_local std::string joined;
     return joined;
   }
   std::string_view text_;
