@@ -3,18 +3,11 @@
 #include "cli/asked_lines.h"
 
 namespace odmiennik::cli {
+namespace {
 
-void answerArguments(std::span<const Utf8View> arguments,
-                     const std::function<void(const InputLine&, Utf8View)>& answer) {
-  std::size_t number = 0;
-  for (const Utf8View argument : arguments) {
-    const InputLine line{++number, argument.substr(0, kLongestLine),
-                         argument.size() > kLongestLine};
-    answer(line, "argument");
-  }
-}
+using Answering = std::function<void(const InputLine&, Utf8View)>;
 
-bool answerInput(Console& console, const std::function<void(const InputLine&, Utf8View)>& answer,
+bool answerInput(Console& console, const Answering& answer,
                  const std::function<void()>& beforeWaiting) {
   LineReader reader([&](std::span<char> buffer) {
     console.out().flush();
@@ -26,6 +19,25 @@ bool answerInput(Console& console, const std::function<void(const InputLine&, Ut
   if (!reader.hasFailed()) return true;
   console.complain("nie można czytać standardowego wejścia.");
   return false;
+}
+
+}  // namespace
+
+bool answerAsked(Console& console, std::span<const Utf8View> arguments, const Answering& answer,
+                 const std::function<void()>& beforeWaiting) {
+  if (arguments.empty()) return answerInput(console, answer, beforeWaiting);
+  beforeWaiting();
+  bool isRead = true;
+  std::size_t number = 0;
+  for (const Utf8View argument : arguments) {
+    ++number;
+    if (argument == "-")
+      isRead = answerInput(console, answer, beforeWaiting) && isRead;
+    else
+      answer({number, argument.substr(0, kLongestLine), argument.size() > kLongestLine},
+             "argument");
+  }
+  return isRead;
 }
 
 }  // namespace odmiennik::cli

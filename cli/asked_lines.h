@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What is asked: the arguments, or else the lines of standard input.
+// What is asked: the arguments, or the lines of standard input.
 #pragma once
 
 #include <functional>
@@ -11,15 +11,13 @@
 
 namespace odmiennik::cli {
 
-// Calls `answer` with each argument, which complaints call "argument".
-void answerArguments(std::span<const Utf8View> arguments,
-                     const std::function<void(const InputLine&, Utf8View)>& answer);
-
-// Calls `answer` with each line of standard input ("wiersz"), and `beforeWaiting` whenever there is
-// nothing to answer for the moment: whoever waits for an answer before asking on has it by then.
-// False, with a complaint, when the input cannot be read.
-[[nodiscard]] bool answerInput(
-    Console& console, const std::function<void(const InputLine&, Utf8View)>& answer,
+// Calls `answer` with each argument, which complaints call "argument"; where one is "-", and where
+// there is none, with each line of standard input ("wiersz"). `beforeWaiting` is called first and
+// whenever there is nothing to answer for the moment: whoever waits for an answer before asking on
+// has it by then. False, with a complaint, when the input cannot be read.
+[[nodiscard]] bool answerAsked(
+    Console& console, std::span<const Utf8View> arguments,
+    const std::function<void(const InputLine&, Utf8View)>& answer,
     const std::function<void()>& beforeWaiting = [] {});
 
 }  // namespace odmiennik::cli

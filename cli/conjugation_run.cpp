@@ -10,7 +10,8 @@
 namespace odmiennik::cli {
 namespace {
 
-bool wantsColours(const Console& console) {
+bool wantsColours(Colours colours, const Console& console) {
+  if (colours != Colours::automatic) return colours == Colours::always;
   return console.isOnTerminal() && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
 }
 
@@ -24,7 +25,7 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
       answerer_(userVerbs_, messages_,
                 {options.isEditing, options.auxiliary,
                  options.isInNorm ? engine::Variety::norm : engine::Variety::system}),
-      format_(options.format->make(wantsColours(console))) {
+      format_(options.format->make(wantsColours(options.colours, console))) {
   if (options.listsDepartures) departures_.emplace(userVerbs_, messages_);
 }
 
@@ -32,12 +33,10 @@ ExitStatus ConjugationRun::answerAll() {
   Utf8Text& out = console_.out().text();
   departures_ ? Departures::begin(out) : format_->begin(out);
   const auto answerLine = [this](const InputLine& line, Utf8View name) { answer(line, name); };
-  if (!options_.infinitives.empty())
-    answerArguments(options_.infinitives, answerLine);
-  else if (departures_)
+  if (departures_ && options_.infinitives.empty())
     answerIndex();
   else
-    hasInputTrouble_ = !answerInput(console_, answerLine);
+    hasInputTrouble_ = !answerAsked(console_, options_.infinitives, answerLine);
   if (!departures_) format_->end(out);
   if (files_.hasTrouble || hasInputTrouble_ || messages_.hasFileTrouble())
     return ExitStatus::fileTrouble;

@@ -22,13 +22,7 @@ ExitStatus FindRun::answerAll() {
     finder_.lookAgain();
     sayWhatTheFilesAreLike();
   };
-  bool isRead = true;
-  if (options_.infinitives.empty()) {
-    isRead = answerInput(console_, answerLine, lookAgain);
-  } else {
-    lookAgain();
-    answerArguments(options_.infinitives, answerLine);
-  }
+  const bool isRead = answerAsked(console_, options_.infinitives, answerLine, lookAgain);
   if (files_.hasTrouble || !isRead || messages_.hasFileTrouble()) return ExitStatus::fileTrouble;
   return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
 }

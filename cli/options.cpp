@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 #include "cli/help.h"
@@ -54,6 +55,13 @@ bool takeFolder(Options& options, Utf8View value) {
   return !value.empty();
 }
 
+bool takeColours(Options& options, Utf8View value) {
+  constexpr Utf8View kNames[] = {"auto", "always", "never"};
+  const auto name = std::ranges::find(kNames, value);
+  options.colours = static_cast<Colours>(name - std::begin(kNames));
+  return name != std::end(kNames);
+}
+
 bool takeEditing(Options& options, Utf8View) { return options.isEditing = true; }
 
 template <Query Asked>
@@ -69,22 +77,24 @@ bool takeDepartures(Options& options, Utf8View) { return options.listsDepartures
 
 constexpr OptionRow kOptions[] = {
     {"--format",
+     'f',
      {kFormatNames.data(), kFormatNames.size()},
      takeFormat,
-     "postać wyniku (domyślnie text)"},
-    {"--folder", "KATALOG", takeFolder, "katalog programu z czasownikami użytkownika"},
-    {"--auxiliary", "avoir|etre", takeAuxiliary,
+     "postać wyniku (domyślnie text); też -f"},
+    {"--folder", 0, "KATALOG", takeFolder, "katalog programu z czasownikami użytkownika"},
+    {"--auxiliary", 0, "avoir|etre", takeAuxiliary,
      "przełącz potem czasownik posiłkowy czasów złożonych"},
-    {"--edit", "", takeEditing, "odmień jak przy edycji czasownika"},
-    {"--norm", "", takeNorm, "odmień według dzisiejszej normy"},
-    {"--departures", "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
-    {"--find", "", takeFinding, "podaj, jakiego czasownika i jakimi formami są słowa"},
-    {"--list", "POCZĄTEK", ask<appendVerbsBeginning>, "wypisz czasowniki spisu o tym początku"},
-    {"--complete", "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
-    {"--record", "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
-    {"--strings", "", ask<appendStrings>, "wypisz ponumerowane teksty programu"},
-    {"--help", "", ask<appendHelp>, "wyświetl tę pomoc"},
-    {"--version", "", ask<appendVersion>, "wyświetl wersję programu"},
+    {"--color", 0, "auto|always|never", takeColours, "kolory w postaci text (domyślnie auto)"},
+    {"--edit", 0, "", takeEditing, "odmień jak przy edycji czasownika"},
+    {"--norm", 0, "", takeNorm, "odmień według dzisiejszej normy"},
+    {"--departures", 0, "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
+    {"--find", 0, "", takeFinding, "podaj, jakiego czasownika i jakimi formami są słowa"},
+    {"--list", 0, "POCZĄTEK", ask<appendVerbsBeginning>, "wypisz czasowniki spisu o tym początku"},
+    {"--complete", 0, "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
+    {"--record", 0, "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
+    {"--strings", 0, "", ask<appendStrings>, "wypisz ponumerowane teksty programu"},
+    {"--help", 'h', "", ask<appendHelp>, "wyświetl tę pomoc; też -h"},
+    {"--version", 'V', "", ask<appendVersion>, "wyświetl wersję programu; też -V"},
 };
 
 const OptionRow* rowOf(Utf8View name) {
@@ -93,20 +103,43 @@ const OptionRow* rowOf(Utf8View name) {
   return nullptr;
 }
 
+const OptionRow* rowOf(char letter) {
+  for (const OptionRow& row : kOptions)
+    if (row.letter == letter) return &row;
+  return nullptr;
+}
+
 Utf8Text quoted(Utf8View text) { return "„" + Utf8Text(text) + "”"; }
+
+// An option as it stands on the command line, with the value that is joined to it.
+struct WrittenOption {
+  Utf8View name;
+  const OptionRow* row;
+  std::optional<Utf8View> value;
+};
+
+// "--format=json", "-fjson"
+WrittenOption readOption(Utf8View argument) {
+  if (!argument.starts_with("--")) {
+    const OptionRow* row = rowOf(argument[1]);
+    if (row == nullptr || argument.size() == 2) return {argument, row, std::nullopt};
+    return {argument.substr(0, 2), row, argument.substr(2)};
+  }
+  const auto equals = argument.find('=');
+  const Utf8View name = argument.substr(0, equals);
+  if (equals == Utf8View::npos) return {name, rowOf(name), std::nullopt};
+  return {name, rowOf(name), argument.substr(equals + 1)};
+}
 
 // Reads the option that `rest` begins with and takes it off; an error sentence or nothing.
 Utf8Text takeOption(Options& options, std::span<const Utf8Text>& rest) {
-  const Utf8View argument = rest.front();
+  const auto [name, row, joined] = readOption(rest.front());
   rest = rest.subspan(1);
-  const auto equals = argument.find('=');
-  const Utf8View name = argument.substr(0, equals);
-  const OptionRow* row = rowOf(name);
   if (row == nullptr) return "nieznana opcja " + quoted(name) + ".";
   Utf8View value;
-  if (equals != std::string::npos) {
+  if (joined) {
     if (row->valueName.empty()) return "opcja " + quoted(name) + " nie przyjmuje wartości.";
-    value = argument.substr(equals + 1);
+    value = *joined;
   } else if (!row->valueName.empty()) {
     if (rest.empty()) return "opcja " + quoted(name) + " wymaga wartości.";
     value = rest.front();

@@ -16,10 +16,14 @@ namespace odmiennik::cli {
 // option ("a" of "--list a"), and says whether there is any.
 using Query = bool (*)(Utf8Text& out, Utf8View text);
 
+// When text stands in colours: on a terminal that wants them, or as it is said.
+enum class Colours { automatic, always, never };
+
 struct Options {
   Query query = nullptr;  // excludes infinitives
   Utf8View queryText;     // a letter, a prefix, an infinitive or nothing
   const FormatRow* format = &kFormats[0];
+  Colours colours = Colours::automatic;
   bool isEditing = false;
   bool isInNorm = false;         // today's norm in the place of the system's forms
   bool isFinding = false;        // the arguments are forms, and their verbs are asked for
@@ -35,8 +39,8 @@ struct ParsedOptions {
   Utf8Text error;
 };
 
-// Options may stand between the infinitives, as "--format json" or "--format=json"; behind "--"
-// everything is an infinitive. The views are those of `arguments`.
+// Options may stand between the infinitives, as "--format json", "--format=json", "-f json" or
+// "-fjson"; behind "--" everything is an infinitive. The views are those of `arguments`.
 [[nodiscard]] ParsedOptions parseOptions(std::span<const Utf8Text> arguments);
 
 // An option takes its value into the options; false for a value that it does not know.
@@ -44,6 +48,7 @@ using Apply = bool (*)(Options&, Utf8View value);
 
 struct OptionRow {
   Utf8View name;
+  char letter;         // behind one dash it means the same; 0 where there is none
   Utf8View valueName;  // empty for an option without a value
   Apply apply;
   Utf8View help;  // Polish, one line

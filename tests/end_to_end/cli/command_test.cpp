@@ -90,6 +90,29 @@ TEST(command, wrong_usage_gives_two_and_says_why) {
   }
 }
 
+TEST(command, options_have_letters) {
+  EXPECT_EQ(run({"-f", "tsv", "parler"}).out, run({"--format", "tsv", "parler"}).out);
+  EXPECT_EQ(run({"-ftsv", "parler"}).out, run({"--format", "tsv", "parler"}).out);
+  EXPECT_EQ(run({"-h"}).out, run({"--help"}).out);
+  EXPECT_EQ(run({"-V"}).out, run({"--version"}).out);
+  EXPECT_EQ(run({"-Vh"}).exitCode, 2);
+  EXPECT_EQ(run({"-x"}).exitCode, 2);
+}
+
+TEST(command, a_dash_is_standard_input) {
+  const Result all = run({"-f", "tsv", "parler", "-", "haïr"}, "finir\n");
+  EXPECT_EQ(all.exitCode, 0);
+  EXPECT_EQ(all.out, run({"-f", "tsv", "parler", "finir", "haïr"}).out);
+  EXPECT_TRUE(holds(run({"--find", "-"}, "suis\n").out, "suivre"));
+}
+
+TEST(command, colours_are_shown_where_they_are_asked_for) {
+  EXPECT_TRUE(holds(run({"--color", "always", "parler"}).out, "\x1b["));
+  EXPECT_FALSE(holds(run({"--color=never", "parler"}).out, "\x1b["));
+  EXPECT_EQ(run({"--color", "auto", "parler"}).out, run({"parler"}).out);
+  EXPECT_EQ(run({"--color", "red", "parler"}).exitCode, 2);
+}
+
 TEST(command, help_and_version_are_polish_data) {
   EXPECT_TRUE(run({"--help"}).out.starts_with("Użycie: odmien "));
   EXPECT_TRUE(run({"--version"}).out.starts_with("odmien "));
