@@ -42,6 +42,7 @@ int main(int argumentCount, char** arguments) {
     platform::tell(given.told, given.isRefused);
     return given.isRefused ? kWrongUsage : 0;
   }
+  platform::chooseFontEngine();
   QApplication application(argumentCount, arguments);
   return runWindow(application, given);
 }

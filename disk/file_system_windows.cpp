@@ -39,6 +39,16 @@ class Handle {
   HANDLE handle_;
 };
 
+// The file's name as it is spelled on the disk: the call that replaces a file gives it the spelling
+// by which it was asked for.
+fs::path asSpelled(const fs::path& file) {
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW(file.c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return file;
+  FindClose(search);
+  return file.parent_path() / found.cFileName;
+}
+
 DWORD transferSize(std::size_t size) {
   return static_cast<DWORD>(std::min<std::size_t>(size, kLargestTransfer));
 }
@@ -151,7 +161,7 @@ class WindowsFiles final : public FileSystem {
     std::error_code fault;
     if (!fs::is_symlink(file, fault)) {
       const bool isTold = !fault || presence(file) == Presence::notThere;
-      return isTold ? std::optional(file) : std::nullopt;
+      return isTold ? std::optional(asSpelled(file)) : std::nullopt;
     }
     const fs::path real = fs::canonical(file, fault);
     if (!fault) return real;

@@ -3,6 +3,7 @@
 #include "app/help/help_file.h"
 
 #ifdef _WIN32
+#define PPC_BSTR  // libchm is built for names in wide letters
 #include <windows.h>
 #endif
 #include <chm_lib.h>

@@ -17,6 +17,10 @@ namespace odmiennik::app::platform {
 // whatever bytes they are.
 [[nodiscard]] std::vector<Utf8Text> arguments(int count, char** values);
 
+// Has Qt draw letters as they look best on the system, unless the user's environment says otherwise;
+// called before the application is made.
+void chooseFontEngine();
+
 // Says `text` where the program was started: on standard output or standard error; on
 // Windows, where a program with windows has neither, in a message.
 void tell(Utf8View text, bool isError);

@@ -104,6 +104,8 @@ std::vector<Utf8Text> arguments(int count, char** values) {
   return {values + 1, values + count};
 }
 
+void chooseFontEngine() {}
+
 void tell(Utf8View text, bool isError) {
   std::FILE* stream = isError ? stderr : stdout;
   std::fwrite(text.data(), 1, text.size(), stream);

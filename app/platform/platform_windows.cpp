@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "app/logic/start_up.h"
@@ -103,6 +104,12 @@ std::vector<Utf8Text> arguments(int /*count*/, char** /*values*/) {
   for (int i = 1; values != nullptr && i < count; ++i) texts.push_back(fromWide(values[i]));
   LocalFree(values);
   return texts;
+}
+
+// The carried font, drawn by Windows' own engine, has uneven gaps between the letters of the boxes.
+void chooseFontEngine() {
+  constexpr char kPlatform[] = "QT_QPA_PLATFORM";
+  if (std::getenv(kPlatform) == nullptr) _putenv_s(kPlatform, "windows:fontengine=freetype");
 }
 
 void tell(Utf8View text, bool isError) {
