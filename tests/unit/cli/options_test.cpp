@@ -147,5 +147,20 @@ TEST_F(options, are_those_of_the_manual_page_in_its_order) {
   EXPECT_EQ(described, known);
 }
 
+// Values have names of its own language there.
+TEST_F(options, are_those_of_the_english_manual_page_in_its_order) {
+  std::ifstream page(ODMIENNIK_SOURCE_DIR "/docs/odmien.en.1");
+  std::vector<Utf8Text> described;
+  std::string before;
+  for (std::string line; std::getline(page, line); before = line) {
+    if (before != ".TP" || line.find(" \\-\\-") == std::string::npos) continue;
+    const Utf8Text option = plain(line);
+    described.push_back(option.substr(0, option.find(' ')));
+  }
+  std::vector<Utf8Text> known;
+  for (const OptionRow& row : optionRows()) known.push_back(Utf8Text(row.name));
+  EXPECT_EQ(described, known);
+}
+
 }  // namespace
 }  // namespace odmiennik::cli
