@@ -4,8 +4,9 @@
 # addresses cannot be written. Meant for what is shipped; tools and tests go without.
 include(CheckCXXCompilerFlag)
 
+option(ODMIENNIK_HARDEN "Release builds are hardened" ON)
 set(ODMIENNIK_HARDENED_BUILD OFF)
-if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$" AND NOT ODMIENNIK_SANITIZE AND NOT MSVC)
+if(ODMIENNIK_HARDEN AND CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$" AND NOT ODMIENNIK_SANITIZE AND NOT MSVC)
   set(ODMIENNIK_HARDENED_BUILD ON)
 endif()
 
