@@ -44,15 +44,17 @@ constexpr auto kCompoundSlots = [] {
       {slot::kCompoundParticiple, auxiliary_index::kPresentParticiple, one, either},
       {slot::kPastImperative, auxiliary_index::kPresentSubjunctive, one, one},
       {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, one, several},
-      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, one, either},
+      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, one, either},  // vous
   };
   std::array<CompoundSlot, std::size(kTensesOfSix) * kPersonCount + std::size(kSingles)> rows{};
   auto row = rows.begin();
   for (const TenseOfSix& tense : kTensesOfSix)
     for (int person = 0; person < kPersonCount; ++person) {
+      constexpr int kVous = 4;  // one or several, as whoever is spoken to
       const Number number = person < 3 ? one : several;
       *row++ = {static_cast<std::int8_t>(tense.firstSlot + person),
-                static_cast<std::int8_t>(tense.firstIndex + person), number, number};
+                static_cast<std::int8_t>(tense.firstIndex + person), number,
+                person == kVous ? either : number};
     }
   std::copy(std::begin(kSingles), std::end(kSingles), row);
   return rows;

@@ -11,9 +11,15 @@ constexpr bool staysImpersonal(int slot) {
   return isIlForm || (slot >= slot::kInfinitive && slot <= slot::kPastParticiple);
 }
 
-void dropPersons(FormTable& forms) {
+// il and ils, the infinitives and the participles.
+constexpr bool staysInThirdPerson(int slot) {
+  return slot < kPersonalSlotCount ? slot % 3 == 2 : slot >= slot::kInfinitive;
+}
+
+template <typename Stays>
+void dropPersons(FormTable& forms, Stays stays) {
   for (int slot = 0; slot < kSlotCount; ++slot)
-    if (!staysImpersonal(slot)) forms[slot].clear();
+    if (!stays(slot)) forms[slot].clear();
 }
 
 std::string_view boxText(int slot, std::string_view form, bool isPronominal, bool isEditing) {
@@ -25,7 +31,8 @@ std::string_view boxText(int slot, std::string_view form, bool isPronominal, boo
 }  // namespace
 
 void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display& shown) {
-  if (flags.isImpersonal) dropPersons(forms);
+  if (flags.isImpersonal) dropPersons(forms, staysImpersonal);
+  if (flags.isOfThirdPersonOnly) dropPersons(forms, staysInThirdPerson);
   shown.isPronominal = flags.isPronominal;
   for (int slot = 0; slot < kSlotCount; ++slot)
     shown.boxes[static_cast<std::size_t>(slot)] =

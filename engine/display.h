@@ -20,8 +20,9 @@ struct Display {
 };
 
 // Shows the table. An impersonal verb first loses every slot but the il forms, the infinitives and
-// the two participles. An empty slot shows " -- ", while editing nothing, so that it can be typed
-// into. A reflexive pronoun in a slot is shown only when the verb is conjugated pronominally.
+// the two participles; one of the third person alone keeps il and ils. An empty slot shows " -- ",
+// while editing nothing, so that it can be typed into. A reflexive pronoun in a slot is shown only
+// when the verb is conjugated pronominally.
 void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display& shown);
 
 }  // namespace odmiennik::engine

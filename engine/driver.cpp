@@ -33,7 +33,7 @@ void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
 
 // Reads slot 96 into the flags; a reflexive prefix makes the verb pronominal.
 void readInfinitive(const FormTable& forms, EngineFlags& flags) {
-  flags.hAspirate = flags.isPronominal = flags.isImpersonal = false;
+  flags.hAspirate = flags.isPronominal = flags.isImpersonal = flags.isOfThirdPersonOnly = false;
   flags.adverb = Adverb::none;
   flags.agreement = flags.variety == Variety::norm ? Agreement::norm : Agreement::system;
   normalize(forms[slot::kInfinitive], flags.normalizedInput);
@@ -55,17 +55,20 @@ void takeAdverb(EngineFlags& flags) {
   flags.normalizedInput.erase(0, flags.adverb == Adverb::none ? 0 : input.find(' ') + 1);
 }
 
-// What the norm knows of a reflexive verb, before its adverb is taken off.
+// What the norm knows of a reflexive verb with its adverb, s'en vouloir; then of the verb alone.
 void readReflexiveOfNorm(EngineFlags& flags) {
   if (isParticipleInvariable(flags.normalizedInput)) flags.agreement = Agreement::none;
   takeAdverb(flags);
 }
 
 void applyNormTo(EngineFlags& flags, const VerbInformation& information) {
-  if (flags.isPronominal && isImpersonalReflexive(flags.normalizedInput))
-    flags.isImpersonal = true;
-  else if (!flags.isPronominal && information.isAuxiliaryFree &&
-           isUsuallyWithEtre(flags.normalizedInput))
+  if (flags.isPronominal) {
+    if (isImpersonalReflexive(flags.normalizedInput)) flags.isImpersonal = true;
+    if (isParticipleInvariable(flags.normalizedInput)) flags.agreement = Agreement::none;
+    return;
+  }
+  flags.isOfThirdPersonOnly = isOfThirdPersonOnly(flags.normalizedInput);
+  if (information.isAuxiliaryFree && isUsuallyWithEtre(flags.normalizedInput))
     flags.auxiliary = kEtre;
 }
 
@@ -156,7 +159,7 @@ bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive,
   conjugation.storedInfinitive = conjugation.forms[slot::kInfinitive];
   flags.adverb = Adverb::none;  // as it is stored
   flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
-  flags.isImpersonal = false;
+  flags.isImpersonal = flags.isOfThirdPersonOnly = false;
   applyStoredVerb(flags, conjugation.information);
   completeUnlessEditing(conjugation, isEditing);
   conjugation.source = Source::user;

@@ -26,6 +26,7 @@ struct EngineFlags {
   std::uint8_t storedAux = kAvoir;  // as read from a record of the user's own verbs
   bool isPronominal = false;
   bool isImpersonal = false;
+  bool isOfThirdPersonOnly = false;  // il and ils: of the norm only
   bool hAspirate = false;
   bool isConjugationShown = false;  // false while one is being built
   Variety variety = Variety::system;

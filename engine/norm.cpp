@@ -22,17 +22,33 @@ const NormParticiple* ownFeminineOf(std::string_view participle) {
   return nullptr;
 }
 
-std::string joined(std::string_view stem, std::string_view first, std::string_view second) {
-  std::string text(stem);
-  return text.append(first).append("/").append(stem).append(second);
+ParticipleForms withOwnFeminine(std::string_view participle, const NormParticiple& row) {
+  const std::string stem(participle.substr(0, participle.size() - row.masculine.size()));
+  const auto behindStem = [&](std::string_view end) { return stem + std::string(end); };
+  return {behindStem(row.masculine), behindStem(row.feminine), behindStem(row.masculines),
+          behindStem(row.feminines)};
 }
 
-AgreedParticiple withOwnFeminine(std::string_view participle, const NormParticiple& row) {
+// Beside a form that most letters of the feminine are those of, its end alone: "-te" of dissoute. A
+// box has no room for more.
+std::string besideMasculine(std::string_view stem, const NormParticiple& row) {
+  constexpr std::ptrdiff_t kMost = 3;
+  const auto shared = std::ranges::mismatch(row.masculine, row.feminine).in2 - row.feminine.begin();
+  if (shared < kMost) return std::string(stem) + std::string(row.feminine);
+  return "-" + std::string(row.feminine.substr(static_cast<std::size_t>(shared)));
+}
+
+AgreedParticiple agreedWithOwnFeminine(std::string_view participle, const NormParticiple& row) {
   const std::string_view stem = participle.substr(0, participle.size() - row.masculine.size());
-  AgreedParticiple agreed{
-      joined(stem, row.masculine, row.feminine), joined(stem, row.masculines, row.feminines), {}};
-  agreed.either = agreed.one + "/" + agreed.several;
-  return agreed;
+  const ParticipleForms forms = withOwnFeminine(participle, row);
+  const std::string feminine = besideMasculine(stem, row);
+  const bool isPluralAlike = forms.masculine == forms.masculines;
+  return {forms.masculine + "/" + feminine, forms.masculines + "/" + feminine + "s",
+          forms.masculine + "/" + feminine + "(s)" + (isPluralAlike ? "" : "/" + forms.masculines)};
+}
+
+bool hasPluralAlready(std::string_view participle) {
+  return participle.ends_with('s') || participle.ends_with('x');
 }
 
 }  // namespace
@@ -54,12 +70,28 @@ bool isImpersonalReflexive(std::string_view infinitive) {
   return has(data::kImpersonalReflexives, infinitive);
 }
 
-AgreedParticiple agreed(std::string_view participle) {
+bool isOfThirdPersonOnly(std::string_view infinitive) {
+  return has(data::kThirdPersonOnly, infinitive);
+}
+
+bool isUnelided(std::string_view form) {
+  return std::ranges::any_of(
+      data::kUnelided, [&](std::string_view beginning) { return form.starts_with(beginning); });
+}
+
+ParticipleForms participleForms(std::string_view participle) {
   if (const NormParticiple* row = ownFeminineOf(participle))
     return withOwnFeminine(participle, *row);
+  const std::string masculine(participle);
+  return {masculine, masculine + "e", hasPluralAlready(participle) ? masculine : masculine + "s",
+          masculine + "es"};
+}
+
+AgreedParticiple agreed(std::string_view participle) {
+  if (const NormParticiple* row = ownFeminineOf(participle))
+    return agreedWithOwnFeminine(participle, *row);
   const std::string bare(participle);
-  const bool isAlike = participle.ends_with('s') || participle.ends_with('x');
-  if (isAlike) return {bare + "(e)", bare + "(es)", bare + "(e, es)"};
+  if (hasPluralAlready(participle)) return {bare + "(e)", bare + "(es)", bare + "(e, es)"};
   return {bare + "(e)", bare + "(e)s", bare + "(e)(s)"};
 }
 
@@ -69,7 +101,9 @@ std::string agreedAlone(std::string_view participle) {
   const bool hasFeminine = bare.find_first_of(",;/") != std::string_view::npos;
   const bool isRegular = !hasFeminine && ownFeminineOf(bare) == nullptr;
   if (isRegular) return std::string(participle);
-  return hasFeminine ? std::string(bare) : agreed(bare).one;
+  if (hasFeminine) return std::string(bare);
+  const ParticipleForms forms = participleForms(bare);
+  return forms.masculine + "/" + forms.feminine;
 }
 
 }  // namespace odmiennik::engine

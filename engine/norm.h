@@ -21,9 +21,24 @@ namespace odmiennik::engine {
 [[nodiscard]] bool isParticipleInvariable(std::string_view infinitive);
 [[nodiscard]] bool isImpersonalReflexive(std::string_view infinitive);
 
+// Of a verb without a pronoun: whether it has il and ils alone ("résulter").
+[[nodiscard]] bool isOfThirdPersonOnly(std::string_view infinitive);
+
+// Whether the form begins with a vowel that is a consonant to the ear: "iodle", "iodlais".
+[[nodiscard]] bool isUnelided(std::string_view form);
+
+// A participle in gender and number: "allé" -> "allé", "allée", "allés", "allées"; "assis" ->
+// "assis", "assise", "assis", "assises"; "dû" -> "dû", "due", "dus", "dues". What stands before it
+// stays: "est dissous" -> "est dissous", "est dissoute" and so on.
+struct ParticipleForms {
+  std::string masculine, feminine, masculines, feminines;
+};
+[[nodiscard]] ParticipleForms participleForms(std::string_view participle);
+
 // A participle with être, as it is written for one, for several and where it may be either:
 // "allé" -> "allé(e)", "allé(e)s", "allé(e)(s)"; "assis" -> "assis(e)", "assis(es)", "assis(e,
-// es)"; "dû" -> "dû/due", "dus/dues", "dû/due/dus/dues".
+// es)"; "dû" -> "dû/due", "dus/dues", "dû/due(s)/dus"; "dissous" -> "dissous/-te", "dissous/-tes",
+// "dissous/-te(s)".
 struct AgreedParticiple {
   std::string one, several, either;
 };

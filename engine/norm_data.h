@@ -23,6 +23,8 @@ extern const std::span<const NormText> kNormTexts;  // by identifier
 extern const std::span<const std::string_view> kUsualEtre;
 extern const std::span<const std::string_view> kInvariable;
 extern const std::span<const std::string_view> kImpersonalReflexives;
+extern const std::span<const std::string_view> kThirdPersonOnly;
+extern const std::span<const std::string_view> kUnelided;  // beginnings of forms
 extern const std::span<const NormParticiple> kNormParticiples;
 }  // namespace data
 

@@ -86,6 +86,7 @@ bool elides(std::string_view form, bool hAspirate, Variety variety) {
   if (form[0] == 'h') return !hAspirate;
   if (variety == Variety::norm && form[0] == "œ"_fr[0]) return true;
   if (variety == Variety::norm && form[0] == 'y') return form.size() > 1 && !isVowel(form[1]);
+  if (variety == Variety::norm && form[0] == 'i') return !isUnelided(form);
   return isVowel(form[0]);
 }
 

@@ -11,8 +11,8 @@
 namespace odmiennik::engine {
 
 // Whether a pronoun elides before `form`: it begins with one of "aâèéeêioôuy", or with an h that is
-// not aspirated. Capitals, à, î, û, ë, ï and œ do not elide. In the norm œ does, and y only before
-// a consonant: j'œuvre, j'ypérite, je yodle.
+// not aspirated. Capitals, à, î, û, ë, ï and œ do not elide. In the norm œ does, y only before
+// a consonant, and i but where it is heard as one: j'œuvre, j'ypérite, je yodle, je iodle.
 [[nodiscard]] bool elides(std::string_view form, bool hAspirate, Variety variety = Variety::system);
 
 // Writes reflexive pronouns into the table: "laves" -> "te laves", "lave" -> "lave-toi", "laver" ->

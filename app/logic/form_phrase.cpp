@@ -2,19 +2,20 @@
 // Forms with their pronouns, read out.
 #include "app/logic/form_phrase.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "app/logic/hints.h"
 #include "app/logic/tense_topics.h"
 #include "engine/form_table.h"
-#include "engine/french.h"
+#include "engine/norm.h"
 #include "engine/normalization.h"
 #include "engine/pronouns.h"
+#include "engine/windows1252.h"
 
 namespace odmiennik::app {
 namespace {
 
-using namespace engine::literals;
 using Texts = std::vector<std::string>;
 
 bool isSubjunctive(int slot) {
@@ -28,16 +29,32 @@ bool isThirdPerson(int slot) {
   return slot < engine::kPersonalSlotCount && slot % engine::kPersonCount % 3 == 2;
 }
 
+// "due(s)" of "dû/due(s)/dus" is two forms.
+void addVariant(std::string_view variant, Texts& parts) {
+  constexpr std::string_view kPlural = "(s)";
+  const bool isTwo = variant.ends_with("e(s)") && !variant.ends_with("/-te(s)");
+  if (!isTwo) return void(parts.emplace_back(variant));
+  const std::string one(engine::less(variant, kPlural.size()));
+  parts.insert(parts.end(), {one, one + "s"});
+}
+
+// Where a variant ends: not in "(e, es)" and not in "dissous/-te".
+std::size_t endOfVariant(std::string_view text) {
+  constexpr std::string_view kSeparators = "/;,";
+  const auto end = std::min(text.find_first_of(kSeparators), text.size());
+  const bool isMarker = text.substr(0, end).ends_with("(e") || text.substr(end).starts_with("/-");
+  return isMarker ? text.find_first_of(kSeparators, end + 1) : end;
+}
+
 // "paye/paie" -> "paye", "paie"; " -- /voulons" has one form only.
 Texts split(std::string_view text) {
   Texts parts;
   while (!text.empty()) {
-    auto end = text.find_first_of("/;,");
-    if (text.substr(0, end).ends_with("(e")) end = text.find_first_of("/;,", end + 1);  // "(e, es)"
+    const auto end = endOfVariant(text);
     const std::string_view part = engine::trimmed(text.substr(0, end));
     const bool isMissing = part.empty() || part == engine::trimmed(engine::kShownMissing);
-    if (!isMissing) parts.emplace_back(part);
-    text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+    if (!isMissing) addVariant(part, parts);
+    text = end >= text.size() ? std::string_view() : text.substr(end + 1);
   }
   return parts;
 }
@@ -68,9 +85,19 @@ void sharePronoun(int slot, Texts& variants, bool hAspirate) {
       variants[i].insert(0, reflexiveBefore(pronoun, variants[i], hAspirate));
 }
 
+// What stands before the participle of "me suis dû/due" belongs to each.
+void shareAuxiliary(int slot, Texts& variants) {
+  const std::string first = variants.front();
+  if (engine::withoutOwnReflexive(slot, first).find(' ') == std::string_view::npos) return;
+  const std::string auxiliary = first.substr(0, first.rfind(' ') + 1);
+  for (std::size_t i = 1; i < variants.size(); ++i)
+    if (variants[i].find(' ') == std::string::npos) variants[i].insert(0, auxiliary);
+}
+
 Texts variantsOf(int slot, std::string_view text, bool hAspirate) {
   Texts variants = split(text);
   if (variants.size() < 2) return variants;
+  shareAuxiliary(slot, variants);
   if (isImperative(slot))
     shareEnclitic(slot, variants);
   else
@@ -85,43 +112,28 @@ struct Agreeing {
   Texts others;          // the plurals, where it may be several too
 };
 
-// "dissous" -> "dissoute", "mû" -> "mue": participles whose feminine is not their masculine and an
-// e.
-std::string feminineOf(std::string_view participle) {
-  if (participle.ends_with("sous")) return std::string(engine::less(participle, 1)) + "te";
-  if (participle.ends_with("û"_fr)) return std::string(engine::less(participle, 1)) + "ue";
-  return std::string(participle) + "e";
-}
-
-// The markers of agreement, and what they stand for behind the participle.
+// The markers of agreement, and of whom a participle with them is said.
+enum class Number : std::uint8_t { one, several, either };
 struct Marker {
   std::string_view text;
-  std::string_view plural;  // "s" where several are meant
-  bool isEither;            // one or several
+  Number number;
 };
-constexpr Marker kMarkers[] = {{"(e)(s)", "", true},
-                               {"(e, es)", "", true},
-                               {"(es)", "s", false},
-                               {"(e)s", "s", false},
-                               {"(e)", "", false}};
-
-// A plural's s, which a participle in s or x has already.
-std::string plural(std::string_view base, std::string_view s) {
-  const bool hasIt = base.ends_with('s') || base.ends_with('x');
-  return std::string(base) + std::string(hasIt ? "" : s);
-}
+constexpr Marker kMarkers[] = {{"/-te(s)", Number::either}, {"/-tes", Number::several},
+                               {"/-te", Number::one},       {"(e)(s)", Number::either},
+                               {"(e, es)", Number::either}, {"(es)", Number::several},
+                               {"(e)s", Number::several},   {"(e)", Number::one}};
 
 Agreeing readOut(std::string_view form) {
-  for (const Marker& marker : kMarkers) {
-    const auto place = form.find(marker.text);
+  for (const auto& [marker, number] : kMarkers) {
+    const auto place = form.find(marker);
     if (place == std::string_view::npos) continue;
-    const std::string_view base = form.substr(0, place);
-    const std::string rest(form.substr(place + marker.text.size()));
-    Agreeing read{plural(base, marker.plural) + rest,
-                  feminineOf(base) + std::string(marker.plural) + rest,
-                  {}};
-    if (marker.isEither && plural(base, "s") != base) read.others.push_back(plural(base, "s"));
-    if (marker.isEither) read.others.push_back(feminineOf(base) + "s");
+    const std::string rest(form.substr(place + marker.size()));
+    const engine::ParticipleForms forms = engine::participleForms(form.substr(0, place));
+    if (number == Number::several) return {forms.masculines + rest, forms.feminines + rest, {}};
+    Agreeing read{forms.masculine + rest, forms.feminine + rest, {}};
+    if (number == Number::one) return read;
+    if (forms.masculines != forms.masculine) read.others.push_back(forms.masculines);
+    read.others.push_back(forms.feminines);
     return read;
   }
   return {std::string(form), {}, {}};

@@ -70,6 +70,11 @@ TEST(forms_of_the_norm, the_pronoun_je_elides_before_oe_and_stays_before_a_spoke
   EXPECT_EQ(program.pronoun(0), "je");
   program.conjugate("ypérisser");
   EXPECT_EQ(program.pronoun(0), "j'") << "before a consonant y is a vowel";
+  program.conjugate("iodler");
+  EXPECT_EQ(program.pronoun(0), "je");
+  EXPECT_EQ(program.pronoun(24), "j'") << "j'ai iodlé";
+  program.conjugate("ioder");
+  EXPECT_EQ(program.pronoun(0), "j'");
 }
 
 TEST(forms_of_the_norm, the_own_verb_wins) {

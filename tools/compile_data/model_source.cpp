@@ -62,8 +62,17 @@ std::string keyOf(const LineReader& whole, const LineReader& behindTense) {
   return std::string(trim(whole.rest().substr(0, taken)));
 }
 
-// "[listed|otherwise] build TENSE [from BASE]" or "[listed|otherwise] [whole] TENSE forms".
+// "none TENSE": the verb has no such forms.
+void readMissingTense(LineReader& line, const RuleTenses& tenses, ModelBlock& block) {
+  const RuleTense& tense = takeTense(line, tenses);
+  block.once.note(line, tense.name);
+  dropForms(line, tense, block.model);
+}
+
+// "[listed|otherwise] build TENSE [from BASE]", "[listed|otherwise] [whole] TENSE forms" or "none
+// TENSE".
 void readStep(LineReader& line, const RuleTenses& tenses, ModelBlock& block) {
+  if (line.take("none")) return readMissingTense(line, tenses, block);
   const LineReader whole = line;
   const Condition condition = takeCondition(line);
   const bool isBuilt = line.take("build");

@@ -32,16 +32,19 @@ void writeTexts(std::ostream& out, const std::string& path) {
   out << "};\nconst std::span<const NormText> kNormTexts = kNormTextRows;\n";
 }
 
-enum class List { etre, invariable, impersonal, participle };
-constexpr std::array<Named<List>, 4> kLists{{{"être", List::etre},
+enum class List { etre, invariable, impersonal, thirdPerson, unelided, participle };
+constexpr std::array<Named<List>, 6> kLists{{{"être", List::etre},
                                              {"invariable", List::invariable},
                                              {"impersonal", List::impersonal},
+                                             {"third-person", List::thirdPerson},
+                                             {"unelided", List::unelided},
                                              {"participle", List::participle}}};
-constexpr const char* kListNames[] = {"kUsualEtre", "kInvariable", "kImpersonalReflexives"};
+constexpr const char* kListNames[] = {"kUsualEtre", "kInvariable", "kImpersonalReflexives",
+                                      "kThirdPersonOnly", "kUnelided"};
 
 // The lists of one file as they are read.
 struct Lists {
-  std::vector<std::string> verbs[3];
+  std::vector<std::string> verbs[std::size(kListNames)];
   std::string participles;  // rows of C++
 };
 

@@ -80,6 +80,12 @@ void takeForms(LineReader& line, const RuleTense& tense, Action action, Conditio
   if (model.steps.size() == before) line.fail("no form is written");
 }
 
+void dropForms(LineReader& line, const RuleTense& tense, SourceModel& model) {
+  line.finish();
+  for (int person = 0; person < tense.formCount; ++person)
+    model.steps.push_back({.action = Action::writeWhole, .slot = tense.firstSlot + person});
+}
+
 SourceStep takeBuilder(LineReader& line, const RuleTense& tense) {
   SourceStep step{.action = tense.builder};
   if (!line.take("default") && !line.isAtEnd()) {

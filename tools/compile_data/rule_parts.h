@@ -19,6 +19,9 @@ using groups::Action;
 void takeForms(LineReader& line, const RuleTense& tense, Action action, groups::Condition condition,
                SourceModel& model);
 
+// Adds a step for each form of the tense that leaves it empty: the verb has none of them.
+void dropForms(LineReader& line, const RuleTense& tense, SourceModel& model);
+
 // Takes the rest of the line as what the tense's builder starts from: "infinitive less 1", "je +
 // r", "stem + qu, i-endings", "i-endings", "default", or nothing.
 [[nodiscard]] SourceStep takeBuilder(LineReader& line, const RuleTense& tense);

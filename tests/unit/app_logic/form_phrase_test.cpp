@@ -83,6 +83,17 @@ TEST(form_phrase, agrees_participles_that_are_no_simple_ones) {
   EXPECT_EQ(phrase(27, "nous sommes assis(e)s"), "nous nous sommes assis lub assises");
   EXPECT_EQ(phrase(24, "me suis dissous(e)"), "je me suis dissous lub dissoute");
   EXPECT_EQ(phrase(24, "me suis mû(e)"), "je me suis mû lub mue");
+  EXPECT_EQ(phrase(27, "nous sommes dû(e)s"), "nous nous sommes dus lub dues");
+}
+
+TEST(form_phrase, reads_out_what_the_norm_has_room_for) {
+  EXPECT_EQ(phrase(24, "me suis dû/due"), "je me suis dû lub je me suis due");
+  EXPECT_EQ(phrase(97, "s'être dû/due(s)/dus"),
+            "s'être dû lub s'être due lub s'être dues lub s'être dus");
+  EXPECT_EQ(phrase(26, "s'est dissous/-te"), "il s'est dissous lub elle s'est dissoute");
+  EXPECT_EQ(phrase(27, "nous sommes dissous/-tes"), "nous nous sommes dissous lub dissoutes");
+  EXPECT_EQ(phrase(28, "vous êtes dissous/-te(s)"),
+            "vous vous êtes dissous lub dissoute lub dissoutes");
 }
 
 TEST(form_phrase, says_each_variant_for_itself) {
