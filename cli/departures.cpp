@@ -3,21 +3,10 @@
 #include "cli/departures.h"
 
 #include "cli/format.h"
+#include "engine/departure.h"
 
 namespace odmiennik::cli {
 namespace {
-
-// "j'ai parlé", "ils ont parlé", "parlé": the form with its pronoun.
-void setPhrase(std::string& phrase, const engine::Display& shown, int slot) {
-  const auto position = static_cast<std::size_t>(slot);
-  phrase.clear();
-  if (shown.boxes[position] == engine::kShownMissing) return;
-  if (slot < engine::kPersonalSlotCount) {
-    phrase.append(shown.pronouns[position]);
-    if (!phrase.ends_with('\'')) phrase.push_back(' ');
-  }
-  phrase.append(shown.boxes[position]);
-}
 
 void appendLine(Utf8Text& out, std::string_view infinitive, int slot, std::string_view system,
                 std::string_view norm) {
@@ -45,16 +34,15 @@ void Departures::begin(Utf8Text& out) {
 
 Answer Departures::append(Utf8Text& out, const Question& question) {
   const Answer inNorm = norm_.answer(question);
-  for (int slot = 0; slot < engine::kSlotCount; ++slot)
-    setPhrase(phrases_[static_cast<std::size_t>(slot)], inNorm.conjugation.shown, slot);
   const Answer answer = system_.answer(question);
   if (answer.isRefused) return answer;
-  const engine::Display& shown = answer.conjugation.shown;
-  std::string phrase;
+  const engine::Display& norm = inNorm.conjugation.shown;
+  const engine::Display& system = answer.conjugation.shown;
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
-    setPhrase(phrase, shown, slot);
-    const std::string& norm = phrases_[static_cast<std::size_t>(slot)];
-    if (phrase != norm) appendLine(out, shown.boxes[engine::slot::kInfinitive], slot, phrase, norm);
+    if (!engine::departs(system, norm, slot)) continue;
+    engine::setPhrase(systemPhrase_, system, slot);
+    engine::setPhrase(normPhrase_, norm, slot);
+    appendLine(out, system.boxes[engine::slot::kInfinitive], slot, systemPhrase_, normPhrase_);
   }
   return answer;
 }

@@ -2,7 +2,6 @@
 // The forms that depart from today's norm.
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "cli/answerer.h"
@@ -25,7 +24,7 @@ class Departures {
  private:
   Answerer norm_;
   Answerer system_;
-  std::array<std::string, engine::kSlotCount> phrases_;  // the norm's
+  std::string systemPhrase_, normPhrase_;  // kept between verbs for their buffers only
 };
 
 }  // namespace odmiennik::cli

@@ -2,6 +2,8 @@
 // Comparison of the shown verb with the norm.
 #include "app/logic/norm_of_verb.h"
 
+#include "engine/departure.h"
+
 namespace odmiennik::app {
 namespace {
 
@@ -21,6 +23,7 @@ NormOfVerb::NormOfVerb(engine::VerbIndex& index, const engine::BuiltinVerbs& bui
 
 void NormOfVerb::forget() {
   for (std::string& departure : departures_) departure.clear();
+  for (std::string& caption : captions_) caption.clear();
 }
 
 void NormOfVerb::compareWith(const engine::Conjugation& shown, bool isAuxiliaryChosen) {
@@ -31,19 +34,25 @@ void NormOfVerb::compareWith(const engine::Conjugation& shown, bool isAuxiliaryC
   if (isAuxiliaryChosen && norm_.flags.auxiliary != chosen)
     engine::Driver::toggleAuxiliary(norm_, chosen == engine::kAvoir, false);
   compareSlots(shown.shown);
+  compareCaptions(shown.shown);
 }
 
 void NormOfVerb::compareSlots(const engine::Display& shown) {
-  for (std::size_t slot = 0; slot < departures_.size(); ++slot) {
-    const std::string_view norm = norm_.shown.boxes[slot];
-    const bool hasPronoun = slot < shown.pronouns.size() && norm != engine::kShownMissing;
-    const bool hasOtherPronoun = hasPronoun && norm_.shown.pronouns[slot] != shown.pronouns[slot];
-    if (norm == shown.boxes[slot] && !hasOtherPronoun) continue;
-    std::string& departure = departures_[slot];
-    if (hasOtherPronoun) departure.assign(norm_.shown.pronouns[slot]);
-    if (hasOtherPronoun && !departure.ends_with('\'')) departure.push_back(' ');
-    departure.append(norm);
+  const engine::Display& norm = norm_.shown;
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+    const auto position = static_cast<std::size_t>(slot);
+    if (!engine::departs(shown, norm, slot)) continue;
+    if (engine::pronounDeparts(shown, norm, slot))
+      engine::setPhrase(departures_[position], norm, slot);
+    else
+      departures_[position].assign(norm.boxes[position]);
   }
+}
+
+void NormOfVerb::compareCaptions(const engine::Display& shown) {
+  for (std::size_t number = 0; number < captions_.size(); ++number)
+    if (shown.captions[number] != norm_.shown.captions[number])
+      captions_[number].assign(norm_.shown.captions[number]);
 }
 
 }  // namespace odmiennik::app

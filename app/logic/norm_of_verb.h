@@ -32,6 +32,11 @@ class NormOfVerb {
     return departures_[static_cast<std::size_t>(slot)];
   }
 
+  // The norm's text of a caption above a subjunctive, 0 to 3, that departs; else empty.
+  [[nodiscard]] const std::string& ofCaption(int number) const {
+    return captions_[static_cast<std::size_t>(number)];
+  }
+
  private:
   struct NoUserVerbs final : engine::UserVerbs {
     bool load(std::string_view /*infinitive*/, engine::FormTable& /*forms*/,
@@ -41,12 +46,14 @@ class NormOfVerb {
   };
 
   void compareSlots(const engine::Display& shown);
+  void compareCaptions(const engine::Display& shown);
 
   NoUserVerbs noUserVerbs_;
   SilentShell silence_;
   engine::Driver driver_;
   engine::Conjugation norm_;
   std::array<std::string, engine::kSlotCount> departures_;
+  std::array<std::string, std::tuple_size_v<engine::SubjunctiveCaptions>> captions_;
 };
 
 }  // namespace odmiennik::app
