@@ -3,6 +3,11 @@
 #include "app/controls/caption_label.h"
 
 #include <QFontMetricsF>
+#include <QStyle>
+#include <algorithm>
+
+#include "app/common/program_style.h"
+#include "app/controls/departure_mark.h"
 
 namespace odmiennik::app {
 
@@ -25,6 +30,26 @@ void CaptionLabel::stand(const QRect& place, const QFont& font) {
   setGeometry(place);
   natural_ = font;
   fit();
+}
+
+void CaptionLabel::markDeparture(const QString& norm) {
+  if (accessibleDescription() != norm) setAccessibleDescription(norm);
+  if (isMarked_ == !norm.isEmpty()) return;
+  isMarked_ = !norm.isEmpty();
+  update();
+}
+
+double CaptionLabel::textWidth() const { return QFontMetricsF(font()).horizontalAdvance(text()); }
+
+void CaptionLabel::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  const bool isOnPaper = style()->styleHint(ProgramStyle::kIsForPaper, nullptr, this) != 0;
+  if (!isMarked_ || isOnPaper) return;
+  constexpr double kGap = 2;
+  const double size = departureMarkSize(height());
+  const double right = std::min<double>(width(), textWidth() + kGap + size);
+  QPainter painter(this);
+  paintDepartureMark(painter, QPointF(right, 1), size, palette());
 }
 
 // Step by step, and no further than can be read. The letters are measured, not the label: it would

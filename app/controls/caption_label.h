@@ -18,14 +18,23 @@ class CaptionLabel final : public QLabel {
   // Plain text, not mark-up.
   void showText(const QString& text);
 
+  // Marks the text as departing from today's norm, as a form's box does: a small corner behind it,
+  // and for the screen reader `norm`, which tells what the norm is. Empty: no mark. Never on paper.
+  void markDeparture(const QString& norm);
+
   // Where it stands, and the font of its letters at their natural width. A heading that is
   // underlined, as the link under the pointer, stays so.
   void stand(const QRect& place, const QFont& font);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void fit();
+  [[nodiscard]] double textWidth() const;
 
   QFont natural_;
+  bool isMarked_ = false;
 };
 
 }  // namespace odmiennik::app

@@ -4,16 +4,15 @@
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
-#include <QPolygonF>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QStylePainter>
 #include <algorithm>
 
-#include "app/common/colours.h"
 #include "app/common/program_style.h"
 #include "app/common/text.h"
+#include "app/controls/departure_mark.h"
 
 namespace odmiennik::app {
 
@@ -165,17 +164,10 @@ void FormBox::markDeparture(const QString& norm) {
   update();
 }
 
-// A corner as of a folded page: seen by its shape, above the line of the letters; in a box that its
-// form fills it touches the last one.
+// Above the line of the letters; in a box that its form fills it touches the last one.
 void FormBox::paintMark() {
-  constexpr double kShare = 0.3;  // of the box's height
-  const double size = std::max(5.0, height() * kShare);
-  const double right = width() - 1, top = 1;
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(departureColour(palette()));
-  painter.drawPolygon(QPolygonF{{right - size, top}, {right, top}, {right, top + size}});
+  paintDepartureMark(painter, QPointF(width() - 1, 1), departureMarkSize(height()), palette());
 }
 
 // The form alone: on paper there is neither a selection nor a caret.

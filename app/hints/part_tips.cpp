@@ -53,6 +53,7 @@ QString PartTips::tipAt(const QPoint& place) const {
 
 Utf8Text PartTips::textOf(const ControlRow& row, const QWidget& control) const {
   if (row.name == "txtCzasownik") return formTipOf(row.index);
+  if (row.name == "lblSubjoncif") return toUtf8(control.accessibleDescription());
   if (row.name == "cmdFrancuskaLitera" || row.name == "chkFrancuskaLitera")
     return letterTip(control);
   if (row.name == "lblCzas")

@@ -41,6 +41,11 @@ class FormBoxes {
   void show(const engine::Display& shown) const;
   void showCaptions(const engine::SubjunctiveCaptions& captions) const;
 
+  // Caption `number`, 0 to 3, that stands above a subjunctive.
+  [[nodiscard]] CaptionLabel& caption(int number) const {
+    return *captions_[static_cast<std::size_t>(number)];
+  }
+
  private:
   std::array<FormBox*, engine::kSlotCount> boxes_{};
   std::array<CaptionLabel*, 4> captions_{};

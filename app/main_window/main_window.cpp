@@ -171,6 +171,8 @@ void MainWindow::showDepartures() {
         box.text() == fromFrench(conjugation_.shown.boxes[static_cast<std::size_t>(slot)]);
     box.markDeparture(isShown ? fromUtf8(normLine(conjugators_.norm.of(slot))) : QString());
   }
+  for (int number = 0; number < static_cast<int>(conjugation_.shown.captions.size()); ++number)
+    boxes_.caption(number).markDeparture(fromUtf8(normLine(conjugators_.norm.ofCaption(number))));
 }
 
 // deliberate: the whole table is displayed, the entry box with it, also where nothing was

@@ -44,6 +44,8 @@ class NormSuite : public QObject {
   void aFormThatDepartsIsMarkedAndKeepsItsText();
   void aMarkCanBeSeen();
   void aMarkGoesWithItsVerb();
+  void theCaptionAboveFalloirIsMarkedAndTellsTheNorm();
+  void theCaptionsMarkGoesWithItsVerbAndWithTheTick();
   void theTooltipTellsTheNorm();
   void theDescriptionIsThereAgainAfterTheTooltip();
   void theTickShowsTheVerbAnewAtOnce();
@@ -78,6 +80,35 @@ void NormSuite::aMarkGoesWithItsVerb() {
   program.conjugate("finir");
   QCOMPARE(marksOf(program).keys(), QList<int>{83});
   QVERIFY(!hasCorner(program, 2));
+}
+
+void NormSuite::theCaptionAboveFalloirIsMarkedAndTellsTheNorm() {
+  ProgramUnderTest program;
+  auto& caption = program.widget<QLabel>("lblSubjoncif_0");
+  program.conjugate("falloir");
+  QCOMPARE(caption.text(), "Il ne crois pas que ...");
+  QCOMPARE(caption.accessibleDescription(), "Dzisiejsza norma: Il ne croit pas que ...");
+  const QImage marked = caption.grab().toImage();
+  QHelpEvent asked(QEvent::ToolTip, caption.geometry().center(), caption.mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(caption.parentWidget(), &asked);
+  QCOMPARE(QToolTip::text(), "Dzisiejsza norma: Il ne croit pas que ...");
+  QToolTip::hideText();
+  static_cast<app::CaptionLabel&>(caption).markDeparture({});
+  QVERIFY(caption.grab().toImage() != marked);
+}
+
+void NormSuite::theCaptionsMarkGoesWithItsVerbAndWithTheTick() {
+  ProgramUnderTest program;
+  const auto& caption = program.widget<QLabel>("lblSubjoncif_1");
+  program.conjugate("falloir");
+  QVERIFY(!caption.accessibleDescription().isEmpty());
+  tick(program);
+  QCOMPARE(caption.text(), "Il ne croyait pas que ...");
+  QCOMPARE(caption.accessibleDescription(), QString());
+  tick(program);
+  QVERIFY(!caption.accessibleDescription().isEmpty());
+  program.conjugate("lire");
+  QCOMPARE(caption.accessibleDescription(), QString());
 }
 
 void NormSuite::theTooltipTellsTheNorm() {
