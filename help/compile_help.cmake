@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# cmake -DBUILD_HELP=… -DCHMCMD=… -DCHMLS=… -DHELP=folder -DPROJECT=folder -DRESULT=file -P compile_help.cmake:
-# makes the help's sources into PROJECT and compiles PROJECT/Werbolin.hhp into RESULT. The same pages
-# give the same bytes.
+# cmake -DBUILD_HELP=… -DCHMCMD=… -DCHMLS=… -DHELP=folder -DDEPARTURES=file -DPROJECT=folder -DRESULT=file
+# -P compile_help.cmake: makes the help's sources and the list of departures into PROJECT and compiles
+# PROJECT/Werbolin.hhp into RESULT. The same pages give the same bytes.
 function(run)
   execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${PROJECT}
     RESULT_VARIABLE status OUTPUT_VARIABLE said ERROR_VARIABLE said)
@@ -32,6 +32,7 @@ endfunction()
 
 file(REMOVE ${RESULT})
 file(MAKE_DIRECTORY ${PROJECT})
+configure_file(${DEPARTURES} ${PROJECT}/departures.tsv COPYONLY)
 run(${BUILD_HELP} project ${HELP} ${PROJECT})
 compile()
 # Where the strings stand is known once they are compiled; contexts name their pages by it.

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "app/logic/tense_topics.h"
+#include "tools/build_help/departures_page.h"
 #include "tools/build_help/files.h"
 
 namespace odmiennik::help {
@@ -46,11 +47,19 @@ std::string withEntitiesResolved(std::string text) {
   return text;
 }
 
+// A page as a reader meets it: with what the build puts in.
+std::string pageSource(const std::filesystem::path& path) {
+  static const std::string departures = tools::departuresMarkup(
+      tools::readDepartureGroups(ODMIENNIK_SOURCE_DIR "/help/odstepstwa.txt"),
+      tools::readDepartures(ODMIENNIK_DEPARTURES));
+  return tools::withDepartures(tools::readFile(path), departures);
+}
+
 std::vector<HelpPage> readPages() {
   const std::filesystem::path folder = std::filesystem::path(ODMIENNIK_SOURCE_DIR) / "help/strony";
   std::vector<HelpPage> pages;
   for (const std::string& name : tools::pageNames(folder))
-    pages.push_back({name, tools::readFile(folder / std::u8string(name.begin(), name.end()))});
+    pages.push_back({name, pageSource(folder / std::u8string(name.begin(), name.end()))});
   return pages;
 }
 

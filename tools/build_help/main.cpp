@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // build_help project HELP OUTPUT: turns the folder of the help's sources into a project for a help
-// compiler.
+// compiler; the list of the forms that depart from today's norm lies in OUTPUT already.
 // build_help contexts STRINGS OUTPUT: gives the project OUTPUT its contexts once it was compiled,
 // from the strings of the help file; it is then to be compiled again. build_help finish COMPILED
 // RESULT: the help file that goes with the programs.
@@ -10,6 +10,7 @@
 #include "tools/build_help/built_page.h"
 #include "tools/build_help/compiled_file.h"
 #include "tools/build_help/contents.h"
+#include "tools/build_help/departures_page.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
 
@@ -18,11 +19,12 @@ namespace {
 namespace fs = std::filesystem;
 using namespace odmiennik::tools;
 
-void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::string>& pages) {
+void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::string>& pages,
+               const std::string& departures) {
   for (const std::string& page : pages) {
     const fs::path name = fs::path(std::u8string(page.begin(), page.end()));
     try {
-      writeFile(to / name, builtPage(readFile(from / name)));
+      writeFile(to / name, builtPage(withDepartures(readFile(from / name), departures)));
     } catch (const std::exception& error) {
       throw std::runtime_error(page + ": " + error.what());
     }
@@ -33,8 +35,11 @@ void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::
 void buildHelp(const fs::path& help, const fs::path& output) {
   const HelpContents contents = readHelpContents(help.string());
   const std::vector<std::string> pages = pageNames(help / "strony");
+  const std::string markup =
+      departuresMarkup(readDepartureGroups((help / "odstepstwa.txt").string()),
+                       readDepartures((output / "departures.tsv").string()));
   fs::remove_all(output / "strony");
-  copyPages(help / "strony", output / "strony", pages);
+  copyPages(help / "strony", output / "strony", pages, markup);
   for (const char* sheet : kStyleSheets) writeFile(output / sheet, readFile(help / sheet));
   writeFile(output / "Werbolin.hhp", projectFile(pages));
   writeFile(output / "Werbolin.hhc", contentsFile(contents.contents));

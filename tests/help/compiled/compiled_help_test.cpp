@@ -9,6 +9,7 @@
 #include "tests/help/compiled/help_file.h"
 #include "tools/build_help/built_page.h"
 #include "tools/build_help/contents.h"
+#include "tools/build_help/departures_page.h"
 #include "tools/build_help/files.h"
 #include "tools/build_help/project_files.h"
 
@@ -18,7 +19,11 @@ namespace {
 const std::filesystem::path kSources = std::filesystem::path(ODMIENNIK_SOURCE_DIR) / "help";
 
 std::string pageSource(const std::string& name) {
-  return tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end()));
+  static const std::string departures =
+      tools::departuresMarkup(tools::readDepartureGroups((kSources / "odstepstwa.txt").string()),
+                              tools::readDepartures(ODMIENNIK_DEPARTURES));
+  return tools::withDepartures(
+      tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end())), departures);
 }
 
 // The number at a place of a binary table, least significant byte first.
