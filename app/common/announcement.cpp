@@ -31,6 +31,11 @@ class Announcer final : public QObject {
     delay_.start();
   }
 
+  void answer(const QString& answer) {
+    answer_ = answer;
+    if (!answer.isEmpty()) delay_.start();
+  }
+
   void setListener(std::function<void(const QString&)> listener) {
     listener_ = std::move(listener);
   }
@@ -39,8 +44,11 @@ class Announcer final : public QObject {
 
  private:
   void say() {
+    if (!answer_.isEmpty()) sentences_ += answer_;
     said_ = sentences_.join(QLatin1Char(' '));
     sentences_.clear();
+    answer_.clear();
+    if (said_.isEmpty()) return;
     if (listener_) return listener_(said_);
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
@@ -48,6 +56,7 @@ class Announcer final : public QObject {
 
   QTimer delay_;
   QStringList sentences_;
+  QString answer_;  // the last one
   QString said_;
   std::function<void(const QString&)> listener_;
 };
@@ -87,6 +96,8 @@ Announcer& announcer() {
 }  // namespace
 
 void announce(const QString& sentence) { announcer().add(sentence); }
+
+void announceAnswer(const QString& answer) { announcer().answer(answer); }
 
 void announceTo(std::function<void(const QString&)> listener) {
   announcer().setListener(std::move(listener));

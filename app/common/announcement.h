@@ -12,6 +12,10 @@ namespace odmiennik::app {
 // said together, in their order: announce("Zapisano czasownik finir."). Nothing is shown.
 void announce(const QString& sentence);
 
+// The same for an answer to what is being done again and again: typing in a search, Tab from link
+// to link. It takes the place of the answer before that has not been said yet; empty: nothing does.
+void announceAnswer(const QString& answer);
+
 // Hands the sentences to `listener` from now on, or with none to the screen reader again.
 void announceTo(std::function<void(const QString&)> listener);
 

@@ -19,7 +19,7 @@ QWidget* captionOf(const QString& caption, QComboBox& list) {
   label->setBuddy(&list);
   list.setAccessibleDescription(QString(caption).remove('&').remove(':'));
   QObject::connect(&list, &QComboBox::currentTextChanged, &list, [&list](const QString& choice) {
-    if (list.hasFocus()) announce(choice);
+    if (list.hasFocus()) announceAnswer(choice);
   });
   return holder;
 }

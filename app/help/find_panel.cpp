@@ -64,7 +64,7 @@ void FindPanel::search() {
   list(found);
   answer_->setText(answerTo(field_->text(), found.size()));
   field_->setAccessibleDescription(answer_->text());
-  if (!answer_->text().isEmpty()) announce(answer_->text());
+  announceAnswer(answer_->text());
 }
 
 void FindPanel::list(const std::vector<FoundPage>& pages) {

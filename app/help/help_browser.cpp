@@ -154,7 +154,7 @@ bool HelpBrowser::focusNextPrevChild(bool next) {
   const bool hasMoved = QTextBrowser::focusNextPrevChild(next);
   const QTextCursor link = textCursor();
   if (hasFocus() && link.hasSelection() && link.charFormat().isAnchor())
-    announce(QStringLiteral("Odsyłacz: %1").arg(typedText(link.selectedText())));
+    announceAnswer(QStringLiteral("Odsyłacz: %1").arg(typedText(link.selectedText())));
   return hasMoved;
 }
 

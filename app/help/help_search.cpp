@@ -108,7 +108,7 @@ void HelpSearch::search(QTextDocument::FindFlags direction) {
 void HelpSearch::answer(const QString& text) {
   answer_->setText(text);
   field_->setAccessibleDescription(text);
-  if (!text.isEmpty()) announce(text);
+  announceAnswer(text);
 }
 
 }  // namespace odmiennik::app

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QTabWidget>
 
+#include "app/common/announcement.h"
 #include "app/help/folded_text.h"
 #include "app/help/help_finder.h"
 #include "app/help/page_text.h"
@@ -12,6 +13,30 @@
 #include "tests/window/suites.h"
 
 namespace odmiennik::window_test {
+
+namespace {
+
+// What a screen reader is told while it lives; what was still to be said before is passed over.
+class Heard {
+ public:
+  Heard() {
+    app::announceTo([this](const QString& sentence) { sentences_ += sentence; });
+    app::announce(kBegin);
+    if (!QTest::qWaitFor([this] { return sentences_.join(' ').endsWith(kBegin); }))
+      qFatal("nothing is heard");
+    sentences_.clear();
+  }
+  Heard(const Heard&) = delete;
+  Heard& operator=(const Heard&) = delete;
+  ~Heard() { app::announceTo({}); }
+  [[nodiscard]] const QStringList& sentences() const { return sentences_; }
+
+ private:
+  static constexpr QLatin1String kBegin{"Start"};
+  QStringList sentences_;
+};
+
+}  // namespace
 
 class HelpSearchSuite : public QObject {
   Q_OBJECT
@@ -35,6 +60,8 @@ class HelpSearchSuite : public QObject {
   void marksGoWithThePage();
   void pagesWithoutOneOfTheWordsAreNotListed();
   void aSearchWithoutResultSaysSo();
+  void whileOneTypesOnlyTheLastAnswerIsSaid();
+  void anAnswerThatNoLongerHoldsIsNotSaid();
   void aPageWithTheWordInItsTitleComesFirst();
   void theIndexHoldsEveryKeyword();
   void theIndexIsNarrowedByWhatIsTyped();
@@ -183,6 +210,21 @@ void HelpSearchSuite::aSearchWithoutResultSaysSo() {
   QCOMPARE(help_->label("lblZnalezione"), "Nie znaleziono.");
   searchEverywhere("  ");
   QCOMPARE(help_->label("lblZnalezione"), QString());
+}
+
+void HelpSearchSuite::whileOneTypesOnlyTheLastAnswerIsSaid() {
+  const Heard heard;
+  for (const char* words : {"p", "pr", "qqq"}) searchEverywhere(words);
+  QTRY_COMPARE(heard.sentences(), QStringList{"Nie znaleziono."});
+}
+
+void HelpSearchSuite::anAnswerThatNoLongerHoldsIsNotSaid() {
+  const Heard heard;
+  QTest::keyClicks(&field("txtSzukaj"), "qqq");
+  field("txtSzukaj").clear();
+  QTest::keyClicks(&field("txtSzukaj"), "je");
+  app::announce("Strona");
+  QTRY_COMPARE(heard.sentences(), QStringList{"Strona"});
 }
 
 void HelpSearchSuite::aPageWithTheWordInItsTitleComesFirst() {
