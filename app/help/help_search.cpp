@@ -13,6 +13,9 @@
 namespace odmiennik::app {
 namespace {
 
+// The field's width in letters: a long form is seen whole in a small window too.
+constexpr int kLeastLetters = 20, kMostLetters = 36;
+
 // The next hit in the direction, seen from the selection; the search begins anew at the end.
 std::optional<TextHit> nextHit(const std::vector<TextHit>& hits, const QTextCursor& from,
                                bool isBackward) {
@@ -52,7 +55,9 @@ HelpSearch::HelpSearch(QTextBrowser& page, QWidget* parent)
 void HelpSearch::arrange() {
   auto* caption = new QLabel(QStringLiteral("&Szukaj na stronie:"));
   caption->setBuddy(field_);
-  field_->setMaximumWidth(220);
+  const int letter = field_->fontMetrics().averageCharWidth();
+  field_->setMinimumWidth(kLeastLetters * letter);
+  field_->setMaximumWidth(kMostLetters * letter);
   answer_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);

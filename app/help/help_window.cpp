@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -22,6 +23,12 @@ namespace {
 
 constexpr QSize kDesignedSize(940, 660);
 constexpr int kContentsWidth = 260;
+constexpr double kDesignedLine = 15;  // the height of a line of the window's font
+
+// How much larger than designed the letters are; smaller ones leave the window as it is.
+double enlargement(const QWidget& window) {
+  return std::max(1.0, window.fontMetrics().lineSpacing() / kDesignedLine);
+}
 
 QPushButton* button(QWidget* parent, const char* name, const char* caption) {
   auto* made = new QPushButton(QString::fromUtf8(caption), parent);
@@ -43,7 +50,7 @@ HelpWindow::HelpWindow(HelpBook& book, UserStore& store, QWidget* parent)
   connectControls();
   connectKeys();
   connectZoom();
-  resize(kDesignedSize.boundedTo(availableSize(*this) * 9 / 10));
+  resize((kDesignedSize * enlargement(*this)).boundedTo(availableSize(*this) * 9 / 10));
 }
 
 // In the order of the Tab key.
@@ -74,7 +81,8 @@ void HelpWindow::arrange() {
   halves->addWidget(panels_);
   halves->addWidget(right);
   halves->setStretchFactor(1, 1);
-  halves->setSizes({kContentsWidth, kDesignedSize.width() - kContentsWidth});
+  const auto enlarged = [this](int width) { return static_cast<int>(width * enlargement(*this)); };
+  halves->setSizes({enlarged(kContentsWidth), enlarged(kDesignedSize.width() - kContentsWidth)});
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(8, 8, 8, 8);
   all->addLayout(row);

@@ -63,6 +63,7 @@ class WholeWindowsSuite : public QObject {
   void theOneThatAMenuItemOpens();
   void theListWithItsLongestHint();
   void theColourChooser();
+  void aWholeFormCanBeSoughtInTheHelp();
 };
 
 void WholeWindowsSuite::theScreenIsSmallInItsOwnPixels() {
@@ -112,6 +113,16 @@ void WholeWindowsSuite::theColourChooser() {
   const ModalVisitor modal([&](QDialog& window) { wrong = fault(window); });
   QCOMPARE(app::QtColourChooser().choose(program.window, Qt::red), std::nullopt);
   QCOMPARE(wrong, QString());
+}
+
+void WholeWindowsSuite::aWholeFormCanBeSoughtInTheHelp() {
+  const ProgramUnderTest program;
+  program.item("mnuPomocTematy").trigger();
+  QTRY_VERIFY(QApplication::activeWindow() != &program.window);
+  const auto& field = program.widget<QLineEdit>("txtSzukaj");
+  QVERIFY(field.width() >= field.fontMetrics().horizontalAdvance("enorgueillissions"));
+  const auto& contents = program.widget<QWidget>("tabPomoc");
+  QVERIFY(contents.width() >= contents.fontMetrics().horizontalAdvance("Czasowniki posiłkowe"));
 }
 
 std::unique_ptr<QObject> wholeWindowsSuite() { return std::make_unique<WholeWindowsSuite>(); }
