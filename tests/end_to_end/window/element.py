@@ -58,6 +58,14 @@ class Element:
         extents = self._accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         return extents.x, extents.y, extents.width, extents.height
 
+    def shows_its_whole_text(self):
+        """Whether its last letter stands inside it, where its first one does not leave it either."""
+        text = self._accessible.queryText()
+        left, _, width, _ = self.bounds
+        first, last = (text.getCharacterExtents(place, pyatspi.DESKTOP_COORDS)
+                       for place in (0, text.characterCount - 1))
+        return left <= first[0] and last[0] + last[2] <= left + width
+
     def has(self, state):
         """Whether a state is set: has("checked"), has("read only"), has("focused")."""
         wanted = getattr(pyatspi, "STATE_" + state.upper().replace(" ", "_"))

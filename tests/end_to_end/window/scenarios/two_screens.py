@@ -61,15 +61,39 @@ def back_on_the_first_screen_it_is_whole_too(program):
     wait_equal(lambda: screens.cut_parts(program.dialog(caption)), [], "parts that are cut")
 
 
-def _check_it_grows(program, menu, item, caption):
-    """Opens a window on the left screen and moves it to the right one: twice the pixels are seen."""
+def _clipped_forms(program):
+    """The boxes of which a letter is not seen."""
+    boxes = (part for part in program.main_window().descendants() if part.role == "text")
+    return [box.name for box in boxes if box.text and not box.shows_its_whole_text()]
+
+
+def the_forms_are_fitted_anew_there_and_back(program):
+    _start(program)
+    caption = program.main_window().name
+    wait_equal(lambda: _clipped_forms(program), [], "forms that are cut at first")
+    _move(caption, WIDTH + 10, 50)
+    wait_for(lambda: _size(caption)[0] > 2 * 598, "the window to grow")
+    wait_equal(lambda: _clipped_forms(program), [], "forms that are cut on the right screen")
+    _move(caption, 20, 20)
+    wait_for(lambda: screens.frames()[caption][2] <= WIDTH, "the window on the left screen")
+    wait_equal(lambda: _clipped_forms(program), [], "forms that are cut on the left screen")
+
+
+def _check_it_grows(program, menu, item, caption, least=1.8):
+    """Opens a window on the left screen and moves it to the right one: up to twice the pixels are
+    seen, and nothing in it is cut, there and back.
+    """
     program.menu_item(menu, item).press()
     window = program.dialog(caption)
     wait_for(window.is_active, f"{caption!r} in front")
     width = _size(caption)[0]
-    _move(caption, WIDTH + 300, 50)
-    wait_for(lambda: _size(caption)[0] > 1.8 * width, f"{caption!r} to grow from {width} pixels")
+    _move(caption, WIDTH + 20, 50)
+    wait_for(lambda: _size(caption)[0] > least * width, f"{caption!r} to grow from {width} pixels")
     _await_right(caption)
+    wait_equal(lambda: screens.cut_parts(window), [], f"parts of {caption!r} that are cut")
+    _move(caption, 20, 20)
+    wait_for(lambda: screens.frames()[caption][2] <= WIDTH, f"{caption!r} on the left screen")
+    wait_equal(lambda: screens.cut_parts(window), [], f"parts of {caption!r} that are cut again")
     keyboard.keys("Escape")
     window.await_end()
 
@@ -92,3 +116,13 @@ def a_message_grows_with_its_letters(program):
 def the_printers_grow_with_their_letters(program):
     _start(program)
     _check_it_grows(program, "Plik", "Ustawienia drukarki", "Page Setup")
+
+
+def the_tip_grows_with_its_letters(program):
+    _start(program)
+    _check_it_grows(program, "Pomoc", "Jak odmienić czasownik?", "Porada dnia")
+
+
+def the_help_grows_as_far_as_the_screen_lets_it(program):
+    _start(program)
+    _check_it_grows(program, "Pomoc", "Tematy pomocy", "Odmiennik – pomoc", least=1.2)
