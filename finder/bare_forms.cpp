@@ -15,18 +15,6 @@ namespace slot = engine::slot;
 
 constexpr std::string_view kParted = ";/,";
 
-struct Marker {
-  std::string_view text;
-  std::array<std::string_view, kAgreedCount> ends;
-  std::size_t count;
-};
-// What the engine writes behind a participle that agrees, and what it stands for.
-constexpr Marker kMarkers[] = {{"(e)(s)", {"", "e", "s", "es"}, 4},
-                               {"(e, es)", {"", "e", "es"}, 3},
-                               {"(e)s", {"s", "es"}, 2},
-                               {"(es)", {"", "es"}, 2},
-                               {"(e)", {"", "e"}, 2}};
-
 // Calls `take` with each part of `text` between separators, without blanks around it.
 template <typename Take>
 void forEachPart(std::string_view text, std::string_view separators, Take take) {
@@ -44,26 +32,6 @@ bool isForm(std::string_view text) {
 }
 
 }  // namespace
-
-Expanded expanded(std::string_view marked) {
-  Expanded result;
-  if (marked.find('/') != std::string_view::npos) {
-    forEachPart(marked, "/", [&](std::string_view part) {
-      if (result.count < result.texts.size()) result.texts[result.count++] = part;
-    });
-    return result;
-  }
-  for (const Marker& marker : kMarkers) {
-    if (!marked.ends_with(marker.text)) continue;
-    const std::string_view bare = engine::less(marked, marker.text.size());
-    for (std::size_t i = 0; i < marker.count; ++i)
-      result.texts[i].assign(bare).append(marker.ends[i]);
-    result.count = marker.count;
-    return result;
-  }
-  result.texts[result.count++] = marked;
-  return result;
-}
 
 void BareForms::read(const engine::Conjugation& conjugation) {
   forms_.clear();
@@ -100,19 +68,18 @@ void BareForms::readParticiple(std::string_view text, bool isSystemAgreement) {
     if (part.ends_with("(e)")) part = engine::less(part, 3);
     if (!isForm(part) || part == feminine) return;
     addAgreed(part, isSystemAgreement);
-    if (feminine.empty()) feminine = expanded(engine::agreed(part).one).texts[1];
+    if (feminine.empty()) feminine = engine::participleForms(part).feminine;
   });
 }
 
 // deliberate: the system's own marker behind être is taken at its word as well, "mis(e)s" as
 // "miss": what a box shows is found.
 void BareForms::addAgreed(std::string_view masculine, bool isSystemAgreement) {
-  const engine::AgreedParticiple participle = engine::agreed(masculine);
-  const Expanded one = expanded(participle.one), several = expanded(participle.several);
-  add(one.texts[0], placeOfParticiple(Agreed::masculine));
-  add(one.texts[1], placeOfParticiple(Agreed::feminine));
-  add(several.texts[0], placeOfParticiple(Agreed::masculines));
-  add(several.texts[1], placeOfParticiple(Agreed::feminines));
+  const engine::ParticipleForms participle = engine::participleForms(masculine);
+  add(participle.masculine, placeOfParticiple(Agreed::masculine));
+  add(participle.feminine, placeOfParticiple(Agreed::feminine));
+  add(participle.masculines, placeOfParticiple(Agreed::masculines));
+  add(participle.feminines, placeOfParticiple(Agreed::feminines));
   if (!isSystemAgreement) return;
   const std::string bare(masculine);
   add(bare + "e", placeOfParticiple(Agreed::feminine));

@@ -2,7 +2,6 @@
 // The single words that a conjugation holds, each with its place.
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -37,13 +36,5 @@ class BareForms {
   std::vector<BareForm> forms_;
   CompoundSlots compound_ = 0;
 };
-
-// The texts that a marked one stands for, one behind the other: "allé(e)s" -> "allés", "allées";
-// "dû/due" -> "dû", "due"; "(e)(s)" and "(e, es)" four. At most four.
-struct Expanded {
-  std::array<std::string, kAgreedCount> texts;
-  std::size_t count = 0;
-};
-[[nodiscard]] Expanded expanded(std::string_view marked);
 
 }  // namespace odmiennik::finder

@@ -57,6 +57,12 @@ TEST_F(finding_a_phrase, knows_reflexive_verbs) {
   EXPECT_EQ(find("s'étant lavé"), Lines{"s'étant lavé | se laver | Participe passé composé"});
 }
 
+TEST_F(finding_a_phrase, knows_a_feminine_that_is_more_than_an_e) {
+  EXPECT_EQ(find("dissoutes"), Lines{"dissoutes | dissoudre | Participe passé fp"});
+  EXPECT_EQ(find("elle s'est dissoute"),
+            Lines{"il s'est dissoute | se dissoudre | Indicatif passé composé f"});
+}
+
 TEST_F(finding_a_phrase, knows_en_and_y_that_belong_to_the_verb_in_the_norm) {
   EXPECT_EQ(find("va-t'en"), Lines{"va-t'en | s'en aller | Impératif présent norm"});
   EXPECT_EQ(find("je m’en vais"), Lines{"je m'en vais | s'en aller | Indicatif présent norm"});

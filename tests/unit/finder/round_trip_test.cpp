@@ -39,6 +39,35 @@ Lines wordsOf(int slot, std::string_view text) {
   return words;
 }
 
+// What stands behind a participle that agrees, and what it stands for.
+struct Marker {
+  std::string_view text;
+  std::vector<std::string> ends;
+};
+const std::vector<Marker> kMarkers{{"(e)(s)", {"", "e", "s", "es"}},
+                                   {"(e, es)", {"", "e", "es"}},
+                                   {"(e)s", {"s", "es"}},
+                                   {"(es)", {"", "es"}},
+                                   {"(e)", {"", "e"}},
+                                   {"(s)", {"", "s"}},
+                                   {"", {""}}};
+
+// "allé(e)s" -> "allés", "allées"; "dû/due(s)" -> "dû", "due", "dues"; of "dissous/-te" the first.
+Lines participlesOf(std::string_view marked) {
+  Lines participles;
+  while (!marked.empty()) {
+    const auto bar = std::min(marked.find('/'), marked.size());
+    const std::string_view part = marked.substr(0, bar);
+    const auto marker =
+        std::ranges::find_if(kMarkers, [&](const Marker& one) { return part.ends_with(one.text); });
+    for (const std::string& end : marker->ends)
+      if (!part.starts_with('-'))
+        participles.push_back(std::string(part.substr(0, part.size() - marker->text.size())) + end);
+    marked.remove_prefix(std::min(bar + 1, marked.size()));
+  }
+  return participles;
+}
+
 // The phrases that a compound slot stands for, with the pronouns that the window shows.
 Lines phrasesOf(int slot, const engine::Display& shown) {
   std::string before;
@@ -48,10 +77,9 @@ Lines phrasesOf(int slot, const engine::Display& shown) {
   if (before.find(engine::kShownMissing) != std::string::npos) return {};
   const bool isWide = before.ends_with("(e, es)");
   const auto blank = before.find_last_of(' ', before.size() - (isWide ? 7 : 1));
-  const finder::Expanded participles = finder::expanded(std::string_view(before).substr(blank + 1));
   Lines phrases;
-  for (std::size_t i = 0; i < participles.count; ++i)
-    phrases.push_back(before.substr(0, blank + 1) + participles.texts[i]);
+  for (const std::string& participle : participlesOf(std::string_view(before).substr(blank + 1)))
+    phrases.push_back(before.substr(0, blank + 1) + participle);
   return phrases;
 }
 
