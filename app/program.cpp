@@ -32,6 +32,8 @@ Program::Program(const Environment& given)
       editing_(window_, pointer_, userVerbs_, given.messages, [this] { return printing_.print(); }),
       typing_(window_, given.store, given.messages),
       listMenu_(window_, prefix_, userVerbs_, editing_),
+      findMenu_(window_, userVerbs_, editing_,
+                [this](QLineEdit& field) { typing_.alsoServe(field); }),
       demonstration_(
           window_, editing_, [this](bool isOn) { typing_.suspendCompletion(isOn); }, given.pointer),
       help_(window_, given.store, given.messages,

@@ -8,6 +8,7 @@
 #include "app/common/user_store.h"
 #include "app/demonstration/demonstration.h"
 #include "app/editing/editing.h"
+#include "app/finding/find_menu.h"
 #include "app/help/help_commands.h"
 #include "app/hints/tooltips.h"
 #include "app/lifetime/closing.h"
@@ -88,6 +89,7 @@ class Program {
   Editing editing_;
   Typing typing_;
   ListMenu listMenu_;
+  FindMenu findMenu_;
   DemonstrationRunner demonstration_;
   HelpCommands help_;
   Tooltips tooltips_;

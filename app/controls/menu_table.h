@@ -49,6 +49,7 @@ inline constexpr MenuRow kMainMenu[] = {
 
     {MenuKind::menu, "mnuCzasownik", "&Czasownik", MenuState::ready},
     {MenuKind::item, "mnuEdycjaLista", "&Lista", MenuState::ready, "Ctrl+L"},
+    {MenuKind::item, "mnuCzasownikZnajdź", "Znajdź &formę…", MenuState::ready, "Ctrl+F"},
     {MenuKind::separator, "mnuEdycjaLinia4", ""},
     {MenuKind::item, "mnuEdycjaOdmień", "&Odmień", MenuState::ready, "Ctrl+O"},
     {MenuKind::item, "mnuEdycjaNowyCzasownik", "&Nowy", MenuState::ready, "Ctrl+N"},

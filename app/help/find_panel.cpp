@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "app/common/announcement.h"
-#include "app/help/list_keys.h"
+#include "app/common/list_keys.h"
 
 namespace odmiennik::app {
 namespace {

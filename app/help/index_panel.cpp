@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The index.
+#include "app/common/list_keys.h"
 #include "app/help/index_panel.h"
 
 #include <QVBoxLayout>
 
 #include "app/help/folded_text.h"
-#include "app/help/list_keys.h"
 
 namespace odmiennik::app {
 namespace {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include "app/main_window/form_boxes.h"
@@ -24,18 +25,26 @@ class CurrentBox final : public QObject {
   void insert(const QString& text);
 
   // Gives the focus back to the box.
-  void focus() const { box().setFocus(Qt::OtherFocusReason); }
+  void focus() const;
 
-  [[nodiscard]] bool isReadOnly() const { return box().isReadOnly(); }
+  [[nodiscard]] bool isReadOnly() const { return field_ == nullptr && box().isReadOnly(); }
+
+  // From now on `field` of another window is what is typed into, once it has had the focus and
+  // until the user goes to a box. That the main window comes forward, as it does when one of its
+  // buttons is clicked, is no such thing.
+  void alsoServe(QLineEdit& field);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   [[nodiscard]] FormBox& box() const { return boxes_[index_]; }
+  bool noteField(QObject* watched, QEvent* event);
   void remember();
   void restoreSelection() const;
 
   const FormBoxes& boxes_;
+  QPointer<QLineEdit> served_;  // the field of another window
+  QPointer<QLineEdit> field_;   // the same, while it is what is typed into
   int index_ = engine::slot::kInfinitive;
   // What was selected when the focus left the box, which unselects it.
   QString text_;

@@ -25,6 +25,9 @@ class Typing {
   // Nothing is completed while the program itself types.
   void suspendCompletion(bool isSuspended) { completion_.suspend(isSuspended); }
 
+  // The letter buttons type into a field of another window too, when the user has come from there.
+  void alsoServe(QLineEdit& field) { current_.alsoServe(field); }
+
   // The box that last had the focus.
   [[nodiscard]] const CurrentBox& current() const { return current_; }
 

@@ -31,6 +31,7 @@ int main(int argumentCount, char** arguments) {
       {"elision", elisionSuite},
       {"entry_box", entryBoxSuite},
       {"entry_keys", entryKeysSuite},
+      {"finding", findingSuite},
       {"form_letters", formLettersSuite},
       {"help", helpSuite},
       {"help_faults", helpFaultsSuite},

@@ -26,6 +26,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
+[[nodiscard]] std::unique_ptr<QObject> findingSuite();
 [[nodiscard]] std::unique_ptr<QObject> formLettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpFaultsSuite();

@@ -65,6 +65,7 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
                                             "mnuEdycjaZaznaczWszystko &Zaznacz wszystko"};
   QTest::newRow("mnuCzasownik") << "&Czasownik"
                                 << QStringList{"mnuEdycjaLista &Lista",
+                                               "mnuCzasownikZnajdź Znajdź &formę…",
                                                "mnuEdycjaLinia4 -",
                                                "mnuEdycjaOdmień &Odmień",
                                                "mnuEdycjaNowyCzasownik &Nowy",
@@ -107,7 +108,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 37);
+  QCOMPARE(items, 38);
   QCOMPARE(names.size(), items);
 }
 
@@ -129,6 +130,8 @@ void MenuSuite::theMenuTellsTheKeysOfItsItems_data() {
   QTest::addColumn<QString>("key");
   QTest::newRow("list") << "mnuEdycjaLista"
                         << "Ctrl+L";
+  QTest::newRow("find") << "mnuCzasownikZnajdź"
+                        << "Ctrl+F";
   QTest::newRow("help") << "mnuPomocTematy"
                         << "F1";
   QTest::newRow("undo") << "mnuEdycjaCofnij"

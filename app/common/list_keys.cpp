@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys of a field for its list.
-#include "app/help/list_keys.h"
+#include "app/common/list_keys.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
