@@ -47,7 +47,9 @@ std::vector<std::string> someForms(dictionary::UserVerbsFile& userVerbs) {
   for (int verb = 0; verb < dictionary::verbCount(); verb += 10) {
     static_cast<void>(driver.conjugate(conjugation, dictionary::verbAt(verb)));
     bare.read(conjugation);
-    for (const BareForm& form : bare.all()) forms.push_back(form.text);
+    constexpr Places kAlwaysFound = bitOf(kParticiplePlace + 1) - 1;  // not every verb agrees
+    for (const BareForm& form : bare.all())
+      if ((form.places & kAlwaysFound) != 0) forms.push_back(form.text);
   }
   std::vector<std::string> leaping;
   constexpr std::size_t kLeap = 7919;  // a prime
