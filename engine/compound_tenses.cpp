@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <string>
 
 #include "engine/norm.h"
@@ -89,10 +90,26 @@ Tails tailsOf(std::string& tail, std::string_view base, std::uint8_t auxiliary,
   return tailsOfSystem(tail, bare, agreement == Agreement::none ? kAvoir : auxiliary);
 }
 
-std::string_view auxiliaryFormOf(std::uint8_t auxiliary, int index, bool isNorm) {
-  if (!isNorm) return auxiliaryForm(auxiliary, index);
-  return normTextOf((auxiliary + 1) * text_id::kAuxiliary + index);
-}
+// The forms of one auxiliary in the norm. Which of them it changes is asked once: at every slot it
+// would take a fifth of the answer.
+class AuxiliaryFormsOfNorm {
+ public:
+  explicit AuxiliaryFormsOfNorm(std::uint8_t auxiliary)
+      : auxiliary_(auxiliary), first_((auxiliary + 1) * text_id::kAuxiliary) {
+    for (const NormText& text : normTextsBetween(first_, first_ + text_id::kAuxiliary))
+      isOfNorm_.set(static_cast<std::size_t>(text.identifier - first_));
+  }
+
+  std::string_view operator[](int index) const {
+    if (isOfNorm_[static_cast<std::size_t>(index)]) return normTextOf(first_ + index);
+    return auxiliaryForm(auxiliary_, index);
+  }
+
+ private:
+  std::uint8_t auxiliary_;
+  int first_;
+  std::bitset<64> isOfNorm_;  // of 44 forms
+};
 
 }  // namespace
 
@@ -105,11 +122,12 @@ void buildCompoundTenses(FormTable& forms, std::uint8_t auxiliary, CompoundOptio
   const Tails tails = tailsOf(tail, base, auxiliary, options.agreement);
   const bool isNorm = options.agreement != Agreement::system;
   const bool placeholdersOnly = options.placeholdersOnly || forms.isPlaceholder(slot::kPerfect);
+  const AuxiliaryFormsOfNorm ofNorm(auxiliary);
   for (const CompoundSlot& row : kCompoundSlots) {
     std::string& form = forms[row.slot];
     if (options.keepsEmptySlots && form.empty()) continue;
     if (placeholdersOnly && form != kPlaceholder) continue;
-    setTo(form, auxiliaryFormOf(auxiliary, row.auxiliaryIndex, isNorm),
+    setTo(form, isNorm ? ofNorm[row.auxiliaryIndex] : auxiliaryForm(auxiliary, row.auxiliaryIndex),
           tails[isNorm ? row.numberInNorm : row.number]);
   }
 }

@@ -60,6 +60,13 @@ std::string_view normTextOf(int identifier) {
   return isOwn ? entry->text : textOf(identifier);
 }
 
+std::span<const NormText> normTextsBetween(int first, int last) {
+  const auto from = [](int identifier) {
+    return std::ranges::lower_bound(data::kNormTexts, identifier, {}, &NormText::identifier);
+  };
+  return {from(first), from(last)};
+}
+
 bool isUsuallyWithEtre(std::string_view infinitive) { return has(data::kUsualEtre, infinitive); }
 
 bool isParticipleInvariable(std::string_view infinitive) {

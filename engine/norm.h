@@ -2,16 +2,21 @@
 // Today's norm where the program's own forms depart from it: what is known beside the rules.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "engine/flags.h"
+#include "engine/norm_data.h"
 
 namespace odmiennik::engine {
 
 // The text of `identifier` as the norm has it: normTextOf(2041) -> "auraient"; most entries are the
 // string table's own.
 [[nodiscard]] std::string_view normTextOf(int identifier);
+
+// The entries of the norm's own from `first` to before `last`, by identifier.
+[[nodiscard]] std::span<const NormText> normTextsBetween(int first, int last);
 
 // Of a verb that has both auxiliaries: whether its usual one is être ("tomber").
 [[nodiscard]] bool isUsuallyWithEtre(std::string_view infinitive);

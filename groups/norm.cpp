@@ -13,9 +13,13 @@ using data::kNormModels;
 using data::kNormRows;
 
 // The endings are those of rules; a built-in verb may end in the same letters by chance.
+// Most rows are passed over by the first letter of their ending, which is a third of the work.
 bool claims(const NormRow& row, std::string_view infinitive, bool isBuiltin) {
-  if (row.isWholeVerb) return infinitive == row.ending;
-  return !isBuiltin && infinitive.ends_with(row.ending);
+  const std::string_view ending = row.ending;
+  if (infinitive.size() < ending.size()) return false;
+  const std::string_view end = infinitive.substr(infinitive.size() - ending.size());
+  if (end.front() != ending.front() || (!row.isWholeVerb && isBuiltin)) return false;
+  return end == ending && (!row.isWholeVerb || infinitive.size() == ending.size());
 }
 
 }  // namespace
