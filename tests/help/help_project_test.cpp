@@ -129,7 +129,7 @@ TEST(compiled_file, context_2_names_the_place_of_its_page_among_the_strings) {
 }
 
 TEST(compiled_file, strings_without_the_page_of_the_context_are_refused) {
-  const std::string strings = std::string("\0/root/", 7) + std::string(kContextPage) + '\0';
+  const std::string strings = std::string("\0/home/", 7) + std::string(kContextPage) + '\0';
   EXPECT_THROW(static_cast<void>(contextRecord(strings)), std::runtime_error);
 }
 
