@@ -2,6 +2,7 @@
 """The main job on a Wayland desktop, by keyboard; what the compositor decides is accepted."""
 
 import keyboard
+from element import gone
 from picture import Picture, settled
 from program import ENTRY
 from scenarios import about, editing, list_work, tips
@@ -57,9 +58,17 @@ def _demonstrate(program, keys):
     tip.await_end()
 
 
+def _roles_of_windows(program):
+    """Nothing while one of them closes between being found and being asked."""
+    try:
+        return [window.role for window in program.windows()]
+    except gone():
+        return None
+
+
 def _check_it_rests(program, verb):
     """The demonstration is over: the next verb can be typed, and nothing was complained of."""
-    wait_equal(lambda: [window.role for window in program.windows()], ["frame"], "the windows")
+    wait_equal(lambda: _roles_of_windows(program), ["frame"], "the windows")
     program.box(ENTRY).await_text(verb)
     wait_for(lambda: program.main_window().has("active"), "the main window in front")
     assert program.told() == ""
