@@ -17,7 +17,7 @@ Answerer::Answerer(engine::UserVerbs& userVerbs, MessageLog& messages, AnswerOpt
   conjugation_.variety = options.variety;
 }
 
-Answer Answerer::answer(const Question& question) {
+formats::Answer Answerer::answer(const Question& question) {
   beginAsJustStarted();
   records_.give(question.record);
   Outcome outcome = Outcome::refused;

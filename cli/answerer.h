@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 #include "cli/message_log.h"
 #include "cli/question.h"
@@ -13,18 +12,10 @@
 #include "dictionary/verb_index.h"
 #include "engine/driver.h"
 #include "engine/utf8.h"
+#include "formats/answer.h"
 #include "groups/rules.h"
 
 namespace odmiennik::cli {
-
-// What is answered; everything in it is valid until the next question.
-struct Answer {
-  Utf8View typed;
-  const engine::Conjugation& conjugation;
-  const std::vector<Utf8Text>& messages;
-  bool isPronominal;
-  bool isRefused;  // no conjugation came of it
-};
 
 // The general index, or for one question the record that came with it.
 class RecordSource final : public engine::VerbIndex {
@@ -49,8 +40,8 @@ class Answerer {
   Answerer(engine::UserVerbs& userVerbs, MessageLog& messages, AnswerOptions options);
 
   // A question with a fault is answered by an empty table, displayed; "resetuj" by its message and
-  // a table that is not.
-  [[nodiscard]] Answer answer(const Question& question);
+  // a table that is not. The answer is valid until the next question.
+  [[nodiscard]] formats::Answer answer(const Question& question);
 
  private:
   void beginAsJustStarted();

@@ -56,7 +56,7 @@ void ConjugationRun::answerIndex() {
 void ConjugationRun::answer(const InputLine& line, Utf8View lineName) {
   const Question question = questionOf(line);
   Utf8Text& out = console_.out().text();
-  const Answer answered =
+  const formats::Answer answered =
       departures_ ? departures_->append(out, question) : answerer_.answer(question);
   if (!departures_) format_->append(out, answered);
   console_.out().flushIfLarge();

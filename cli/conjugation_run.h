@@ -8,11 +8,11 @@
 #include "cli/answerer.h"
 #include "cli/console.h"
 #include "cli/departures.h"
-#include "cli/format.h"
 #include "cli/options.h"
 #include "cli/program_files.h"
 #include "dictionary/user_verbs.h"
 #include "engine/utf8.h"
+#include "formats/format.h"
 
 namespace odmiennik::cli {
 
@@ -34,7 +34,7 @@ class ConjugationRun {
   MessageLog messages_;
   dictionary::UserVerbsFile userVerbs_;
   Answerer answerer_;
-  std::unique_ptr<Format> format_;
+  std::unique_ptr<formats::Format> format_;
   std::optional<Departures> departures_;  // listed in the place of the format
   bool hasRefused_ = false;
   bool hasInputTrouble_ = false;

@@ -2,8 +2,8 @@
 // Comparison of the two varieties.
 #include "cli/departures.h"
 
-#include "cli/format.h"
 #include "engine/departure.h"
+#include "formats/printable.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -11,13 +11,13 @@ namespace {
 void appendLine(Utf8Text& out, std::string_view infinitive, int slot, std::string_view system,
                 std::string_view norm) {
   const engine::Tense& tense = engine::tenseOf(slot);
-  appendPrintable(out, infinitive);
+  formats::appendPrintable(out, infinitive);
   out.append("\t").append(decimal(slot));
   for (const Utf8View field : {tense.mood, tense.name, engine::personOf(slot)})
     out.append("\t").append(field);
   for (const std::string_view phrase : {system, norm}) {
     out.push_back('\t');
-    appendPrintable(out, phrase);
+    formats::appendPrintable(out, phrase);
   }
   out.push_back('\n');
 }
@@ -32,9 +32,9 @@ void Departures::begin(Utf8Text& out) {
   out.append("infinitive\tslot\tmood\ttense\tperson\tform\tnorm\n");
 }
 
-Answer Departures::append(Utf8Text& out, const Question& question) {
-  const Answer inNorm = norm_.answer(question);
-  const Answer answer = system_.answer(question);
+formats::Answer Departures::append(Utf8Text& out, const Question& question) {
+  const formats::Answer inNorm = norm_.answer(question);
+  const formats::Answer answer = system_.answer(question);
   if (answer.isRefused) return answer;
   const engine::Display& norm = inNorm.conjugation.shown;
   const engine::Display& system = answer.conjugation.shown;

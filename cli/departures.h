@@ -19,7 +19,7 @@ class Departures {
 
   // Appends a line for each form that departs (infinitive, slot, mood, tense, person, the system's
   // phrase, the norm's) and returns the system's answer: for lire "lire\t2\t…\til lir\til lit".
-  [[nodiscard]] Answer append(Utf8Text& out, const Question& question);
+  [[nodiscard]] formats::Answer append(Utf8Text& out, const Question& question);
 
  private:
   Answerer norm_;

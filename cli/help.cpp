@@ -3,7 +3,7 @@
 #include "cli/help.h"
 
 #include "cli/options.h"
-#include "cli/page.h"
+#include "formats/page.h"
 
 namespace odmiennik::cli {
 
@@ -22,7 +22,7 @@ bool appendHelp(Utf8Text& out, Utf8View) {
       "Odmienia francuskie czasowniki. Bez argumentów czyta je ze standardowego\n"
       "wejścia, po jednym w wierszu; po znaku tabulacji może stać rekord danych\n"
       "o czasowniku, który zastępuje dane ze spisu.\n\n");
-  Page page(out, false);
+  formats::Page page(out, false);
   for (const OptionRow& row : optionRows()) {
     page.moveTo(2);
     page.addUtf8(row.name);

@@ -17,8 +17,8 @@ namespace odmiennik::cli {
 namespace {
 
 constexpr std::size_t kFormatNamesSize = [] {
-  std::size_t size = std::size(kFormats) - 1;
-  for (const FormatRow& row : kFormats) size += row.name.size();
+  std::size_t size = std::size(formats::kFormats) - 1;
+  for (const formats::FormatRow& row : formats::kFormats) size += row.name.size();
   return size;
 }();
 
@@ -26,7 +26,7 @@ constexpr std::size_t kFormatNamesSize = [] {
 constexpr auto kFormatNames = [] {
   std::array<char, kFormatNamesSize> names{};
   auto end = names.begin();
-  for (const FormatRow& row : kFormats) {
+  for (const formats::FormatRow& row : formats::kFormats) {
     if (end != names.begin()) *end++ = '|';
     end = std::copy(row.name.begin(), row.name.end(), end);
   }
@@ -34,8 +34,8 @@ constexpr auto kFormatNames = [] {
 }();
 
 bool takeFormat(Options& options, Utf8View value) {
-  const auto row = std::ranges::find(kFormats, value, &FormatRow::name);
-  if (row == std::end(kFormats)) return false;
+  const auto row = std::ranges::find(formats::kFormats, value, &formats::FormatRow::name);
+  if (row == std::end(formats::kFormats)) return false;
   options.format = row;
   return true;
 }
@@ -173,7 +173,7 @@ Utf8Text faultOfChoice(const Options& options) {
       return "opcja " + quoted(name) + " nie łączy się z " + quoted(before) + ".";
     if (isGiven) before = name;
   }
-  const bool isShaped = options.format != &kFormats[0] || options.auxiliary;
+  const bool isShaped = options.format != &formats::kFormats[0] || options.auxiliary;
   if (options.listsDepartures && isShaped)
     return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
   return options.isFinding ? faultOfFinding(options) : Utf8Text();

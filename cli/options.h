@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
-#include "cli/format.h"
 #include "engine/utf8.h"
+#include "formats/format.h"
 
 namespace odmiennik::cli {
 
@@ -22,7 +22,7 @@ enum class Colours { automatic, always, never };
 struct Options {
   Query query = nullptr;  // excludes infinitives
   Utf8View queryText;     // a letter, a prefix, an infinitive or nothing
-  const FormatRow* format = &kFormats[0];
+  const formats::FormatRow* format = &formats::kFormats[0];
   Colours colours = Colours::automatic;
   bool isEditing = false;
   bool isInNorm = false;         // today's norm in the place of the system's forms

@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
-#include "cli/format.h"
 #include "dictionary/printable.h"
 #include "engine/windows1252.h"
+#include "formats/printable.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -89,7 +89,7 @@ Question questionOf(const InputLine& line) {
 Utf8Text nameOf(std::string_view infinitive) {
   constexpr std::size_t kLongestName = 60;
   Utf8Text name = "„";
-  appendPrintable(name, infinitive.substr(0, kLongestName));
+  formats::appendPrintable(name, infinitive.substr(0, kLongestName));
   return name + (infinitive.size() > kLongestName ? "…”" : "”");
 }
 

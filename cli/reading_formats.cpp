@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
-#include "cli/format.h"
-#include "cli/json_text.h"
-#include "cli/page.h"
 #include "dictionary/printable.h"
 #include "engine/slots.h"
+#include "formats/json_text.h"
+#include "formats/page.h"
+#include "formats/printable.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -37,13 +37,13 @@ Utf8View agreementOf(const Reading& reading) {
 // The columns of the table.
 constexpr std::size_t kPhrase = 2, kInfinitive = 30, kTense = 48, kGap = 2;
 
-void beginColumn(Page& page, std::size_t column) {
+void beginColumn(formats::Page& page, std::size_t column) {
   page.moveTo(std::max(column, page.column() + kGap));
 }
 
 void appendText(Utf8Text& out, Utf8View typed, const Readings& readings) {
   if (readings.empty()) return;
-  Page page(out, false);
+  formats::Page page(out, false);
   page.addUtf8(dictionary::printable(typed));
   page.endLine();
   Match match = Match::exact;
@@ -69,9 +69,9 @@ void appendTsv(Utf8Text& out, Utf8View typed, const Readings& readings) {
     const engine::Tense& tense = engine::tenseOf(reading.slot);
     dictionary::appendPrintable(out, typed);
     out.push_back('\t');
-    appendPrintable(out, finder::phraseOf(reading));
+    formats::appendPrintable(out, finder::phraseOf(reading));
     out.push_back('\t');
-    appendPrintable(out, finder::infinitiveOf(reading));
+    formats::appendPrintable(out, finder::infinitiveOf(reading));
     out.append("\t").append(decimal(reading.slot));
     for (const Utf8View field : {tense.mood, tense.name, engine::personOf(reading.slot),
                                  agreementOf(reading), varietyOf(reading), nameOf(reading.match)})
@@ -85,11 +85,11 @@ void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).appe
 void appendReading(Utf8Text& out, const Reading& reading) {
   const engine::Tense& tense = engine::tenseOf(reading.slot);
   out.append("{\"phrase\":");
-  appendJsonFrench(out, finder::phraseOf(reading));
+  formats::appendJsonFrench(out, finder::phraseOf(reading));
   appendKey(out, "form");
-  appendJsonFrench(out, reading.form);
+  formats::appendJsonFrench(out, reading.form);
   appendKey(out, "infinitive");
-  appendJsonFrench(out, finder::infinitiveOf(reading));
+  formats::appendJsonFrench(out, finder::infinitiveOf(reading));
   appendKey(out, "slot");
   out.append(decimal(reading.slot));
   const std::pair<Utf8View, Utf8View> texts[] = {{"mood", tense.mood},
@@ -100,7 +100,7 @@ void appendReading(Utf8Text& out, const Reading& reading) {
                                                  {"match", nameOf(reading.match)}};
   for (const auto& [key, text] : texts) {
     appendKey(out, key);
-    appendJsonUtf8(out, text);
+    formats::appendJsonUtf8(out, text);
   }
   appendKey(out, "own");
   out.append(reading.isOwn ? "true}" : "false}");
@@ -109,7 +109,7 @@ void appendReading(Utf8Text& out, const Reading& reading) {
 // One object a question, in their order.
 void appendJson(Utf8Text& out, Utf8View typed, const Readings& readings) {
   out.append("{\"typed\":");
-  appendJsonUtf8(out, typed);
+  formats::appendJsonUtf8(out, typed);
   out.append(",\"readings\":[");
   for (const Reading& reading : readings) {
     if (&reading != &readings.front()) out.push_back(',');

@@ -19,8 +19,9 @@ const std::map<std::string, Folders> kMayInclude{
     {"disk", {"engine", "disk"}},
     {"dictionary", {"engine", "groups", "disk", "dictionary", "data"}},
     {"finder", {"engine", "groups", "disk", "dictionary", "finder", "data"}},
-    {"cli", {"engine", "groups", "disk", "dictionary", "finder", "cli", "data"}},
-    {"app", {"engine", "groups", "disk", "dictionary", "finder", "app", "data"}},
+    {"formats", {"engine", "dictionary", "formats"}},
+    {"cli", {"engine", "groups", "disk", "dictionary", "finder", "formats", "cli", "data"}},
+    {"app", {"engine", "groups", "disk", "dictionary", "finder", "formats", "app", "data"}},
     {"tools", {"engine", "groups", "dictionary", "finder", "tools"}},
 };
 
@@ -36,8 +37,8 @@ const std::vector<Folders> kFloorsOfTheWindow{
     {"typing"},
 };
 
-const Folders kProjectFolders{"engine", "groups", "disk",  "dictionary", "finder", "cli",
-                              "app",    "data",   "tools", "tests",      "bench"};
+const Folders kProjectFolders{"engine", "groups", "disk", "dictionary", "finder", "formats",
+                              "cli",    "app",    "data", "tools",      "tests",  "bench"};
 
 // "file includes file", for every include that points upward.
 std::vector<std::string> upwardIncludes() {

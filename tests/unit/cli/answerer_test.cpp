@@ -25,7 +25,7 @@ const char* const kConjugatedRegularly =
 
 TEST(answerer, blanks_and_capitals_around_a_pronominal_verb_do_not_matter) {
   Asking asking;
-  const Answer answer = asking.answer("  Se Laver  ");
+  const formats::Answer answer = asking.answer("  Se Laver  ");
   EXPECT_TRUE(answer.isPronominal);
   EXPECT_EQ(answer.typed, "  Se Laver  ");
   EXPECT_EQ(answer.conjugation.information.transitive, Use::no);
@@ -47,7 +47,7 @@ TEST(answerer, messages_belong_to_one_answer_only) {
 
 TEST(answerer, a_verb_without_a_rule_is_refused_with_a_message) {
   Asking asking;
-  const Answer answer = asking.answer("x");
+  const formats::Answer answer = asking.answer("x");
   EXPECT_TRUE(answer.isRefused);
   EXPECT_EQ(answer.messages, Texts{kNotConjugable});
 }
@@ -60,7 +60,7 @@ TEST(answerer, the_empty_line_se_and_s_apostrophe_are_refused) {
 
 TEST(answerer, a_record_replaces_the_indexs_answer) {
   Asking asking;
-  const Answer answer = asking.answer("parler\t|1|2|1|1|1");
+  const formats::Answer answer = asking.answer("parler\t|1|2|1|1|1");
   EXPECT_TRUE(answer.conjugation.flags.isImpersonal);
   EXPECT_EQ(answer.conjugation.shown.boxes[2], "parle");
   EXPECT_EQ(answer.conjugation.shown.boxes[0], engine::kShownMissing);
@@ -68,7 +68,7 @@ TEST(answerer, a_record_replaces_the_indexs_answer) {
 
 TEST(answerer, an_empty_record_says_that_nothing_is_known) {
   Asking asking;
-  const Answer answer = asking.answer("parler\t");
+  const formats::Answer answer = asking.answer("parler\t");
   EXPECT_EQ(answer.messages, Texts{kConjugatedRegularly});
   EXPECT_EQ(answer.conjugation.information.group, engine::Group::unknown);
 }
@@ -83,7 +83,7 @@ TEST(answerer, nothing_of_the_verb_before_is_left) {
   Asking asking;
   // An unknown code changes nothing: what shows is the label of a program just started.
   static_cast<void>(asking.answer("se laver"));
-  const Answer answer = asking.answer("parler\t|9|9|9|9");
+  const formats::Answer answer = asking.answer("parler\t|9|9|9|9");
   EXPECT_EQ(answer.conjugation.information.transitive, Use::unknown);
   EXPECT_EQ(answer.conjugation.flags.auxiliary, engine::kAvoir);
   EXPECT_TRUE(answer.conjugation.information.isAuxiliaryFree);
@@ -92,7 +92,7 @@ TEST(answerer, nothing_of_the_verb_before_is_left) {
 TEST(answerer, a_line_with_a_fault_shows_the_empty_table) {
   Asking asking;
   static_cast<void>(asking.answer("se laver"));
-  const Answer answer = asking.answer("łapać");
+  const formats::Answer answer = asking.answer("łapać");
   EXPECT_TRUE(answer.isRefused);
   EXPECT_TRUE(answer.messages.empty());
   EXPECT_EQ(answer.conjugation.source, engine::Source::none);
@@ -108,7 +108,7 @@ TEST(answerer, a_line_with_a_fault_shows_the_empty_table) {
 TEST(answerer, resetuj_gives_its_message_and_displays_nothing) {
   Asking asking;
   static_cast<void>(asking.answer("se laver"));
-  const Answer answer = asking.answer(" Resetuj");
+  const formats::Answer answer = asking.answer(" Resetuj");
   EXPECT_TRUE(answer.isRefused);
   EXPECT_EQ(answer.messages, Texts{"Ustawienia zostaną zresetowane, a program zamknięty."});
   EXPECT_EQ(answer.conjugation.forms[engine::slot::kInfinitive], " Resetuj");
@@ -121,7 +121,7 @@ TEST(answerer, resetuj_gives_its_message_and_displays_nothing) {
 
 TEST(answerer, the_auxiliary_is_switched_even_where_the_box_is_disabled) {
   Asking asking(kWithEtre);
-  const Answer answer = asking.answer("parler");
+  const formats::Answer answer = asking.answer("parler");
   EXPECT_FALSE(answer.conjugation.information.isAuxiliaryFree);
   EXPECT_EQ(answer.conjugation.flags.auxiliary, engine::kEtre);
   EXPECT_EQ(asking.box("parler", 24), "suis parlé(e)");
@@ -147,7 +147,7 @@ TEST(answerer, while_editing_placeholders_stay_and_nothing_is_refused) {
 
 TEST(answerer, while_editing_the_click_changes_the_flag_only) {
   Asking asking({.isEditing = true, .auxiliary = engine::kEtre});
-  const Answer answer = asking.answer("parler");
+  const formats::Answer answer = asking.answer("parler");
   EXPECT_EQ(answer.conjugation.flags.auxiliary, engine::kEtre);
   EXPECT_EQ(asking.box("parler", 24), "ai parlé");
 }

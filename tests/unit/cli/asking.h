@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "cli/answerer.h"
-#include "cli/format.h"
 #include "engine/utf8.h"
 #include "engine/windows1252.h"
+#include "formats/format.h"
 
 namespace odmiennik::cli {
 
@@ -22,12 +22,12 @@ class Asking {
   explicit Asking(AnswerOptions options = {}) : answerer_(userVerbs_, messages_, options) {}
 
   // `line` in UTF-8, as it stands on standard input.
-  Answer answer(Utf8View line) {
+  formats::Answer answer(Utf8View line) {
     question_ = questionOf({.number = 1, .bytes = line});
     return answerer_.answer(question_);
   }
 
-  Utf8Text textOf(Format& format, Utf8View line) {
+  Utf8Text textOf(formats::Format& format, Utf8View line) {
     Utf8Text out;
     format.append(out, answer(line));
     return out;

@@ -8,8 +8,8 @@
 #include <regex>
 
 #include "cli/help.h"
-#include "cli/page.h"
 #include "engine/flags.h"
+#include "formats/page.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -107,7 +107,7 @@ TEST_F(options, a_task_takes_no_infinitives) {
 }
 
 TEST_F(options, every_format_of_the_table_is_known) {
-  for (const FormatRow& row : kFormats)
+  for (const formats::FormatRow& row : formats::kFormats)
     EXPECT_EQ(parse({"--format", Utf8Text(row.name)}).format, &row) << row.name;
 }
 
@@ -119,7 +119,7 @@ TEST_F(options, help_names_every_option_and_fits_the_page) {
   EXPECT_NE(help.find("--format text|tsv|json|csv|markdown|html|anki\n"), std::string::npos);
   for (std::size_t start = 0; start < help.size();) {
     const std::size_t end = help.find('\n', start);
-    EXPECT_LE(letterCount(Utf8View(help).substr(start, end - start)), 80U);
+    EXPECT_LE(formats::letterCount(Utf8View(help).substr(start, end - start)), 80U);
     start = end + 1;
   }
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A conjugation as tables.
-#include "cli/tense_tables.h"
+#include "formats/tense_tables.h"
 
 #include <algorithm>
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 const engine::Tense& tenseAt(int position) {
@@ -39,4 +39,4 @@ std::vector<TenseTable> tenseTablesOf(const engine::Display& shown) {
   return tables;
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -5,9 +5,9 @@
 
 #include <vector>
 
-#include "cli/text_layout.h"
+#include "formats/text_layout.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 struct TenseTable {
   Utf8View mood;          // where a mood begins; else empty
@@ -22,4 +22,4 @@ struct TenseTable {
 [[nodiscard]] int slotOf(int tense, int row);
 [[nodiscard]] Utf8View personOf(const TenseTable& table, int row);
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

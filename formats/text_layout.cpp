@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The arrangement of the text table.
-#include "cli/text_layout.h"
+#include "formats/text_layout.h"
 
 #include <algorithm>
 #include <array>
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 using engine::kTenses;
@@ -95,4 +95,4 @@ std::size_t columnCountFor(const engine::Display& shown) {
   return 1;
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a text table.
-#include "cli/page.h"
+#include "formats/page.h"
 
 #include <algorithm>
 
-#include "cli/format.h"
+#include "formats/printable.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // ANSI colours that stay readable on dark and on light ground.
@@ -81,4 +81,4 @@ void Page::endStyle(Style style) {
   if (isColoured_ && style != Style::plain) out_.append("\x1b[0m");
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

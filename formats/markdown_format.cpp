@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Markdown: a heading a verb, a table a few tenses.
-#include "cli/format.h"
-#include "cli/phrase.h"
-#include "cli/tense_tables.h"
 #include "dictionary/verb_labels.h"
+#include "formats/format.h"
+#include "formats/phrase.h"
+#include "formats/printable.h"
+#include "formats/tense_tables.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // What Markdown would read as its own, in a text that is none.
@@ -74,4 +75,4 @@ class MarkdownFormat final : public Format {
 
 std::unique_ptr<Format> makeMarkdownFormat(bool) { return std::make_unique<MarkdownFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

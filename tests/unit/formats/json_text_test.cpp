@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // JSON strings.
-#include "cli/json_text.h"
+#include "formats/json_text.h"
 
 #include <gtest/gtest.h>
 
 #include "engine/french.h"
 #include "engine/windows1252.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 using namespace engine::literals;
@@ -89,4 +89,4 @@ TEST(json_text, texts_of_every_length_stay_whole) {
 }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

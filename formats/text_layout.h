@@ -8,7 +8,7 @@
 
 #include "engine/display.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 inline constexpr std::size_t kPageWidth = 80;
 inline constexpr std::size_t kColumnGap = 2;
@@ -43,4 +43,4 @@ struct Cell {
 // The most columns, up to 3, in which no form is cut; 1 when even that cannot be helped.
 [[nodiscard]] std::size_t columnCountFor(const engine::Display& shown);
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -3,12 +3,11 @@
 #pragma once
 
 #include <memory>
-#include <string_view>
 
-#include "cli/answerer.h"
 #include "engine/utf8.h"
+#include "formats/answer.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 // Appends to a text in UTF-8; knows nothing of files or terminals.
 class Format {
@@ -21,8 +20,8 @@ class Format {
   virtual void end(Utf8Text& /*out*/) {}
 };
 
-// The formats, a row each: what --format calls it, and what makes it, in a file of its own in
-// cli/formats. The first one is the default.
+// The formats, a row each: what --format calls it, and what makes it, in a file of its own.
+// The first one is the default.
 #define ODMIENNIK_FORMATS(ROW)                                                              \
   ROW("text", makeTextFormat) /* a table that fits 80 columns; a refused verb has none */   \
   ROW("tsv", makeTsvFormat)   /* a header, then one slot a line; a refused verb has none */ \
@@ -46,8 +45,4 @@ struct FormatRow {
 inline constexpr FormatRow kFormats[] = {ODMIENNIK_FORMATS(ODMIENNIK_ROW)};
 #undef ODMIENNIK_ROW
 
-// Appends Windows-1252 text to a table that a person or a line-wise program reads, escaped as
-// dictionary/printable.h says: no form breaks a line or drives a terminal.
-void appendPrintable(Utf8Text& out, std::string_view french);
-
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

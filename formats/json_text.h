@@ -8,7 +8,7 @@
 
 #include "engine/utf8.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 // What would act on a terminal is escaped, controls of both sets and marks of direction alike: JSON
 // reads it as the same text.
@@ -67,4 +67,4 @@ void appendJsonArray(Utf8Text& out, const Texts& texts, JsonRoom& room) {
 // Appends `utf8`, which must be well-formed, as a JSON string, quotes included.
 void appendJsonUtf8(Utf8Text& out, Utf8View utf8);
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

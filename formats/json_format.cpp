@@ -2,12 +2,12 @@
 // One JSON object a line, its keys in the contract's order.
 #include <span>
 
-#include "cli/format.h"
-#include "cli/json_text.h"
 #include "dictionary/verb_labels.h"
 #include "engine/letters.h"
+#include "formats/format.h"
+#include "formats/json_text.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 Utf8View nameOf(engine::Source source) {
@@ -103,4 +103,4 @@ class JsonFormat final : public Format {
 
 std::unique_ptr<Format> makeJsonFormat(bool) { return std::make_unique<JsonFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Comma-separated values after RFC 4180: a header, then 101 lines a verb, each ended by CR LF.
-#include "cli/format.h"
-#include "cli/phrase.h"
-#include "cli/quoted_field.h"
-#include "cli/text_layout.h"
 #include "engine/windows1252.h"
+#include "formats/format.h"
+#include "formats/phrase.h"
+#include "formats/printable.h"
+#include "formats/quoted_field.h"
+#include "formats/text_layout.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // What a field cannot hold bare.
@@ -58,4 +59,4 @@ class CsvFormat final : public Format {
 
 std::unique_ptr<Format> makeCsvFormat(bool) { return std::make_unique<CsvFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

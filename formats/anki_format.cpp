@@ -2,13 +2,14 @@
 // Cards for Anki, as it imports text: front "manger, imparfait, nous", back the phrase, tags.
 #include <algorithm>
 
-#include "cli/format.h"
-#include "cli/phrase.h"
-#include "cli/quoted_field.h"
-#include "cli/text_layout.h"
 #include "dictionary/verb_labels.h"
+#include "formats/format.h"
+#include "formats/phrase.h"
+#include "formats/printable.h"
+#include "formats/quoted_field.h"
+#include "formats/text_layout.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // A blank would begin another tag: "passé composé" -> "passé-composé".
@@ -75,4 +76,4 @@ class AnkiFormat final : public Format {
 
 std::unique_ptr<Format> makeAnkiFormat(bool) { return std::make_unique<AnkiFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

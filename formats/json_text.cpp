@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // JSON strings.
-#include "cli/json_text.h"
+#include "formats/json_text.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include "dictionary/printable.h"
 #include "engine/windows1252.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // What stands for one byte inside a JSON string. All eight bytes are copied and `length` of them
@@ -126,4 +126,4 @@ void appendJsonUtf8(Utf8Text& out, Utf8View utf8) {
   out.push_back('"');
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <array>
 
-#include "cli/format.h"
 #include "engine/windows1252.h"
+#include "formats/printable.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // By bytes of Windows-1252, so that no letter of a form is searched for.
@@ -30,4 +30,4 @@ void appendPrintable(Utf8Text& out, std::string_view french) {
     dictionary::appendPrintable(out, engine::toUtf8(french));
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -5,11 +5,11 @@
 #include "engine/display.h"
 #include "engine/utf8.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 // Appends the whole phrase of a slot, the subject in full and "que" before a subjunctive: (3) ->
 // "nous parlons", (24) -> "j'ai parlé", (50) -> "qu'il parle", (90) -> "parle". Nothing where there
 // is no form; what would drive a terminal stands escaped.
 void appendPhrase(Utf8Text& out, const engine::Display& shown, int slot);
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A form with what is said before it.
-#include "cli/phrase.h"
+#include "formats/phrase.h"
 
-#include "cli/format.h"
-#include "cli/text_layout.h"
+#include "formats/printable.h"
+#include "formats/text_layout.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 constexpr bool isSubjunctive(int slot) {
@@ -31,4 +31,4 @@ void appendPhrase(Utf8Text& out, const engine::Display& shown, int slot) {
   appendPrintable(out, cell.form);
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -6,7 +6,7 @@
 
 #include "engine/utf8.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 enum class Style { plain, title, mood, tense, pronoun, caption, missing };
 
@@ -40,4 +40,4 @@ class Page {
 // How many letters UTF-8 text has.
 [[nodiscard]] std::size_t letterCount(Utf8View utf8);
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

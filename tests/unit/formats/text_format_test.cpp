@@ -2,16 +2,16 @@
 // The table that a person reads.
 #include <gtest/gtest.h>
 
-#include "asking.h"
-#include "cli/page.h"
-#include "cli/text_layout.h"
 #include "dictionary/verb_index.h"
+#include "formats/page.h"
+#include "formats/text_layout.h"
+#include "tests/unit/cli/asking.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 Utf8Text textOf(Utf8View line, bool isColoured = false) {
-  Asking asking;
+  cli::Asking asking;
   return asking.textOf(*makeTextFormat(isColoured), line);
 }
 
@@ -42,7 +42,7 @@ void expectEveryForm(const Utf8Text& text, const engine::Display& shown) {
 }
 
 TEST(text_format, every_verb_of_the_index_fits_the_page_with_all_its_forms) {
-  Asking asking;
+  cli::Asking asking;
   for (int i = 0; i < dictionary::verbCount(); ++i) {
     const Utf8Text verb = engine::toUtf8(dictionary::verbAt(i));
     const Utf8Text text = asking.textOf(*makeTextFormat(false), verb);
@@ -55,7 +55,7 @@ TEST(text_format, every_verb_of_the_index_fits_the_page_with_all_its_forms) {
 }
 
 TEST(text_format, every_reflexive_verb_fits_the_page_too) {
-  Asking asking;
+  cli::Asking asking;
   for (int i = 0; i < dictionary::verbCount(); ++i) {
     const Utf8Text verb = "se " + engine::toUtf8(dictionary::verbAt(i));
     ASSERT_LE(widestLine(asking.textOf(*makeTextFormat(false), verb)), kPageWidth) << verb;
@@ -108,12 +108,12 @@ TEST(text_format, a_tense_that_does_not_exist_shows_two_dashes) {
 }
 
 TEST(text_format, a_switched_auxiliary_is_named) {
-  Asking asking({.auxiliary = engine::kEtre});
+  cli::Asking asking({.auxiliary = engine::kEtre});
   EXPECT_TRUE(holds(asking.textOf(*makeTextFormat(false), "parler"), "\nzłożone z: être "));
 }
 
 TEST(text_format, verbs_are_separated_by_blank_lines) {
-  Asking asking;
+  cli::Asking asking;
   const auto format = makeTextFormat(false);
   EXPECT_TRUE(asking.textOf(*format, "parler").starts_with("══ parler ═"));
   EXPECT_TRUE(asking.textOf(*format, "aimer").starts_with("\n\n══ aimer ═"));
@@ -139,4 +139,4 @@ TEST(text_format, control_characters_never_reach_the_terminal) {
 }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -2,14 +2,14 @@
 // Forms with what is said before them.
 #include <gtest/gtest.h>
 
-#include "asking.h"
-#include "cli/phrase.h"
+#include "formats/phrase.h"
+#include "tests/unit/cli/asking.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 Utf8Text phraseOf(Utf8View verb, int slot) {
-  Asking asking;
+  cli::Asking asking;
   Utf8Text out;
   appendPhrase(out, asking.answer(verb).conjugation.shown, slot);
   return out;
@@ -49,4 +49,4 @@ TEST(phrase, what_would_drive_a_terminal_is_escaped) {
 }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

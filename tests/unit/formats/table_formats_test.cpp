@@ -4,14 +4,14 @@
 
 #include <algorithm>
 
-#include "asking.h"
+#include "tests/unit/cli/asking.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // Everything that is printed for the verbs.
 Utf8Text printed(std::unique_ptr<Format> format, std::initializer_list<Utf8View> verbs) {
-  Asking asking;
+  cli::Asking asking;
   Utf8Text out;
   format->begin(out);
   for (const Utf8View verb : verbs) out.append(asking.textOf(*format, verb));
@@ -115,4 +115,4 @@ TEST(anki_format, there_is_no_card_for_the_infinitive_nor_for_what_does_not_exis
 }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

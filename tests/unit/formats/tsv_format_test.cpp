@@ -4,13 +4,13 @@
 
 #include <algorithm>
 
-#include "asking.h"
+#include "tests/unit/cli/asking.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 Utf8Text tsvOf(Utf8View line) {
-  Asking asking;
+  cli::Asking asking;
   return asking.textOf(*makeTsvFormat(), line);
 }
 
@@ -54,4 +54,4 @@ TEST(tsv_format, a_line_end_inside_an_infinitive_breaks_no_line) {
 TEST(tsv_format, a_refused_verb_has_no_lines) { EXPECT_EQ(tsvOf("x"), ""); }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -2,13 +2,14 @@
 // One HTML page of all verbs, for the screen and for paper: no script, nothing fetched.
 #include <utility>
 
-#include "cli/format.h"
-#include "cli/page_style.h"
-#include "cli/phrase.h"
-#include "cli/tense_tables.h"
 #include "dictionary/verb_labels.h"
+#include "formats/format.h"
+#include "formats/page_style.h"
+#include "formats/phrase.h"
+#include "formats/printable.h"
+#include "formats/tense_tables.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 void appendEscaped(Utf8Text& out, Utf8View text) {
@@ -107,4 +108,4 @@ class HtmlFormat final : public Format {
 
 std::unique_ptr<Format> makeHtmlFormat(bool) { return std::make_unique<HtmlFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

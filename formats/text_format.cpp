@@ -2,12 +2,12 @@
 // The table that a person reads: what is known of the verb, then its tenses by mood.
 #include <algorithm>
 
-#include "cli/format.h"
-#include "cli/page.h"
-#include "cli/text_layout.h"
 #include "dictionary/verb_labels.h"
+#include "formats/format.h"
+#include "formats/page.h"
+#include "formats/text_layout.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 using engine::kTenses;
@@ -174,4 +174,4 @@ std::unique_ptr<Format> makeTextFormat(bool isColoured) {
   return std::make_unique<TextFormat>(isColoured);
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tab-separated values: a header, then 101 lines a verb.
-#include "cli/format.h"
-#include "cli/phrase.h"
 #include "engine/windows1252.h"
+#include "formats/format.h"
+#include "formats/phrase.h"
+#include "formats/printable.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 // What does not exist is an empty field, not the window's " -- ".
@@ -45,4 +46,4 @@ class TsvFormat final : public Format {
 
 std::unique_ptr<Format> makeTsvFormat(bool) { return std::make_unique<TsvFormat>(); }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

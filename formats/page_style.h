@@ -4,7 +4,7 @@
 
 #include "engine/utf8.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 inline constexpr Utf8View kPageStyle = R"css(
 body { font-family: Arial, "Liberation Sans", sans-serif; font-size: 11pt; margin: 12px; color: #202020; background: #ffffff; }
@@ -33,4 +33,4 @@ th { background: #eef1f6; }
 }
 )css";
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -2,13 +2,13 @@
 // The JSON object of an answer.
 #include <gtest/gtest.h>
 
-#include "asking.h"
+#include "tests/unit/cli/asking.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 namespace {
 
 Utf8Text jsonOf(Utf8View line) {
-  Asking asking;
+  cli::Asking asking;
   return asking.textOf(*makeJsonFormat(), line);
 }
 
@@ -60,4 +60,4 @@ TEST(json_format, messages_are_listed) {
 }
 
 }  // namespace
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

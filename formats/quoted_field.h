@@ -4,7 +4,7 @@
 
 #include "engine/utf8.h"
 
-namespace odmiennik::cli {
+namespace odmiennik::formats {
 
 // Appends a field; one that holds any of `marks` stands between quotation marks, its own ones
 // doubled: (a"b, ",\"") -> "a""b".
@@ -18,4 +18,4 @@ inline void appendField(Utf8Text& out, Utf8View text, Utf8View marks) {
   out.push_back('"');
 }
 
-}  // namespace odmiennik::cli
+}  // namespace odmiennik::formats

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the formats are given.
+#pragma once
+
+#include <vector>
+
+#include "engine/conjugation.h"
+#include "engine/utf8.h"
+
+namespace odmiennik::formats {
+
+// What is answered to one verb. It points to what is its owner's, and is valid as long as that.
+struct Answer {
+  Utf8View typed;
+  const engine::Conjugation& conjugation;
+  const std::vector<Utf8Text>& messages;
+  bool isPronominal;
+  bool isRefused;  // no conjugation came of it
+};
+
+}  // namespace odmiennik::formats
