@@ -6,7 +6,6 @@
 #include <array>
 #include <iterator>
 #include <optional>
-#include <utility>
 
 #include "cli/help.h"
 #include "cli/index_queries.h"
@@ -131,8 +130,11 @@ WrittenOption readOption(Utf8View argument) {
   return {name, rowOf(name), argument.substr(equals + 1)};
 }
 
+// The names of the options that stand on a command line.
+using Given = std::vector<Utf8View>;
+
 // Reads the option that `rest` begins with and takes it off; an error sentence or nothing.
-Utf8Text takeOption(Options& options, std::span<const Utf8Text>& rest) {
+Utf8Text takeOption(Options& options, Given& given, std::span<const Utf8Text>& rest) {
   const auto [name, row, joined] = readOption(rest.front());
   rest = rest.subspan(1);
   if (row == nullptr) return "nieznana opcja " + quoted(name) + ".";
@@ -150,33 +152,52 @@ Utf8Text takeOption(Options& options, std::span<const Utf8Text>& rest) {
     return "niewłaściwa wartość " + quoted(value) + " opcji " + quoted(name) + ".";
   if (before != nullptr && options.query != before)
     return "opcja " + quoted(name) + " nie łączy się z poprzednimi.";
+  const bool isDefault = row->apply == takeFormat && options.format == &formats::kFormats[0];
+  if (!isDefault) given.push_back(row->name);
   return {};
 }
 
-Utf8Text faultOfFinding(const Options& options) {
-  if (options.auxiliary || options.query != nullptr)
-    return "opcja „--find” nie łączy się z żadną poza „--format” i „--folder”.";
-  if (readingFormatNamed(options.format->name) == nullptr)
-    return "opcja „--find” nie zna postaci " + quoted(options.format->name) + ".";
+// Of these a command line takes one.
+constexpr Utf8View kTasks[] = {"--edit", "--norm",     "--departures", "--find",
+                               "--list", "--complete", "--record",     "--strings"};
+
+// What a task has no use for.
+struct Useless {
+  Utf8View task;
+  std::span<const Utf8View> options;
+};
+constexpr Utf8View kOfConjugations[] = {"--format", "--auxiliary"};
+constexpr Utf8View kAuxiliary[] = {"--auxiliary"};
+constexpr Useless kUseless[] = {{"--departures", kOfConjugations}, {"--find", kAuxiliary},
+                                {"--list", kOfConjugations},       {"--complete", kOfConjugations},
+                                {"--record", kOfConjugations},     {"--strings", kOfConjugations}};
+
+bool isAmong(std::span<const Utf8View> names, Utf8View name) {
+  return std::ranges::find(names, name) != names.end();
+}
+
+bool isUselessFor(Utf8View task, Utf8View option) {
+  const auto* row = std::ranges::find(kUseless, task, &Useless::task);
+  return row != std::end(kUseless) && isAmong(row->options, option);
+}
+
+bool excludeEachOther(Utf8View one, Utf8View other) {
+  if (isAmong(kTasks, one) && isAmong(kTasks, other)) return one != other;
+  return isUselessFor(one, other) || isUselessFor(other, one);
+}
+
+// Of options that cannot be had together the later one is named first.
+Utf8Text faultOfChoice(std::span<const Utf8View> given) {
+  for (std::size_t later = 1; later < given.size(); ++later)
+    for (const Utf8View before : given.first(later))
+      if (excludeEachOther(given[later], before))
+        return "opcja " + quoted(given[later]) + " nie łączy się z " + quoted(before) + ".";
   return {};
 }
 
-// The options of a conjugation that cannot be had together.
-Utf8Text faultOfChoice(const Options& options) {
-  const std::pair<bool, Utf8View> kinds[] = {{options.isEditing, "--edit"},
-                                             {options.isInNorm, "--norm"},
-                                             {options.listsDepartures, "--departures"},
-                                             {options.isFinding, "--find"}};
-  Utf8View before;
-  for (const auto& [isGiven, name] : kinds) {
-    if (isGiven && !before.empty())
-      return "opcja " + quoted(name) + " nie łączy się z " + quoted(before) + ".";
-    if (isGiven) before = name;
-  }
-  const bool isShaped = options.format != &formats::kFormats[0] || options.auxiliary;
-  if (options.listsDepartures && isShaped)
-    return "opcja " + quoted(before) + " nie łączy się z „--format” ani „--auxiliary”.";
-  return options.isFinding ? faultOfFinding(options) : Utf8Text();
+Utf8Text faultOfFormat(const Options& options) {
+  if (!options.isFinding || readingFormatNamed(options.format->name) != nullptr) return {};
+  return "opcja „--find” nie zna postaci " + quoted(options.format->name) + ".";
 }
 
 bool isOption(Utf8View argument) { return argument.size() > 1 && argument[0] == '-'; }
@@ -186,10 +207,11 @@ bool isOption(Utf8View argument) { return argument.size() > 1 && argument[0] == 
 ParsedOptions parseOptions(std::span<const Utf8Text> arguments) {
   ParsedOptions parsed;
   Options& options = parsed.options;
+  Given given;
   bool areOptionsOver = false;
   while (!arguments.empty() && parsed.error.empty()) {
     if (!areOptionsOver && isOption(arguments.front()) && arguments.front() != "--") {
-      parsed.error = takeOption(options, arguments);
+      parsed.error = takeOption(options, given, arguments);
       continue;
     }
     if (areOptionsOver || arguments.front() != "--")
@@ -200,7 +222,8 @@ ParsedOptions parseOptions(std::span<const Utf8Text> arguments) {
   }
   if (parsed.error.empty() && options.query != nullptr && !options.infinitives.empty())
     parsed.error = "nadmiarowy argument " + quoted(options.infinitives.front()) + ".";
-  if (parsed.error.empty()) parsed.error = faultOfChoice(options);
+  if (parsed.error.empty()) parsed.error = faultOfChoice(given);
+  if (parsed.error.empty()) parsed.error = faultOfFormat(options);
   return parsed;
 }
 

@@ -55,14 +55,38 @@ TEST_F(options, ask_for_the_norm_or_for_the_departures_from_it) {
   EXPECT_FALSE(parse({"lire"}).isInNorm || parse({"lire"}).listsDepartures);
 }
 
-TEST_F(options, of_forms_that_exclude_each_other_are_refused) {
-  EXPECT_EQ(errorOf({"--norm", "--edit"}), "opcja „--norm” nie łączy się z „--edit”.");
-  EXPECT_EQ(errorOf({"--departures", "--edit"}), "opcja „--departures” nie łączy się z „--edit”.");
-  EXPECT_EQ(errorOf({"--norm", "--departures"}), "opcja „--departures” nie łączy się z „--norm”.");
-  EXPECT_EQ(errorOf({"--departures", "--format", "json"}),
-            "opcja „--departures” nie łączy się z „--format” ani „--auxiliary”.");
-  EXPECT_EQ(errorOf({"--departures", "--auxiliary", "etre"}),
-            "opcja „--departures” nie łączy się z „--format” ani „--auxiliary”.");
+TEST_F(options, that_exclude_each_other_are_named) {
+  EXPECT_EQ(errorOf({"--edit", "--norm"}), "opcja „--norm” nie łączy się z „--edit”.");
+  EXPECT_EQ(errorOf({"--norm", "--edit"}), "opcja „--edit” nie łączy się z „--norm”.");
+  EXPECT_EQ(errorOf({"--departures", "aller", "--format=json"}),
+            "opcja „--format” nie łączy się z „--departures”.");
+  EXPECT_EQ(errorOf({"--auxiliary", "etre", "--find"}),
+            "opcja „--find” nie łączy się z „--auxiliary”.");
+}
+
+TEST_F(options, of_which_there_can_be_one_exclude_each_other) {
+  const std::vector<std::vector<Utf8Text>> tasks = {
+      {"--edit"},      {"--norm"},          {"--departures"},  {"--find"},
+      {"--list", "a"}, {"--complete", "a"}, {"--record", "a"}, {"--strings"}};
+  for (const auto& one : tasks)
+    for (const auto& other : tasks) {
+      std::vector<Utf8Text> both = one;
+      both.insert(both.end(), other.begin(), other.end());
+      EXPECT_EQ(errorOf(both).empty(), one == other) << one[0] << other[0];
+    }
+}
+
+TEST_F(options, of_a_conjugation_are_refused_where_there_is_none) {
+  for (const Utf8Text query : {"--list", "--complete", "--record"}) {
+    EXPECT_NE(errorOf({query, "a", "--format", "tsv"}), "") << query;
+    EXPECT_NE(errorOf({"--auxiliary", "etre", query, "a"}), "") << query;
+    EXPECT_EQ(errorOf({"--color", "always", query, "a", "--folder", "f"}), "") << query;
+  }
+}
+
+TEST_F(options, of_any_task_go_with_help) {
+  EXPECT_EQ(errorOf({"--find", "--format", "tsv", "--help"}), "");
+  EXPECT_NE(parsed_.options.query, nullptr);
 }
 
 TEST_F(options, behind_two_dashes_everything_is_an_infinitive) {
