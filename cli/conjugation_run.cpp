@@ -3,8 +3,10 @@
 #include "cli/conjugation_run.h"
 
 #include "cli/asked_lines.h"
+#include "dictionary/messages.h"
 #include "dictionary/spelling.h"
 #include "dictionary/verb_index.h"
+#include "engine/normalization.h"
 #include "engine/windows1252.h"
 
 namespace odmiennik::cli {
@@ -13,6 +15,19 @@ namespace {
 bool wantsColours(Colours colours, const Console& console) {
   if (colours != Colours::automatic) return colours == Colours::always;
   return console.isOnTerminal() && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
+}
+
+// Whether there is a blank that neither a reflexive pronoun nor its adverb brings along (s'en
+// aller, s'y connaître).
+bool isOfSeveralWords(std::string_view infinitive) {
+  const std::string key = engine::lookupKey(infinitive);
+  std::string_view verb = engine::trimmed(key);
+  std::string whole;
+  engine::normalize(infinitive, whole);
+  const bool isReflexive = engine::hasReflexivePrefix(whole);
+  if (isReflexive && verb.starts_with("en ")) verb.remove_prefix(3);
+  if (isReflexive && verb.starts_with("y ")) verb.remove_prefix(2);
+  return verb.find(' ') != std::string_view::npos;
 }
 
 }  // namespace
@@ -54,6 +69,7 @@ void ConjugationRun::answerIndex() {
 }
 
 void ConjugationRun::answer(const InputLine& line, Utf8View lineName) {
+  if (isPassedOver(line, lineName)) return;
   const Question question = questionOf(line);
   Utf8Text& out = console_.out().text();
   const formats::Answer answered =
@@ -61,18 +77,29 @@ void ConjugationRun::answer(const InputLine& line, Utf8View lineName) {
   if (!departures_) format_->append(out, answered);
   console_.out().flushIfLarge();
   hasRefused_ = hasRefused_ || answered.isRefused;
+  const Utf8Text place = placeOf(line, lineName);
   if (question.fault != QuestionFault::none)
-    console_.complain(Utf8Text(lineName) + " " + decimal(line.number), faultSentence(question));
-  for (const Utf8Text& message : answered.messages)
-    console_.complain(nameOf(question.infinitive), message);
-  if (answered.isRefused) suggestSpelling(question);
+    console_.complain(place, faultSentence(question));
+  else
+    complainOf(question, answered, lineName == kInputLine ? place + ": " : Utf8Text());
 }
 
-// The window's message stays word for word; only the command adds what may have been meant.
-void ConjugationRun::suggestSpelling(const Question& question) {
-  const std::string meant = dictionary::otherSpelling(question.infinitive);
-  if (meant.empty()) return;
-  console_.complain(nameOf(question.infinitive), "Czy chodziło o „" + engine::toUtf8(meant) + "”?");
+bool ConjugationRun::isPassedOver(const InputLine& line, Utf8View lineName) const {
+  const bool isAnswered = !departures_ && format_->answersBlankLines();
+  return !isAnswered && isBlankInput(line, lineName);
+}
+
+// The window's messages stay word for word; only the command adds what may have been meant.
+void ConjugationRun::complainOf(const Question& question, const Answer& answered,
+                                const Utf8Text& place) {
+  const Utf8Text subject = place + nameOf(question.infinitive);
+  for (const Utf8Text& message : answered.messages) console_.complain(subject, message);
+  const bool isOwn = answered.conjugation.source == engine::Source::user;
+  if (!isOwn && isOfSeveralWords(question.infinitive))
+    console_.complain(subject, dictionary::messageText(dictionary::MessageId::severalWords));
+  const std::string meant =
+      answered.isRefused ? dictionary::otherSpelling(question.infinitive) : std::string();
+  if (!meant.empty()) console_.complain(subject, "Czy chodziło o „" + engine::toUtf8(meant) + "”?");
 }
 
 }  // namespace odmiennik::cli

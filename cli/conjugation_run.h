@@ -26,7 +26,8 @@ class ConjugationRun {
  private:
   void answerIndex();
   void answer(const InputLine& line, Utf8View lineName);
-  void suggestSpelling(const Question& question);
+  [[nodiscard]] bool isPassedOver(const InputLine& line, Utf8View lineName) const;
+  void complainOf(const Question& question, const Answer& answered, const Utf8Text& place);
 
   const Options& options_;
   Console& console_;

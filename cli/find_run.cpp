@@ -22,7 +22,7 @@ ExitStatus FindRun::answerAll() {
     finder_.lookAgain();
     sayWhatTheFilesAreLike();
   };
-  const bool isRead = answerAsked(console_, options_.infinitives, answerLine, lookAgain);
+  const bool isRead = answerAsked(console_, options_.infinitives, answerLine, lookAgain, "formy");
   if (files_.hasTrouble || !isRead || messages_.hasFileTrouble()) return ExitStatus::fileTrouble;
   return hasRefused_ ? ExitStatus::verbRefused : ExitStatus::allConjugated;
 }
@@ -38,11 +38,10 @@ void FindRun::answer(const InputLine& line, Utf8View lineName) {
   if (question.fault == QuestionFault::none) finder_.find(question.infinitive, readings_);
   format_.append(console_.out().text(), question.typed, readings_);
   console_.out().flushIfLarge();
-  const bool isBlank = question.typed.find_first_not_of(" \t") == std::string::npos;
   const bool isFound = !readings_.empty() && readings_.front().match != finder::Match::slip;
-  if (isFound || (isBlank && lineName == "wiersz")) return;
+  if (isFound || isBlankInput(line, lineName)) return;
   hasRefused_ = true;
-  const Utf8Text place = Utf8Text(lineName) + " " + decimal(line.number);
+  const Utf8Text place = placeOf(line, lineName);
   if (question.fault != QuestionFault::none)
     console_.complain(place, faultSentence(question));
   else

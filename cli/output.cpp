@@ -10,8 +10,10 @@ void Output::flushIfLarge() {
 }
 
 void Output::flush() {
-  if (!hasFailed() && !text_.empty()) result_ = write(Stream::out, text_);
+  const bool isAsked = !hasFailed() && !text_.empty();
+  if (isAsked) result_ = write(Stream::out, text_);
   text_.clear();
+  if (isAsked && result_ == WriteResult::closed) endAtClosedPipe();
 }
 
 }  // namespace odmiennik::cli

@@ -15,7 +15,8 @@ class Output {
   // Writes what was gathered once it is worth a system call.
   void flushIfLarge();
 
-  // Writes what was gathered. After a failure everything further is dropped.
+  // Writes what was gathered. A reader who has gone away ends the program, quietly, as the system
+  // does it. After any other failure everything further is dropped.
   void flush();
 
   [[nodiscard]] bool hasFailed() const { return result_ != WriteResult::written; }

@@ -20,6 +20,13 @@ enum class WriteResult { written, closed, failed };
 // Makes the streams pass bytes unchanged, and a closed pipe an answer instead of a signal.
 void prepareStreams();
 
+// Ends the program as one that knows nothing of closed pipes: by the signal of the system. Returns
+// where the system has none, or where whoever started the program does not want it.
+void endAtClosedPipe();
+
+// What a user presses on a terminal when there is no more input.
+[[nodiscard]] Utf8View endOfInputKeys();
+
 // The arguments in UTF-8, without the program's name.
 [[nodiscard]] std::vector<Utf8Text> arguments(int count, char** values);
 

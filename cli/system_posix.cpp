@@ -10,7 +10,18 @@
 
 namespace odmiennik::cli {
 
-void prepareStreams() { std::signal(SIGPIPE, SIG_IGN); }
+namespace {
+void (*closedPipeHandler)(int) = SIG_DFL;
+}  // namespace
+
+void prepareStreams() { closedPipeHandler = std::signal(SIGPIPE, SIG_IGN); }
+
+void endAtClosedPipe() {
+  std::signal(SIGPIPE, closedPipeHandler);
+  std::raise(SIGPIPE);
+}
+
+Utf8View endOfInputKeys() { return "Ctrl+D"; }
 
 std::vector<Utf8Text> arguments(int count, char** values) {
   if (count < 2) return {};

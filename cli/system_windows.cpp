@@ -38,6 +38,10 @@ void prepareStreams() {
     SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
+void endAtClosedPipe() {}
+
+Utf8View endOfInputKeys() { return "Ctrl+Z, Enter"; }
+
 std::vector<Utf8Text> arguments(int, char**) {
   int count = 0;
   wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);

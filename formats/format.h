@@ -16,6 +16,8 @@ class Format {
   // What stands before the first answer.
   virtual void begin(Utf8Text& out) = 0;
   virtual void append(Utf8Text& out, const Answer& answer) = 0;
+  // Whether a blank line of input has an answer too, as a line that is refused.
+  [[nodiscard]] virtual bool answersBlankLines() const { return false; }
   // What stands behind the last one.
   virtual void end(Utf8Text& /*out*/) {}
 };

@@ -45,6 +45,7 @@ void appendLabels(Utf8Text& out, const dictionary::VerbLabels& labels) {
 class JsonFormat final : public Format {
  public:
   void begin(Utf8Text&) override {}
+  [[nodiscard]] bool answersBlankLines() const override { return true; }
   void append(Utf8Text& out, const Answer& answer) override {
     const engine::Conjugation& conjugation = answer.conjugation;
     appendUtf8(out, R"({"typed":)", answer.typed);

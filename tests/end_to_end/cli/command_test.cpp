@@ -2,6 +2,8 @@
 // The command as a user meets it: arguments, formats, exit codes, streams.
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include "process.h"
 #include "terminal.h"
 
@@ -186,8 +188,51 @@ TEST(command, a_reader_who_goes_away_ends_it_quietly) {
   std::string verbs;
   for (int i = 0; i < 1000; ++i) verbs += "parler\n";
   process.finish(verbs);
+  EXPECT_EQ(process.endedBySignal(), SIGPIPE);
+  EXPECT_EQ(process.err(), "");
+}
+
+TEST(command, where_that_signal_is_not_wanted_a_closed_pipe_gives_three_quietly) {
+  Process process({"/bin/sh", "-c", "trap '' PIPE; exec \"$0\" --list ''", command()});
+  process.closeOutput();
+  process.finish("");
   EXPECT_EQ(process.exitCode(), 3);
   EXPECT_EQ(process.err(), "");
+}
+
+TEST(command, passes_blank_lines_over_but_in_json) {
+  for (const char* format : {"text", "tsv", "csv", "markdown", "html", "anki"}) {
+    const Result result = run({"-f", format}, "\n parler\n \t \n\nfinir\n");
+    EXPECT_EQ(result.out, run({"-f", format}, "parler\nfinir\n").out) << format;
+    EXPECT_EQ(result.err, "") << format;
+    EXPECT_EQ(result.exitCode, 0) << format;
+  }
+  EXPECT_EQ(linesOf(run({"-f", "json"}, "\nparler\n\n").out).size(), 3U);
+}
+
+TEST(command, an_empty_argument_is_refused_in_every_format) {
+  EXPECT_EQ(run({""}).exitCode, 1);
+  EXPECT_TRUE(holds(run({"-f", "tsv", " "}).err, "Podany czasownik nie został znaleziony"));
+}
+
+TEST(command, a_message_names_the_line_of_input_that_it_is_about) {
+  const Result result = run({"-f", "tsv"}, "parler\n\nx\nłapać\netre\n");
+  const std::string refused =
+      "Podany czasownik nie został znaleziony i nie było możliwe odmienienie go regularnie.\n";
+  EXPECT_EQ(result.err, "odmien: wiersz 3: „x”: " + refused +
+                            "odmien: wiersz 4: znaku „ł” (U+0142) nie ma w zestawie "
+                            "Windows-1252.\nodmien: wiersz 5: „etre”: " +
+                            refused + "odmien: wiersz 5: „etre”: Czy chodziło o „être”?\n");
+}
+
+TEST(command, several_words_that_are_one_verb_to_it_are_warned_of) {
+  const std::string warning =
+      "Odstęp nie rozdziela czasowników. Podaj każdy w osobnym wierszu albo argumencie.\n";
+  EXPECT_TRUE(holds(run({"parler finir"}).err, "odmien: „parler finir”: " + warning));
+  EXPECT_TRUE(
+      holds(run({}, "se laver finir\n").err, "odmien: wiersz 1: „se laver finir”: " + warning));
+  for (const char* verb : {" parler ", "se laver", "s'en aller", "s'y connaître", "  Se  Laver"})
+    EXPECT_FALSE(holds(run({verb}).err, warning)) << verb;
 }
 
 TEST(command, a_standard_input_that_cannot_be_read_gives_three) {
@@ -211,6 +256,15 @@ TEST(command, no_color_and_a_dumb_terminal_switch_colours_off) {
     EXPECT_FALSE(holds(shown, "\x1b"));
     EXPECT_TRUE(holds(shown, "je parle "));
   }
+}
+
+TEST(command, on_a_terminal_it_says_what_it_waits_for) {
+  const std::string end = ", po jednym w wierszu (koniec: Ctrl+D).\r\n";
+  EXPECT_TRUE(
+      holds(runOnTerminal({"-f", "tsv"}, {}, "\x04"), "odmien: czekam na czasowniki" + end));
+  EXPECT_TRUE(holds(runOnTerminal({"--find", "-"}, {}, "\x04"), "odmien: czekam na formy" + end));
+  EXPECT_TRUE(holds(runOnTerminal({}, {"NO_COLOR=1"}, "aller\n\x04"), "je vais "));
+  EXPECT_FALSE(holds(runOnTerminal({"parler"}, {}), "czekam"));
 }
 
 TEST(command, on_a_terminal_a_message_stands_behind_the_verbs_before_it) {

@@ -46,6 +46,15 @@ bool isNamedIn(const Arguments& environment, std::string_view variable) {
                      [&](const std::string& other) { return other.starts_with(name); });
 }
 
+// A closed pipe is what a shell makes it for the programs that it starts, whatever the test does.
+void obeyClosedPipes(posix_spawnattr_t& attributes) {
+  sigset_t signals;
+  sigemptyset(&signals);
+  sigaddset(&signals, SIGPIPE);
+  posix_spawnattr_setsigdefault(&attributes, &signals);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+}
+
 pid_t spawn(Arguments arguments, Arguments environment, const std::array<int, 3>& streams) {
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
@@ -57,9 +66,13 @@ pid_t spawn(Arguments arguments, Arguments environment, const std::array<int, 3>
     if (!isNamedIn(environment, *variable)) variables.push_back(*variable);
   values.push_back(nullptr);
   variables.push_back(nullptr);
+  posix_spawnattr_t attributes;
+  posix_spawnattr_init(&attributes);
+  obeyClosedPipes(attributes);
   pid_t pid = 0;
   const int fault =
-      posix_spawn(&pid, values[0], &actions, nullptr, values.data(), variables.data());
+      posix_spawn(&pid, values[0], &actions, &attributes, values.data(), variables.data());
+  posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&actions);
   if (fault != 0) throw std::runtime_error("the command does not start: " + arguments[0]);
   return pid;
@@ -143,6 +156,7 @@ void Process::finish(std::string_view input) {
   ::waitpid(pid_, &status, 0);
   pid_ = 0;
   exitCode_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  signal_ = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 
 Result run(const Arguments& arguments, std::string_view input, const Arguments& environment) {

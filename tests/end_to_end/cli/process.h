@@ -36,6 +36,8 @@ class Process {
   [[nodiscard]] const std::string& err() const { return err_; }
   // The exit code; -1 when a signal or the time limit ended the process.
   [[nodiscard]] int exitCode() const { return exitCode_; }
+  // The signal that ended the process; 0 when none did.
+  [[nodiscard]] int endedBySignal() const { return signal_; }
 
  private:
   void exchange(std::string_view& input, bool isFinishing);
@@ -46,12 +48,13 @@ class Process {
   int outPipe_ = -1;
   int errPipe_ = -1;
   int exitCode_ = -1;
+  int signal_ = 0;
   std::string out_;
   std::string err_;
 };
 
-// The command that is tested: this build's, or the one that the environment variable ODMIEN names, so
-// that the same tests try a program built otherwise.
+// The command that is tested: this build's, or the one that the environment variable ODMIEN names,
+// so that the same tests try a program built otherwise.
 [[nodiscard]] std::string command();
 
 [[nodiscard]] inline bool holds(const std::string& text, const std::string& part) {

@@ -29,6 +29,12 @@ class Terminal {
 
   [[nodiscard]] std::string name() const { return ::ptsname(end_); }
 
+  // As a user types it; nothing is lost before somebody reads.
+  void type(std::string_view text) const {
+    if (::write(end_, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+      throw std::runtime_error("the terminal takes no text");
+  }
+
   // What has been shown and not yet read; nothing when no more comes for now.
   [[nodiscard]] std::string read(int waitMilliseconds) const {
     pollfd end{end_, POLLIN, 0};
@@ -46,16 +52,20 @@ class Terminal {
 
 }  // namespace
 
-std::string runOnTerminal(const Arguments& arguments, const Arguments& environment) {
+std::string runOnTerminal(const Arguments& arguments, const Arguments& environment,
+                          std::string_view typed) {
   constexpr int kLimitMilliseconds = 30000;
   const Terminal terminal;
-  Arguments all{"/bin/sh", "-c",
-                "\"$@\" >" + terminal.name() + " 2>&1; echo koniec >" + terminal.name(), "sh",
-                command()};
+  terminal.type(typed);
+  const std::string input = typed.empty() ? "" : " <" + terminal.name();
+  Arguments all{
+      "/bin/sh", "-c",
+      "\"$@\"" + input + " >" + terminal.name() + " 2>&1; echo '~koniec~' >" + terminal.name(),
+      "sh", command()};
   all.insert(all.end(), arguments.begin(), arguments.end());
   Process process(all, environment);
   std::string shown;
-  while (shown.find("koniec") == std::string::npos) {
+  while (shown.find("~koniec~") == std::string::npos) {
     const std::string part = terminal.read(kLimitMilliseconds);
     if (part.empty()) throw std::runtime_error("the command shows nothing more");
     shown += part;

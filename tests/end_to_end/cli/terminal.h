@@ -8,7 +8,9 @@
 
 namespace odmiennik::end_to_end {
 
-// What the command shows on a terminal that is its standard output and standard error.
-[[nodiscard]] std::string runOnTerminal(const Arguments& arguments, const Arguments& environment);
+// What the command shows on a terminal that is its standard output and standard error, and where
+// `typed` is given its standard input too: "parler\n\x04", up to Ctrl+D.
+[[nodiscard]] std::string runOnTerminal(const Arguments& arguments, const Arguments& environment,
+                                        std::string_view typed = {});
 
 }  // namespace odmiennik::end_to_end
