@@ -31,8 +31,9 @@ formats::Answer Answerer::answer(const Question& question) {
                                     options_.isEditing);
   // By the time of the click the pronominal flag has been cleared.
   const bool isPronominal = conjugation_.shown.isPronominal && !options_.auxiliary;
-  return {question.typed, conjugation_, messages_.texts(), isPronominal,
-          outcome != Outcome::conjugated};
+  return {
+      question.typed, conjugation_, messages_.texts(), isPronominal, outcome != Outcome::conjugated,
+      options_.slots};
 }
 
 void Answerer::beginAsJustStarted() {

@@ -33,6 +33,7 @@ struct AnswerOptions {
   bool isEditing = false;
   std::optional<std::uint8_t> auxiliary;  // the click on the auxiliary's box that follows
   engine::Variety variety = engine::Variety::system;
+  formats::SlotChoice slots = {};  // what is printed
 };
 
 class Answerer {

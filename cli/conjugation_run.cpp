@@ -39,9 +39,11 @@ ConjugationRun::ConjugationRun(const Options& options, Console& console)
       userVerbs_(files_.prefix, files_.userVerbCount, messages_),
       answerer_(userVerbs_, messages_,
                 {options.isEditing, options.auxiliary,
-                 options.isInNorm ? engine::Variety::norm : engine::Variety::system}),
+                 options.isInNorm ? engine::Variety::norm : engine::Variety::system,
+                 slotsOf(options.tenses, options.persons)}),
       format_(options.format->make(wantsColours(options.colours, console))) {
-  if (options.listsDepartures) departures_.emplace(userVerbs_, messages_);
+  if (options.listsDepartures)
+    departures_.emplace(userVerbs_, messages_, slotsOf(options.tenses, options.persons));
 }
 
 ExitStatus ConjugationRun::answerAll() {
@@ -90,7 +92,7 @@ bool ConjugationRun::isPassedOver(const InputLine& line, Utf8View lineName) cons
 }
 
 // The window's messages stay word for word; only the command adds what may have been meant.
-void ConjugationRun::complainOf(const Question& question, const Answer& answered,
+void ConjugationRun::complainOf(const Question& question, const formats::Answer& answered,
                                 const Utf8Text& place) {
   const Utf8Text subject = place + nameOf(question.infinitive);
   for (const Utf8Text& message : answered.messages) console_.complain(subject, message);

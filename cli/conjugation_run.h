@@ -27,7 +27,7 @@ class ConjugationRun {
   void answerIndex();
   void answer(const InputLine& line, Utf8View lineName);
   [[nodiscard]] bool isPassedOver(const InputLine& line, Utf8View lineName) const;
-  void complainOf(const Question& question, const Answer& answered, const Utf8Text& place);
+  void complainOf(const Question& question, const formats::Answer& answered, const Utf8Text& place);
 
   const Options& options_;
   Console& console_;

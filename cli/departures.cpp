@@ -24,9 +24,10 @@ void appendLine(Utf8Text& out, std::string_view infinitive, int slot, std::strin
 
 }  // namespace
 
-Departures::Departures(engine::UserVerbs& userVerbs, MessageLog& messages)
+Departures::Departures(engine::UserVerbs& userVerbs, MessageLog& messages,
+                       const formats::SlotChoice& slots)
     : norm_(userVerbs, messages, {.variety = engine::Variety::norm}),
-      system_(userVerbs, messages, {}) {}
+      system_(userVerbs, messages, {.slots = slots}) {}
 
 void Departures::begin(Utf8Text& out) {
   out.append("infinitive\tslot\tmood\ttense\tperson\tform\tnorm\n");
@@ -39,7 +40,7 @@ formats::Answer Departures::append(Utf8Text& out, const Question& question) {
   const engine::Display& norm = inNorm.conjugation.shown;
   const engine::Display& system = answer.conjugation.shown;
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
-    if (!engine::departs(system, norm, slot)) continue;
+    if (!answer.slots.has(slot) || !engine::departs(system, norm, slot)) continue;
     engine::setPhrase(systemPhrase_, system, slot);
     engine::setPhrase(normPhrase_, norm, slot);
     appendLine(out, system.boxes[engine::slot::kInfinitive], slot, systemPhrase_, normPhrase_);

@@ -12,7 +12,8 @@ namespace odmiennik::cli {
 // Answers each question twice, in the norm and as the system does, and lists where they differ.
 class Departures {
  public:
-  Departures(engine::UserVerbs& userVerbs, MessageLog& messages);
+  Departures(engine::UserVerbs& userVerbs, MessageLog& messages,
+             const formats::SlotChoice& slots = {});
 
   // The header of the list.
   static void begin(Utf8Text& out);

@@ -7,6 +7,7 @@
 #include "engine/string_table.h"
 #include "engine/windows1252.h"
 #include "finder/letters.h"
+#include "formats/tense_name.h"
 
 namespace odmiennik::cli {
 namespace {
@@ -50,6 +51,18 @@ bool appendRecord(Utf8Text& out, Utf8View infinitive) {
   if (french.fault != engine::Utf8Fault::none) return false;
   dictionary::GeneralVerbIndex index;
   return appendLine(out, index.record(engine::lookupKey(french.text)));
+}
+
+bool appendSlots(Utf8Text& out, Utf8View) {
+  out.append("slot\tmood\ttense\tperson\tname\n");
+  for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+    const engine::Tense& tense = engine::tenseOf(slot);
+    out.append(decimal(slot));
+    for (const Utf8View field : {tense.mood, tense.name, engine::personOf(slot)})
+      out.append("\t").append(field);
+    out.append("\t").append(formats::tenseName(tense)).append("\n");
+  }
+  return true;
 }
 
 bool appendStrings(Utf8Text& out, Utf8View) {

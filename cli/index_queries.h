@@ -19,6 +19,10 @@ bool appendCompletion(Utf8Text& out, Utf8View prefix);
 // "laver".
 bool appendRecord(Utf8Text& out, Utf8View infinitive);
 
+// A header and a line for each slot of a conjugation: number, mood, tense, person, and the tense as
+// `--tenses` takes it: "51\tSubjonctif\tprésent\tnous\tsubjonctif présent".
+bool appendSlots(Utf8Text& out, Utf8View);
+
 // Every entry of the string table, raw: identifier, TAB, text, in ascending order.
 bool appendStrings(Utf8Text& out, Utf8View);
 

@@ -61,6 +61,11 @@ bool takeColours(Options& options, Utf8View value) {
   return name != std::end(kNames);
 }
 
+bool takeTense(Options& options, Utf8View name) { return addTense(options.tenses, name); }
+bool takePerson(Options& options, Utf8View name) { return addPerson(options.persons, name); }
+
+Utf8Text namesOfPersons() { return "je, tu, il, nous, vous, ils"; }
+
 bool takeEditing(Options& options, Utf8View) { return options.isEditing = true; }
 
 template <Query Asked>
@@ -80,6 +85,10 @@ constexpr OptionRow kOptions[] = {
      {kFormatNames.data(), kFormatNames.size()},
      takeFormat,
      "postać wyniku (domyślnie text); też -f"},
+    {"--tenses", 0, "CZASY", takeTense, "tylko te czasy, po przecinku: \"imparfait,subjonctif\"",
+     namesOfTenses},
+    {"--persons", 0, "je|tu|il|nous|vous|ils", takePerson,
+     "tylko te osoby, po przecinku: nous,vous", namesOfPersons},
     {"--folder", 0, "KATALOG", takeFolder, "katalog programu z czasownikami użytkownika"},
     {"--auxiliary", 0, "avoir|etre", takeAuxiliary,
      "przełącz potem czasownik posiłkowy czasów złożonych"},
@@ -91,6 +100,7 @@ constexpr OptionRow kOptions[] = {
     {"--list", 0, "POCZĄTEK", ask<appendVerbsBeginning>, "wypisz czasowniki spisu o tym początku"},
     {"--complete", 0, "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
     {"--record", 0, "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
+    {"--slots", 0, "", ask<appendSlots>, "wypisz pola odmiany: numer, tryb, czas, osoba"},
     {"--strings", 0, "", ask<appendStrings>, "wypisz ponumerowane teksty programu"},
     {"--help", 'h', "", ask<appendHelp>, "wyświetl tę pomoc; też -h"},
     {"--version", 'V', "", ask<appendVersion>, "wyświetl wersję programu; też -V"},
@@ -130,6 +140,17 @@ WrittenOption readOption(Utf8View argument) {
   return {name, rowOf(name), argument.substr(equals + 1)};
 }
 
+// Gives the option its value, or its values one by one; the one that it does not take.
+std::optional<Utf8View> refusedPart(const OptionRow& row, Options& options, Utf8View value) {
+  for (;;) {
+    const auto comma = row.values == nullptr ? Utf8View::npos : value.find(',');
+    const Utf8View part = value.substr(0, comma);
+    if (!row.apply(options, part)) return part;
+    if (comma == Utf8View::npos) return std::nullopt;
+    value.remove_prefix(comma + 1);
+  }
+}
+
 // The names of the options that stand on a command line.
 using Given = std::vector<Utf8View>;
 
@@ -148,8 +169,9 @@ Utf8Text takeOption(Options& options, Given& given, std::span<const Utf8Text>& r
     rest = rest.subspan(1);
   }
   const Query before = options.query;
-  if (!row->apply(options, value))
-    return "niewłaściwa wartość " + quoted(value) + " opcji " + quoted(name) + ".";
+  if (const auto refused = refusedPart(*row, options, value))
+    return "niewłaściwa wartość " + quoted(*refused) + " opcji " + quoted(name) +
+           (row->values == nullptr ? "." : "; możliwe: " + row->values() + Utf8Text("."));
   if (before != nullptr && options.query != before)
     return "opcja " + quoted(name) + " nie łączy się z poprzednimi.";
   const bool isDefault = row->apply == takeFormat && options.format == &formats::kFormats[0];
@@ -158,19 +180,21 @@ Utf8Text takeOption(Options& options, Given& given, std::span<const Utf8Text>& r
 }
 
 // Of these a command line takes one.
-constexpr Utf8View kTasks[] = {"--edit", "--norm",     "--departures", "--find",
-                               "--list", "--complete", "--record",     "--strings"};
+constexpr Utf8View kTasks[] = {"--edit",     "--norm",   "--departures", "--find",   "--list",
+                               "--complete", "--record", "--slots",      "--strings"};
 
 // What a task has no use for.
 struct Useless {
   Utf8View task;
   std::span<const Utf8View> options;
 };
-constexpr Utf8View kOfConjugations[] = {"--format", "--auxiliary"};
-constexpr Utf8View kAuxiliary[] = {"--auxiliary"};
-constexpr Useless kUseless[] = {{"--departures", kOfConjugations}, {"--find", kAuxiliary},
-                                {"--list", kOfConjugations},       {"--complete", kOfConjugations},
-                                {"--record", kOfConjugations},     {"--strings", kOfConjugations}};
+constexpr Utf8View kShape[] = {"--format", "--auxiliary"};
+constexpr Utf8View kOfConjugations[] = {"--format", "--auxiliary", "--tenses", "--persons"};
+constexpr Utf8View kOfForms[] = {"--auxiliary", "--tenses", "--persons"};
+constexpr Useless kUseless[] = {{"--departures", kShape},      {"--find", kOfForms},
+                                {"--list", kOfConjugations},   {"--complete", kOfConjugations},
+                                {"--record", kOfConjugations}, {"--slots", kOfConjugations},
+                                {"--strings", kOfConjugations}};
 
 bool isAmong(std::span<const Utf8View> names, Utf8View name) {
   return std::ranges::find(names, name) != names.end();
@@ -193,6 +217,11 @@ Utf8Text faultOfChoice(std::span<const Utf8View> given) {
       if (excludeEachOther(given[later], before))
         return "opcja " + quoted(given[later]) + " nie łączy się z " + quoted(before) + ".";
   return {};
+}
+
+Utf8Text faultOfSlots(const Options& options) {
+  if (!slotsOf(options.tenses, options.persons).isEmpty()) return {};
+  return "żaden z wybranych czasów nie ma wybranych osób.";
 }
 
 Utf8Text faultOfFormat(const Options& options) {
@@ -224,6 +253,7 @@ ParsedOptions parseOptions(std::span<const Utf8Text> arguments) {
     parsed.error = "nadmiarowy argument " + quoted(options.infinitives.front()) + ".";
   if (parsed.error.empty()) parsed.error = faultOfChoice(given);
   if (parsed.error.empty()) parsed.error = faultOfFormat(options);
+  if (parsed.error.empty()) parsed.error = faultOfSlots(options);
   return parsed;
 }
 

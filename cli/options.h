@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "cli/slot_names.h"
 #include "engine/utf8.h"
 #include "formats/format.h"
 
@@ -28,6 +29,8 @@ struct Options {
   bool isInNorm = false;         // today's norm in the place of the system's forms
   bool isFinding = false;        // the arguments are forms, and their verbs are asked for
   bool listsDepartures = false;  // only the forms in which the two differ
+  Tenses tenses;                 // printed alone; without any all are
+  Persons persons;
   std::optional<std::uint8_t> auxiliary;
   std::optional<Utf8View> folder;
   std::vector<Utf8View> infinitives;
@@ -52,6 +55,9 @@ struct OptionRow {
   Utf8View valueName;  // empty for an option without a value
   Apply apply;
   Utf8View help;  // Polish, one line
+  // Of an option that takes several values, commas between them, and takes each by itself: all
+  // that there are.
+  Utf8Text (*values)() = nullptr;
 };
 
 // All options, in the order in which --help lists them.

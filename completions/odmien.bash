@@ -9,8 +9,13 @@ _odmien() {
   [[ $previous == -* ]] &&
     values=$(odmien --help | sed -n "s/^  $previous \([^ ]*\).*/\1/p")
   case $values in
+    CZASY) values=$(odmien --slots | sed '1d; s/.*\t//; s/ /-/g' | uniq) ;;&
     KATALOG) mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-    *[a-z]*) mapfile -t COMPREPLY < <(compgen -W "${values//|/ }" -- "$current") ;;
+    CZASY | *[a-z]*)
+      # Several values stand behind each other with commas between them.
+      local last=${current##*,}
+      mapfile -t COMPREPLY < <(compgen -P "${current%"$last"}" -W "${values//|/ }" -- "$last")
+      ;;
     *)
       if [[ -z $values && $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(odmien --help | sed -n 's/^  \(--[a-z]*\).*/\1/p')" \

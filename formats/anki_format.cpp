@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Cards for Anki, as it imports text: front "manger, imparfait, nous", back the phrase, tags.
-#include <algorithm>
-
 #include "dictionary/verb_labels.h"
 #include "formats/format.h"
 #include "formats/phrase.h"
 #include "formats/printable.h"
 #include "formats/quoted_field.h"
+#include "formats/tense_name.h"
 #include "formats/text_layout.h"
 
 namespace odmiennik::formats {
@@ -15,17 +14,6 @@ namespace {
 // A blank would begin another tag: "passé composé" -> "passé-composé".
 void appendTag(Utf8Text& out, Utf8View text) {
   for (const char letter : text) out.push_back(letter == ' ' ? '-' : letter);
-}
-
-// The tense as it is called, with its mood but for the indicative.
-void appendTense(Utf8Text& out, const engine::Tense& tense) {
-  if (tense.mood != engine::kTenses.front().mood) {
-    Utf8Text mood(tense.mood);
-    std::transform(mood.begin(), mood.begin() + 1, mood.begin(),
-                   [](char letter) { return static_cast<char>(letter - 'A' + 'a'); });
-    out.append(mood).append(" ");
-  }
-  out.append(tense.name);
 }
 
 // At the start of a field it would begin a quoted one.
@@ -39,8 +27,10 @@ class AnkiFormat final : public Format {
 
   void append(Utf8Text& out, const Answer& answer) override {
     if (answer.isRefused) return;
-    for (int slot = 0; slot < engine::kSlotCount; ++slot)
-      if (slot != engine::slot::kInfinitive) appendCard(out, answer, slot);  // it is asked with
+    for (int slot = 0; slot < engine::kSlotCount; ++slot) {
+      const bool isAskedWith = slot == engine::slot::kInfinitive;
+      if (answer.slots.has(slot) && !isAskedWith) appendCard(out, answer, slot);
+    }
   }
 
  private:
@@ -50,8 +40,7 @@ class AnkiFormat final : public Format {
     const engine::Tense& tense = engine::tenseOf(slot);
     front_.clear();
     appendPrintable(front_, cellOf(shown, engine::slot::kInfinitive).form);
-    front_.append(", ");
-    appendTense(front_, tense);
+    front_.append(", ").append(tenseName(tense));
     if (const Utf8View person = engine::personOf(slot); !person.empty())
       front_.append(", ").append(person);
     appendField(out, front_, kMarks);

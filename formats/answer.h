@@ -6,6 +6,7 @@
 
 #include "engine/conjugation.h"
 #include "engine/utf8.h"
+#include "formats/slot_choice.h"
 
 namespace odmiennik::formats {
 
@@ -15,7 +16,8 @@ struct Answer {
   const engine::Conjugation& conjugation;
   const std::vector<Utf8Text>& messages;
   bool isPronominal;
-  bool isRefused;  // no conjugation came of it
+  bool isRefused;         // no conjugation came of it
+  SlotChoice slots = {};  // what of it is printed
 };
 
 }  // namespace odmiennik::formats

@@ -24,7 +24,8 @@ class CsvFormat final : public Format {
     const engine::Display& shown = answer.conjugation.shown;
     infinitive_.clear();
     appendPrintable(infinitive_, cellOf(shown, engine::slot::kInfinitive).form);
-    for (int slot = 0; slot < engine::kSlotCount; ++slot) appendSlot(out, shown, slot);
+    for (int slot = 0; slot < engine::kSlotCount; ++slot)
+      if (answer.slots.has(slot)) appendSlot(out, shown, slot);
   }
 
  private:

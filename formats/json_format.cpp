@@ -49,7 +49,7 @@ class JsonFormat final : public Format {
   void append(Utf8Text& out, const Answer& answer) override {
     const engine::Conjugation& conjugation = answer.conjugation;
     appendUtf8(out, R"({"typed":)", answer.typed);
-    appendTable(out, conjugation);
+    appendTable(out, conjugation, answer.slots);
     appendLabels(out, dictionary::labelsOf(conjugation.information));
     appendFlag(out, R"(,"aux_checked":)", conjugation.flags.auxiliary == engine::kAvoir);
     appendFlag(out, R"(,"aux_enabled":)", conjugation.information.isAuxiliaryFree);
@@ -63,8 +63,8 @@ class JsonFormat final : public Format {
   }
 
  private:
-  void appendTable(Utf8Text& out, const engine::Conjugation& conjugation) {
-    appendForms(out, conjugation.forms, conjugation.shown);
+  void appendTable(Utf8Text& out, const engine::Conjugation& conjugation, const SlotChoice& slots) {
+    appendForms(out, conjugation.forms, conjugation.shown, slots);
     appendFrench(out, R"(,"pronouns":)", conjugation.shown.pronouns);
     appendFrench(out, R"(,"captions":)", conjugation.shown.captions);
   }
@@ -76,15 +76,19 @@ class JsonFormat final : public Format {
   }
 
   // Slots and boxes side by side: most boxes show their slot whole, and its JSON is copied, which
-  // is a tenth of an answer's instructions.
-  void appendForms(Utf8Text& out, const engine::FormTable& forms, const engine::Display& shown) {
+  // is a tenth of an answer's instructions. What is not printed is empty: every slot keeps its
+  // place.
+  void appendForms(Utf8Text& out, const engine::FormTable& forms, const engine::Display& shown,
+                   const SlotChoice& chosen) {
     char* const slots = room_.of(roomForArray(forms));
     char* const boxes = boxRoom_.of(roomForArray(shown.boxes));
     char* slotEnd = slots;
     char* boxEnd = boxes;
     for (int slot = 0; slot < engine::kSlotCount; ++slot) {
-      const std::string_view form = forms[slot];
-      const std::string_view box = shown.boxes[static_cast<std::size_t>(slot)];
+      const bool isChosen = chosen.has(slot);
+      const std::string_view form = isChosen ? forms[slot] : std::string_view{};
+      const std::string_view box =
+          isChosen ? shown.boxes[static_cast<std::size_t>(slot)] : std::string_view{};
       *slotEnd++ = *boxEnd++ = slot == 0 ? '[' : ',';
       const char* const written = slotEnd;
       slotEnd = writeJsonFrench(slotEnd, form);

@@ -11,9 +11,11 @@ const engine::Tense& tenseAt(int position) {
   return engine::kTenses[static_cast<std::size_t>(position)];
 }
 
-bool hasForm(const engine::Display& shown, Band tenses, int row) {
-  return std::ranges::any_of(
-      tenses, [&](int tense) { return !cellOf(shown, slotOf(tense, row)).isMissing(); });
+bool hasForm(const engine::Display& shown, const SlotChoice& slots, Band tenses, int row) {
+  return std::ranges::any_of(tenses, [&](int tense) {
+    const int slot = slotOf(tense, row);
+    return slots.has(slot) && !cellOf(shown, slot).isMissing();
+  });
 }
 
 }  // namespace
@@ -24,17 +26,19 @@ Utf8View personOf(const TenseTable& table, int row) {
   return engine::personOf(slotOf(table.tenses.front(), row));
 }
 
-std::vector<TenseTable> tenseTablesOf(const engine::Display& shown) {
+std::vector<TenseTable> tenseTablesOf(const engine::Display& shown, const SlotChoice& slots) {
   constexpr std::size_t kColumns = 3;
   std::vector<TenseTable> tables;
   Utf8View mood;
   for (const Band band : bandsOf(kColumns)) {
-    const engine::Tense& first = tenseAt(band.front());
+    const std::vector<int> tenses = chosenOf(band, slots);
+    if (tenses.empty()) continue;
+    const engine::Tense& first = tenseAt(tenses.front());
     TenseTable& table = tables.emplace_back();
     if (first.mood != mood) table.mood = mood = first.mood;
-    table.tenses = band;
+    table.tenses = tenses;
     for (int row = 0; row < first.slotCount; ++row)
-      if (hasForm(shown, band, row)) table.rows.push_back(row);
+      if (hasForm(shown, slots, tenses, row)) table.rows.push_back(row);
   }
   return tables;
 }

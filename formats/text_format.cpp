@@ -35,16 +35,19 @@ class VerbTable {
       : page_(page),
         conjugation_(answer.conjugation),
         shown_(answer.conjugation.shown),
-        columnCount_(columnCountFor(answer.conjugation.shown)) {}
+        slots_(answer.slots),
+        columnCount_(columnCountFor(answer.conjugation.shown, answer.slots)) {}
 
   void write() {
     writeTitle();
     writeInformation();
     Utf8View mood;
     for (const Band band : bandsOf(columnCount_)) {
+      const std::vector<int> tenses = chosenOf(band, slots_);
+      if (tenses.empty()) continue;
       page_.endLine();
-      if (const auto next = tenseAt(band.front()).mood; next != mood) writeMood(mood = next);
-      writeBand(band);
+      if (const auto next = tenseAt(tenses.front()).mood; next != mood) writeMood(mood = next);
+      writeBand(tenses);
     }
   }
 
@@ -138,15 +141,17 @@ class VerbTable {
     return cellOf(shown_, tenseAt(tense).firstSlot + row);
   }
 
-  // A person that none of the tenses has is left out.
+  // A person that none of the tenses has, or that is not asked for, is left out.
   [[nodiscard]] bool isRowMissing(Band band, int row) const {
-    return std::all_of(band.begin(), band.end(),
-                       [&](int tense) { return cellAt(tense, row).isMissing(); });
+    return std::all_of(band.begin(), band.end(), [&](int tense) {
+      return !slots_.has(tenseAt(tense).firstSlot + row) || cellAt(tense, row).isMissing();
+    });
   }
 
   Page& page_;
   const engine::Conjugation& conjugation_;
   const engine::Display& shown_;
+  const SlotChoice& slots_;
   std::size_t columnCount_;
 };
 

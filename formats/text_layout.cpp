@@ -72,6 +72,13 @@ std::span<const Band> bandsOf(std::size_t columnCount) {
   return kOneColumn;
 }
 
+std::vector<int> chosenOf(Band band, const SlotChoice& slots) {
+  std::vector<int> tenses;
+  for (const int tense : band)
+    if (slots.hasTense(tense)) tenses.push_back(tense);
+  return tenses;
+}
+
 Cell cellOf(const engine::Display& shown, int slot) {
   const auto position = static_cast<std::size_t>(slot);
   const std::string_view form = shown.boxes[position];
@@ -85,11 +92,12 @@ std::string_view captionOf(const engine::Display& shown, int tense) {
   return shown.captions[static_cast<std::size_t>(tense - kFirst)];
 }
 
-std::size_t columnCountFor(const engine::Display& shown) {
+std::size_t columnCountFor(const engine::Display& shown, const SlotChoice& slots) {
   std::size_t widest = 0;
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
-    widest = std::max(widest, cellOf(shown, slot).width());
-  for (const std::string_view caption : shown.captions) widest = std::max(widest, caption.size());
+    if (slots.has(slot)) widest = std::max(widest, cellOf(shown, slot).width());
+  for (const int tense : kAllTenses)
+    if (slots.hasTense(tense)) widest = std::max(widest, captionOf(shown, tense).size());
   for (const std::size_t count : {std::size_t{3}, std::size_t{2}})
     if (widest <= columnWidth(count)) return count;
   return 1;

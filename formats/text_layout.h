@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "engine/display.h"
+#include "formats/slot_choice.h"
 
 namespace odmiennik::formats {
 
@@ -19,6 +21,9 @@ using Band = std::span<const int>;
 // The bands for 1, 2 or 3 columns, in reading order. A compound tense stands below or beside its
 // simple one.
 [[nodiscard]] std::span<const Band> bandsOf(std::size_t columnCount);
+
+// The tenses of a band that have one of the slots.
+[[nodiscard]] std::vector<int> chosenOf(Band band, const SlotChoice& slots);
 
 [[nodiscard]] constexpr std::size_t columnWidth(std::size_t columnCount) {
   return (kPageWidth - (columnCount - 1) * kColumnGap) / columnCount;
@@ -40,7 +45,8 @@ struct Cell {
 // What is said above a subjunctive tense ("Il faut que ..."), else nothing; Windows-1252.
 [[nodiscard]] std::string_view captionOf(const engine::Display& shown, int tense);
 
-// The most columns, up to 3, in which no form is cut; 1 when even that cannot be helped.
-[[nodiscard]] std::size_t columnCountFor(const engine::Display& shown);
+// The most columns, up to 3, in which no form of the slots is cut; 1 when even that cannot be
+// helped.
+[[nodiscard]] std::size_t columnCountFor(const engine::Display& shown, const SlotChoice& slots);
 
 }  // namespace odmiennik::formats

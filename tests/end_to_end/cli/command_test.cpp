@@ -101,6 +101,18 @@ TEST(command, options_have_letters) {
   EXPECT_EQ(run({"-x"}).exitCode, 2);
 }
 
+TEST(command, prints_the_tenses_and_persons_that_are_asked_for) {
+  EXPECT_EQ(run({"-f", "csv", "--tenses", "imparfait", "--persons", "nous", "manger"}).out,
+            "infinitive,slot,mood,tense,person,pronoun,form,phrase\r\n"
+            "manger,9,Indicatif,imparfait,nous,ns,mangions,nous mangions\r\n");
+  EXPECT_TRUE(holds(run({"--departures", "--persons", "il", "lire"}).out, "\til lir\til lit\n"));
+  EXPECT_FALSE(holds(run({"--departures", "--persons", "tu", "lire"}).out, "il lir"));
+  EXPECT_EQ(linesOf(run({"--slots"}).out).size(), 102U);
+  const Result refused = run({"--tenses", "imparfit", "manger"});
+  EXPECT_EQ(refused.exitCode, 2);
+  EXPECT_TRUE(holds(refused.err, "możliwe: présent, imparfait, "));
+}
+
 TEST(command, a_dash_is_standard_input) {
   const Result all = run({"-f", "tsv", "parler", "-", "haïr"}, "finir\n");
   EXPECT_EQ(all.exitCode, 0);

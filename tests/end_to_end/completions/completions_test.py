@@ -52,6 +52,16 @@ class Completions:
         self.assertIn("tsv", found)
         self.assertNotIn("parler", found)
 
+    def test_tenses_are_offered_behind_their_option_without_blanks(self):
+        found = self.offered("--tenses", "")
+        self.assertEqual(len(found), 22)
+        self.assertIn("passé-composé", found)
+        self.assertEqual(self.offered("--tenses", "subjonctif-imp"), ["subjonctif-imparfait"])
+
+    def test_a_second_value_is_offered_behind_a_comma(self):
+        self.assertEqual(self.offered("--persons", "je,no"), ["je,nous"])
+        self.assertEqual(self.offered("--tenses", "imparfait,passé-s"), ["imparfait,passé-simple"])
+
     def test_verbs_are_offered_behind_an_option_that_takes_one(self):
         self.assertIn("parler", self.offered("--record", "parle"))
 

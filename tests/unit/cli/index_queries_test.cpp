@@ -67,6 +67,17 @@ TEST(index_queries, the_whole_index_is_listed_by_letters_or_at_once) {
   EXPECT_EQ(listOf(""), all);
 }
 
+TEST(index_queries, slots_are_mapped_a_line_each) {
+  Utf8Text out;
+  EXPECT_TRUE(appendSlots(out, {}));
+  EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 1 + 101);
+  EXPECT_TRUE(
+      out.starts_with("slot\tmood\ttense\tperson\tname\n"
+                      "0\tIndicatif\tprésent\tje\tprésent\n"));
+  EXPECT_NE(out.find("\n51\tSubjonctif\tprésent\tnous\tsubjonctif présent\n"), std::string::npos);
+  EXPECT_TRUE(out.ends_with("\n100\tParticipe\tpassé composé\t\tparticipe passé composé\n"));
+}
+
 TEST(index_queries, strings_are_raw_and_ascending) {
   Utf8Text out;
   EXPECT_TRUE(appendStrings(out, {}));

@@ -66,7 +66,7 @@ TEST_F(options, that_exclude_each_other_are_named) {
 
 TEST_F(options, of_which_there_can_be_one_exclude_each_other) {
   const std::vector<std::vector<Utf8Text>> tasks = {
-      {"--edit"},      {"--norm"},          {"--departures"},  {"--find"},
+      {"--edit"},      {"--norm"},          {"--departures"},  {"--find"},   {"--slots"},
       {"--list", "a"}, {"--complete", "a"}, {"--record", "a"}, {"--strings"}};
   for (const auto& one : tasks)
     for (const auto& other : tasks) {
@@ -80,8 +80,30 @@ TEST_F(options, of_a_conjugation_are_refused_where_there_is_none) {
   for (const Utf8Text query : {"--list", "--complete", "--record"}) {
     EXPECT_NE(errorOf({query, "a", "--format", "tsv"}), "") << query;
     EXPECT_NE(errorOf({"--auxiliary", "etre", query, "a"}), "") << query;
+    EXPECT_NE(errorOf({query, "a", "--persons", "je"}), "") << query;
     EXPECT_EQ(errorOf({"--color", "always", query, "a", "--folder", "f"}), "") << query;
   }
+}
+
+TEST_F(options, name_several_tenses_and_persons_with_commas) {
+  EXPECT_EQ(parse({"--tenses", "imparfait, subjonctif présent"}).tenses.count(), 2U);
+  EXPECT_EQ(parse({"--tenses=indicatif", "--tenses", "infinitif"}).tenses.count(), 10U);
+  EXPECT_EQ(parse({"--persons", "nous,vous"}).persons, Persons(0b011000));
+  EXPECT_TRUE(parse({}).tenses.none() && parse({}).persons.none());
+}
+
+TEST_F(options, tell_which_tenses_and_persons_there_are) {
+  const Utf8Text error = errorOf({"--tenses", "présent,imparfit"});
+  EXPECT_TRUE(error.starts_with(
+      "niewłaściwa wartość „imparfit” opcji „--tenses”; możliwe: présent, imparfait, "));
+  EXPECT_TRUE(error.ends_with(", participe."));
+  EXPECT_EQ(errorOf({"--persons", "nous,"}),
+            "niewłaściwa wartość „” opcji „--persons”; możliwe: je, tu, il, nous, vous, ils.");
+}
+
+TEST_F(options, that_leave_no_form_are_refused) {
+  EXPECT_EQ(errorOf({"--tenses", "impératif", "--persons", "je,il"}),
+            "żaden z wybranych czasów nie ma wybranych osób.");
 }
 
 TEST_F(options, of_any_task_go_with_help) {
