@@ -24,6 +24,14 @@ Utf8Text fromWide(const wchar_t* text) {
   return utf8;
 }
 
+// Whether the last write failed because nobody reads any more: the C library tells it of some of these
+// alone.
+bool isReaderGone() {
+  const DWORD fault = GetLastError();
+  return errno == EPIPE || fault == ERROR_BROKEN_PIPE || fault == ERROR_NO_DATA ||
+         fault == ERROR_PIPE_NOT_CONNECTED;
+}
+
 }  // namespace
 
 void prepareStreams() {
@@ -65,7 +73,7 @@ WriteResult write(Stream stream, Utf8View bytes) {
   while (!bytes.empty()) {
     const auto block = static_cast<unsigned>(std::min(bytes.size(), kBlock));
     const int size = _write(static_cast<int>(stream), bytes.data(), block);
-    if (size <= 0) return errno == EPIPE ? WriteResult::closed : WriteResult::failed;
+    if (size <= 0) return isReaderGone() ? WriteResult::closed : WriteResult::failed;
     bytes.remove_prefix(static_cast<std::size_t>(size));
   }
   return WriteResult::written;
