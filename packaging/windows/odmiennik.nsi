@@ -36,7 +36,11 @@ VIAddVersionKey /LANG=1045 "LegalCopyright" "© 2026 the Odmiennik developers; G
 !define MUI_FINISHPAGE_RUN "$INSTDIR\bin\odmiennik.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Uruchom Odmiennik"
 
+!define MUI_WELCOMEPAGE_TEXT "Odmiennik zostanie zainstalowany tylko dla Ciebie: uprawnienia administratora nie są potrzebne.$\r$\n$\r$\nKliknij przycisk „Dalej”, aby kontynuować."
 !insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_HEADER_TEXT "Licencja"
+!define MUI_PAGE_HEADER_SUBTEXT "Co wolno robić z programem."
+!define MUI_LICENSEPAGE_TEXT_TOP "Odmiennik jest wolnym oprogramowaniem:"
 !define MUI_LICENSEPAGE_TEXT_BOTTOM "Aby używać programu, nie musisz się na nic zgadzać; licencja mówi, co wolno z nim zrobić."
 !define MUI_LICENSEPAGE_BUTTON "&Dalej"
 !insertmacro MUI_PAGE_LICENSE "${FILES}\LICENSE.txt"
@@ -62,13 +66,14 @@ VIAddVersionKey /LANG=1045 "LegalCopyright" "© 2026 the Odmiennik developers; G
   closed:
 !macroend
 
-; Whole folders are deleted, so only ones that this installer has made.
+; The user may have chosen a folder with a bin of its own: of what others may have, only files of these
+; names are deleted.
 !macro DeleteFiles
-  RMDir /r "$INSTDIR\bin"
+  Delete "$INSTDIR\bin\odmiennik.exe"
+  Delete "$INSTDIR\bin\odmien.exe"
+  RMDir "$INSTDIR\bin"
   RMDir /r "$INSTDIR\share\odmiennik"
   RMDir "$INSTDIR\share"
-  RMDir /r "$INSTDIR\licencje"
-  Delete "$INSTDIR\LICENSE.txt"
   Delete "$INSTDIR\Usuwanie.exe"
 !macroend
 
@@ -80,10 +85,10 @@ Section
   File "${FILES}\odmien.exe"
   SetOutPath "$INSTDIR\share\odmiennik"
   File "${FILES}\Werbolin.chm"
-  SetOutPath "$INSTDIR\licencje"
+  File "${FILES}\LICENSE.txt"
+  SetOutPath "$INSTDIR\share\odmiennik\licencje"
   File /r "${FILES}\licencje\*"
   SetOutPath "$INSTDIR"
-  File "${FILES}\LICENSE.txt"
   WriteUninstaller "$INSTDIR\Usuwanie.exe"
 
   CreateDirectory "$SMPROGRAMS\Odmiennik"
