@@ -5,9 +5,23 @@
 #include "app/common/look.h"
 #include "app/layout/screen_fit.h"
 #include "app/lifetime/developer_buttons.h"
+#include "app/menu_commands.h"
 #include "disk/program_folder.h"
 
 namespace odmiennik::app {
+namespace {
+
+// Whether to go on where the screen is too small; otherwise the program ends at once.
+std::function<bool()> questionOfScreen(const Program::Environment& given) {
+  return [&messages = given.messages, end = given.end] {
+    if (messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)
+      return true;
+    end();
+    return false;
+  };
+}
+
+}  // namespace
 
 Program::Program(const Environment& given)
     : prefix_(disk::AppFolder(given.folder)),
@@ -16,11 +30,11 @@ Program::Program(const Environment& given)
       driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}),
       silentDriver_({index_, userVerbs_, builtinVerbs_, rules_, silence_}),
       norm_(index_, builtinVerbs_, rules_),
-      window_({driver_, silentDriver_, norm_}),
+      window_({driver_, silentDriver_, norm_}, questionOfScreen(given)),
       pointer_(window_),
       settings_({prefix_, userVerbs_, headingColours(), given.messages, given.end, given.files}),
-      closing_(window_, settings_, given.messages, given.end),
-      tips_(window_, *window_.menuBar(), given.store),
+      closing_(window_, settings_, given.messages, editedVerb(), given.end),
+      tips_(window_, given.store, demonstrations(given.messages)),
       startUp_({prefix_, window_, pointer_, settings_, userVerbs_, tips_, closing_, given.messages,
                 layout(), [&store = given.store] { return store.isUsable(); },
                 [this, places = given.helpPlaces] { help_.help().lookIn(places); },
@@ -30,40 +44,35 @@ Program::Program(const Environment& given)
       viewMenu_(window_, chooser_, given.store),
       printing_(window_, given.messages),
       editing_(window_, pointer_, userVerbs_, given.messages, [this] { return printing_.print(); }),
-      typing_(window_, given.store, given.messages),
+      help_(window_, given.store, given.messages,
+            [this] {
+              return Usage{settings_.conjugationCount(), settings_.runCount()};
+            }),
+      typing_(window_, given.store, given.messages, help_.help()),
       listMenu_(window_, prefix_, userVerbs_, editing_),
       findMenu_(window_, userVerbs_, editing_,
                 [this](QLineEdit& field) { typing_.alsoServe(field); }),
       demonstration_(
           window_, editing_, [this](bool isOn) { typing_.suspendCompletion(isOn); }, given.pointer),
-      help_(window_, given.store, given.messages,
-            [this] {
-              return Usage{settings_.conjugationCount(), settings_.runCount()};
-            }),
       tooltips_(window_) {
   giveIconLater(window_);
-  connectParts(given);
+  QObject::connect(&window_, &MainWindow::conjugated, &window_,
+                   [this] { settings_.countConjugation(); });
+  connectMenuCommands(
+      {window_, editing_, typing_, listMenu_, findMenu_, tips_, printing_, viewMenu_, help_});
   connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
 }
 
 Program::~Program() = default;
 
-// What one part needs of another that is made after it, or does not know.
-void Program::connectParts(const Environment& given) {
-  typing_.openHelpWith(help_.help());
-  window_.scaling().setQuestion([given] {
-    if (given.messages.show(dictionary::MessageId::resolutionTooLow) == dictionary::Button::yes)
-      return true;
-    given.end();
-    return false;
-  });
-  closing_.askWith([this] { return editing_.leaveForClosing(); });
-  closing_.stayWith([this] { editing_.stay(); });
-  tips_.demonstrateWith(
-      [&messages = given.messages] { messages.show(dictionary::MessageId::demonstrationWillRun); },
-      [this](int way) { demonstration_.run(way); });
-  QObject::connect(&window_, &MainWindow::conjugated, &window_,
-                   [this] { settings_.countConjugation(); });
+EditedVerb Program::editedVerb() {
+  return {.mayClose = [this] { return editing_.leaveForClosing(); },
+          .stay = [this] { editing_.stay(); }};
+}
+
+Demonstrations Program::demonstrations(dictionary::MessageBoxes& messages) {
+  return {.announce = [&messages] { messages.show(dictionary::MessageId::demonstrationWillRun); },
+          .run = [this](int way) { demonstration_.run(way); }};
 }
 
 LayoutPort Program::layout() {

@@ -63,7 +63,8 @@ class Program {
   [[nodiscard]] DemonstrationRunner& demonstration() { return demonstration_; }
 
  private:
-  void connectParts(const Environment& given);
+  [[nodiscard]] EditedVerb editedVerb();
+  [[nodiscard]] Demonstrations demonstrations(dictionary::MessageBoxes& messages);
   [[nodiscard]] HeadingColourPort headingColours();
   [[nodiscard]] LayoutPort layout();
 
@@ -87,11 +88,11 @@ class Program {
   ViewMenu viewMenu_;
   Printing printing_;
   Editing editing_;
+  HelpCommands help_;
   Typing typing_;
   ListMenu listMenu_;
   FindMenu findMenu_;
   DemonstrationRunner demonstration_;
-  HelpCommands help_;
   Tooltips tooltips_;
 };
 

@@ -63,7 +63,6 @@ inline constexpr MenuRow kMainMenu[] = {
      "Ctrl+B"},
     {MenuKind::checkableItem, "mnuCzasownikAutouzupełnianie", "&Autouzupełnianie",
      MenuState::ready},
-    // deliberate: chosen, it does nothing.
     {MenuKind::item, "mnuEdycjaWyszukaj", "&Wyszukaj", MenuState::ready},
 
     {MenuKind::menu, "mnuWidok", "&Widok", MenuState::ready},
@@ -80,21 +79,22 @@ inline constexpr MenuRow kMainMenu[] = {
     {MenuKind::item, "mnuPomocOProgramie", "&O programie...", MenuState::ready},
 };
 
+[[nodiscard]] constexpr bool isItem(MenuKind kind) {
+  return kind == MenuKind::item || kind == MenuKind::checkableItem;
+}
+
 // The name of an item of the tree; any other text does not compile: MenuItemName("mnuPlikKoniec").
 class MenuItemName {
  public:
   consteval MenuItemName(const char* name) : name_(name) {
     for (const MenuRow& row : kMainMenu)
-      if (row.name == name_ && isChosen(row.kind)) return;
+      if (row.name == name_ && isItem(row.kind)) return;
     noSuchMenuItem();
   }
 
   [[nodiscard]] constexpr Utf8View text() const { return name_; }
 
  private:
-  static constexpr bool isChosen(MenuKind kind) {
-    return kind == MenuKind::item || kind == MenuKind::checkableItem;
-  }
   static void noSuchMenuItem();  // not constexpr: reached, it is the error told
 
   Utf8View name_;

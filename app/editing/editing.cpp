@@ -16,35 +16,24 @@ Editing::Editing(MainWindow& window, WindowPointer& pointer, dictionary::UserVer
       edited_(window, pointer, userVerbs),
       mode_(toUtf8(window.windowTitle()), edited_, messages),
       print_(std::move(print)) {
-  connectCommands();
+  connectControls();
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     connect(&window_.boxes()[slot], &QLineEdit::textChanged, this, &Editing::boxChanged);
   // The auxiliary is saved with the forms.
   connect(&window_, &MainWindow::auxiliaryEdited, this, &Editing::boxChanged);
 }
 
-// Queued, since a command may open a message box: whoever gave it (a screen reader, the menu) is
-// answered before the box waits.
-void Editing::connectCommands() {
-  const auto runs = [this](MenuItemName name, auto command) {
-    connect(&menuItem(*window_.menuBar(), name), &QAction::triggered, this, command,
-            Qt::QueuedConnection);
-  };
+// Queued, since a command may open a message box: whoever gave it (a screen reader) is answered
+// before the box waits.
+void Editing::connectControls() {
   const auto conjugates = [this] { conjugate(); };
-  runs("mnuEdycjaOdmień", conjugates);
-  runs("mnuEdycjaNowyCzasownik", [this] { newVerb(); });
-  runs("mnuCzasownikPrzywróć", [this] { restore(); });
-  runs("mnuPlikZapiszCzasownik", [this] { save(); });
   connect(&window_.boxes().entry(), &QLineEdit::returnPressed, this, conjugates,
           Qt::QueuedConnection);
   connect(&window_.controls().get<QPushButton>(positionOf("cmdOdmień")), &QPushButton::clicked,
           this, conjugates, Qt::QueuedConnection);
-  connect(&menuItem(*window_.menuBar(), "mnuEdycjaEdytujCzasownik"), &QAction::triggered, this,
-          &Editing::enterOrLeave);
 }
 
-// Whoever asks to leave edit mode twice, before the first command has run, does not enter it again.
-void Editing::enterOrLeave() {
+void Editing::enterOrLeaveLater() {
   const auto editUnlessDone = [this, wasEditing = isEditing()] {
     if (wasEditing == isEditing()) edit();
   };

@@ -30,6 +30,9 @@ class Editing final : public QObject, public MainCommands {
 
   // Enters edit mode, or leaves it like conjugate().
   bool edit() override { return run(&EditMode::edit); }
+  // Enters edit mode, or leaves it, from the event loop: whoever asks to leave twice, before the
+  // first command has run, does not enter it again.
+  void enterOrLeaveLater();
   bool newVerb() override;
   // Gives up the user's own forms of the shown verb for the program's, once the user agrees.
   bool restore() { return run(&EditMode::restore); }
@@ -45,8 +48,7 @@ class Editing final : public QObject, public MainCommands {
   bool print() override { return print_(); }
 
  private:
-  void connectCommands();
-  void enterOrLeave();
+  void connectControls();
   bool run(bool (EditMode::*command)());
   void boxChanged();
   void offerRestoring();

@@ -2,21 +2,15 @@
 // Opening the window in which a form is looked for.
 #include "app/finding/find_menu.h"
 
-#include <QMenuBar>
 #include <QShortcut>
 
 #include "app/common/beside.h"
-#include "app/controls/main_menu.h"
 
 namespace odmiennik::app {
 
 FindMenu::FindMenu(MainWindow& main, dictionary::UserVerbsFile& userVerbs, MainCommands& commands,
                    std::function<void(QLineEdit&)> serve)
-    : main_(main), userVerbs_(userVerbs), commands_(commands), serve_(std::move(serve)) {
-  QObject::connect(
-      &menuItem(*main_.menuBar(), "mnuCzasownikZnajdź"), &QAction::triggered, &main_,
-      [this] { open(); }, Qt::QueuedConnection);
-}
+    : main_(main), userVerbs_(userVerbs), commands_(commands), serve_(std::move(serve)) {}
 
 void FindMenu::open() {
   if (window_ == nullptr) create();

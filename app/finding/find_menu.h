@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The menu item that opens the window in which a form is looked for.
+// Opening the window in which a form is looked for.
 #pragma once
 
 #include <QPointer>
@@ -12,7 +12,7 @@
 
 namespace odmiennik::app {
 
-// Connects mnuCzasownikZnajdź of `main`. The window is created when it is asked for, and with it
+// The window is created when it is asked for, and with it
 // what looks for forms, so that a start costs nothing; closed, it keeps its word for the next time.
 class FindMenu {
  public:
@@ -20,8 +20,9 @@ class FindMenu {
   FindMenu(MainWindow& main, dictionary::UserVerbsFile& userVerbs, MainCommands& commands,
            std::function<void(QLineEdit&)> serve);
 
- private:
   void open();
+
+ private:
   void create();
   [[nodiscard]] QString refusedWord() const;
   void conjugate(const std::string& infinitive, int slot);

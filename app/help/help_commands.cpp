@@ -48,28 +48,28 @@ Utf8View topicInFront() {
 
 HelpCommands::HelpCommands(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages,
                            std::function<Usage()> usage)
-    : help_(window, store),
+    : window_(window),
+      messages_(messages),
+      usage_(std::move(usage)),
+      help_(window, store),
       headings_(window.controls(), help_, nullptr),
-      key_([this, &window] { openForFocus(window); }) {
+      key_([this] { openForFocus(); }) {
   QAction& topics = menuItem(*window.menuBar(), "mnuPomocTematy");
   topics.setShortcutContext(Qt::ApplicationShortcut);  // beside the main window too
-  new ItemKey(topics, [this, &window] { openForFocus(window); });
-  QObject::connect(
-      &topics, &QAction::triggered, &help_, [this] { help_.open(kWelcomePage); },
-      Qt::QueuedConnection);
-  QObject::connect(
-      &menuItem(*window.menuBar(), "mnuPomocOProgramie"), &QAction::triggered, &help_,
-      [&window, &messages, usage = std::move(usage)] {
-        auto* about = new AboutWindow(&window, usage(), messages);
-        about->setAttribute(Qt::WA_DeleteOnClose);
-        about->open();
-      },
-      Qt::QueuedConnection);
+  new ItemKey(topics, [this] { openForFocus(); });
 }
 
-void HelpCommands::openForFocus(const MainWindow& window) {
+void HelpCommands::open() { help_.open(kWelcomePage); }
+
+void HelpCommands::showAbout() {
+  auto* about = new AboutWindow(&window_, usage_(), messages_);
+  about->setAttribute(Qt::WA_DeleteOnClose);
+  about->open();
+}
+
+void HelpCommands::openForFocus() {
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
-    if (&window.boxes()[slot] == QApplication::focusWidget())
+    if (&window_.boxes()[slot] == QApplication::focusWidget())
       if (const auto page = topicOfSlot(slot)) return help_.open(*page);
   help_.open(topicInFront());
 }

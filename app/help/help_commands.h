@@ -14,9 +14,9 @@ namespace odmiennik::app {
 
 class MainWindow;
 
-// The items of the menu, the tense headings, and F1 in every window: in a form box the page of its
-// tense, in a window beside the main one its own or that of the window it belongs to, elsewhere the
-// first page of the help.
+// The commands of the menu, the tense headings, and F1 in every window: in a form box the page of
+// its tense, in a window beside the main one its own or that of the window it belongs to, elsewhere
+// the first page of the help.
 class HelpCommands {
  public:
   // `store` keeps what the viewer keeps; `usage` is asked whenever the about window opens.
@@ -28,9 +28,17 @@ class HelpCommands {
 
   [[nodiscard]] HelpViewer& help() { return help_; }
 
- private:
-  void openForFocus(const MainWindow& window);
+  // The first page of the help.
+  void open();
 
+  void showAbout();
+
+ private:
+  void openForFocus();
+
+  MainWindow& window_;
+  dictionary::MessageBoxes& messages_;
+  std::function<Usage()> usage_;
   HelpViewer help_;
   TenseHeadings headings_;
   HelpKey key_;

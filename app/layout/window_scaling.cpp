@@ -26,8 +26,11 @@ Qt::WindowStates largeStates(const QWidget& window) {
 }  // namespace
 
 WindowScaling::WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls,
-                             FormColumns& columns)
-    : window_(window), surface_(surface), scaled_(controls, surface, columns) {
+                             FormColumns& columns, std::function<bool()> mayContinue)
+    : window_(window),
+      surface_(surface),
+      scaled_(controls, surface, columns),
+      mayContinue_(std::move(mayContinue)) {
   gathered_.setSingleShot(true);
   gathered_.setInterval(0);
   connect(&gathered_, &QTimer::timeout, this, &WindowScaling::rescale);

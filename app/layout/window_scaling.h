@@ -22,12 +22,10 @@ class WindowScaling final : public QObject {
   Q_OBJECT
 
  public:
-  // `mayContinue` puts the question of the resolution, and ends the program when it is refused.
+  // `mayContinue` is asked before a rescale on a screen that is too small; it puts the question of
+  // the resolution, and ends the program when it is refused.
   WindowScaling(QMainWindow& window, FormSurface& surface, const Controls& controls,
-                FormColumns& columns);
-
-  // What is asked before a rescale on a screen that is too small; without it nothing is.
-  void setQuestion(std::function<bool()> mayContinue) { mayContinue_ = std::move(mayContinue); }
+                FormColumns& columns, std::function<bool()> mayContinue);
 
   // Rescales to the window's size now; false when the user does not go on in this resolution. May
   // put the question: called from the event loop, never from an event of the window.
@@ -49,7 +47,7 @@ class WindowScaling final : public QObject {
   QMainWindow& window_;
   FormSurface& surface_;
   ScaledLayout scaled_;
-  std::function<bool()> mayContinue_ = [] { return true; };
+  std::function<bool()> mayContinue_;
   QTimer gathered_;
   QTimer dragEnd_{this};
   Qt::WindowStates scaledState_;

@@ -17,8 +17,12 @@ using dictionary::Button;
 using dictionary::MessageId;
 
 Closing::Closing(QWidget& window, SettingsKeeper& settings, dictionary::MessageBoxes& messages,
-                 std::function<void()> end)
-    : window_(window), settings_(settings), messages_(messages), end_(std::move(end)) {
+                 EditedVerb editedVerb, std::function<void()> end)
+    : window_(window),
+      settings_(settings),
+      messages_(messages),
+      editedVerb_(std::move(editedVerb)),
+      end_(std::move(end)) {
   window_.installEventFilter(this);
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Closing::commit,
           Qt::DirectConnection);
@@ -47,7 +51,7 @@ void Closing::commit(QSessionManager& session) {
 bool Closing::prepareForSessionEnd(bool mayAsk) {
   if (hasEnded_) return true;
   const QScopedValueRollback<bool> asking(isAsking_, true);
-  if (mayAsk && !mayClose_()) return false;
+  if (mayAsk && !editedVerb_.mayClose()) return false;
   settings_.SaveSettings();
   isSessionEnding_ = true;
   qGuiApp->installEventFilter(this);
@@ -58,7 +62,7 @@ bool Closing::prepareForSessionEnd(bool mayAsk) {
 void Closing::stayInSession() {
   isSessionEnding_ = false;
   qGuiApp->removeEventFilter(this);
-  stay_();
+  editedVerb_.stay();
 }
 
 bool Closing::eventFilter(QObject* watched, QEvent* event) {
@@ -77,7 +81,8 @@ bool Closing::close() {
   if (isAsking_) return false;  // a second request behind the question of the first
   const QScopedValueRollback<bool> asking(isAsking_, true);
   if (asksToExit() && messages_.show(MessageId::endProgram) != Button::yes) return false;
-  if (!isSessionEnding_ && !mayClose_()) return false;  // an ending session has asked before
+  if (!isSessionEnding_ && !editedVerb_.mayClose())
+    return false;  // an ending session has asked before
   settings_.SaveSettings();
   hasEnded_ = true;
   end_();

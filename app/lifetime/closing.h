@@ -14,6 +14,12 @@ namespace odmiennik::app {
 
 class SettingsKeeper;
 
+// What the end of the program asks of the verb that is being edited.
+struct EditedVerb {
+  std::function<bool()> mayClose;  // the question about it; false keeps the window and its texts
+  std::function<void()> stay;      // a session that was about to end goes on
+};
+
 // Answers the close requests of the main window, and the system's when it shuts down.
 class Closing final : public QObject {
   Q_OBJECT
@@ -21,13 +27,7 @@ class Closing final : public QObject {
  public:
   // `end` ends the program at once; it runs when the window has been closed.
   Closing(QWidget& window, SettingsKeeper& settings, dictionary::MessageBoxes& messages,
-          std::function<void()> end);
-
-  // The question about a verb that is being edited; false keeps the window, with all its texts.
-  void askWith(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
-
-  // Called when a session that was about to end goes on.
-  void stayWith(std::function<void()> stay) { stay_ = std::move(stay); }
+          EditedVerb editedVerb, std::function<void()> end);
 
   // Closes the window without the exit question: a start that is aborted.
   void closeWithoutQuestion();
@@ -55,9 +55,8 @@ class Closing final : public QObject {
   QWidget& window_;
   SettingsKeeper& settings_;
   dictionary::MessageBoxes& messages_;
+  EditedVerb editedVerb_;
   std::function<void()> end_;
-  std::function<bool()> mayClose_ = [] { return true; };
-  std::function<void()> stay_ = [] {};
   bool noExitQuestion_ = false;
   bool isSessionEnding_ = false;
   bool isAsking_ = false;

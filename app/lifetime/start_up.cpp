@@ -21,13 +21,8 @@
 namespace odmiennik::app {
 namespace {
 
-// The item starts the system's character map; where the system has none it is disabled.
-void offerCharacterMap(QAction& item) {
-  const std::string program = platform::characterMap();
-  item.setEnabled(!program.empty());
-  if (program.empty()) return;
-  QObject::connect(&item, &QAction::triggered, &item, [program] { platform::start(program); });
-}
+// Where the system has no character map, the item is disabled.
+void offerCharacterMap(QAction& item) { item.setEnabled(!platform::characterMap().empty()); }
 
 }  // namespace
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The menu items that open the verb list.
+// Opening the verb list.
 #pragma once
 
 #include <QMainWindow>
@@ -10,16 +10,16 @@
 
 namespace odmiennik::app {
 
-// Connects mnuEdycjaLista and mnuEdycjaUsuńCzasownik of `main`. The list window is created when it
-// is asked for, belongs to the main window, and is gone once it has been closed.
+// The list window is created when it is asked for, belongs to `main`, and is gone once it has been
+// closed.
 class ListMenu {
  public:
   ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
            MainCommands& commands);
 
- private:
   void open(ListPurpose purpose);
 
+ private:
   QMainWindow& main_;
   Utf8Text prefix_;
   dictionary::UserVerbsFile& userVerbs_;

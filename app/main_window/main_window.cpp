@@ -56,13 +56,13 @@ class ConjugationBackup {
 
 }  // namespace
 
-MainWindow::MainWindow(Conjugators conjugators)
+MainWindow::MainWindow(Conjugators conjugators, std::function<bool()> mayContinue)
     : conjugators_(conjugators),
       surface_(*new FormSurface(this)),
       controls_(surface_),
       columns_(controls_),
       colours_(controls_, surface_),
-      scaling_(*this, surface_, controls_, columns_),
+      scaling_(*this, surface_, controls_, columns_, std::move(mayContinue)),
       boxes_(controls_),
       information_(controls_),
       auxiliary_(controls_.get<QCheckBox>(positionOf("chkZAvoir"))) {
@@ -74,7 +74,7 @@ MainWindow::MainWindow(Conjugators conjugators)
   for (int slot = 0; slot < engine::kPersonalSlotCount; ++slot)
     surface_.pronouns().setBox(slot, boxes_[slot].geometry());
   resize(sizeHint());
-  connectCommands();
+  connectControls();
 }
 
 MainWindow::~MainWindow() = default;
@@ -94,19 +94,14 @@ void MainWindow::selectEntryWord() {
   boxes_.selectEntry();
 }
 
-// Queued, since a command may open a message box: whoever gave it (a screen reader, the menu) is
-// answered before the box waits.
-void MainWindow::connectCommands() {
-  connect(&menuItem(*menuBar(), "mnuPlikKoniec"), &QAction::triggered, this, &MainWindow::close,
-          Qt::QueuedConnection);
-  connect(&menuItem(*menuBar(), "mnuCzasownikInformacje"), &QAction::triggered, this,
-          &MainWindow::tellInformation);
-  QAction& toEntry = menuItem(*menuBar(), "mnuCzasownikBezokolicznik");
-  toEntry.setShortcutContext(Qt::ApplicationShortcut);  // from the list too
-  connect(&toEntry, &QAction::triggered, this, [this] {
-    activateWindow();
-    boxes_.selectEntry();
-  });
+void MainWindow::goToEntry() {
+  activateWindow();
+  boxes_.selectEntry();
+}
+
+void MainWindow::connectControls() {
+  // From the list too.
+  menuItem(*menuBar(), "mnuCzasownikBezokolicznik").setShortcutContext(Qt::ApplicationShortcut);
   // Not `clicked`: a screen reader ticks the box without clicking it.
   connect(&auxiliary_.widget(), &QCheckBox::toggled, this, &MainWindow::toggleAuxiliary);
 }

@@ -31,7 +31,8 @@ class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Conjugators conjugators);
+  // `mayContinue` puts the question of a screen that is too small (layout/window_scaling.h).
+  MainWindow(Conjugators conjugators, std::function<bool()> mayContinue);
   ~MainWindow() override;
 
   // Conjugates the entry box's text, shows it, and selects the text for the next verb; edit mode
@@ -77,6 +78,12 @@ class MainWindow final : public QMainWindow {
   // a word on how to begin.
   void showEmptyTable();
 
+  // Shows the window in front, with the entry box's text selected.
+  void goToEntry();
+
+  // Says what is known of the shown verb, to the eye and to a screen reader.
+  void tellInformation();
+
   // Puts the word that the window starts with into the entry box, selected.
   void selectEntryWord();
 
@@ -92,12 +99,10 @@ class MainWindow final : public QMainWindow {
   void auxiliaryEdited();
 
  private:
-  void connectCommands();
+  void connectControls();
   void toggleAuxiliary(bool isAvoir);
   void showConjugation();
   [[nodiscard]] QString spokenInformation() const;
-  void tellInformation();
-
   void showDepartures();
 
   Conjugators conjugators_;

@@ -3,13 +3,11 @@
 #include "app/printing/printing.h"
 
 #include <QGuiApplication>
-#include <QMenuBar>
 #include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <vector>
 
-#include "app/controls/main_menu.h"
 #include "app/main_window/main_window.h"
 #include "app/printing/paper_look.h"
 #include "app/printing/printed_picture.h"
@@ -76,14 +74,9 @@ bool printOnPaper(MainWindow& window, const PrintChoices& choices) {
 }  // namespace
 
 Printing::Printing(MainWindow& main, dictionary::MessageBoxes& messages)
-    : main_(main), messages_(messages) {
-  QObject::connect(
-      &menuItem(*main.menuBar(), "mnuPlikDrukuj"), &QAction::triggered, &main, [this] { print(); },
-      Qt::QueuedConnection);
-  QObject::connect(
-      &menuItem(*main.menuBar(), "mnuPlikUstawieniaDrukarki"), &QAction::triggered, &main,
-      [this] { setUpPrinter(main_, choices_); }, Qt::QueuedConnection);
-}
+    : main_(main), messages_(messages) {}
+
+void Printing::setUp() { setUpPrinter(main_, choices_); }
 
 bool Printing::print() {
   const HiddenForPrinting hidden(*main_.centralWidget());

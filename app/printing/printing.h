@@ -9,7 +9,7 @@ namespace odmiennik::app {
 
 class MainWindow;
 
-// Connects mnuPlikDrukuj and mnuPlikUstawieniaDrukarki of `main`, which outlives it.
+// Prints `main`, which outlives it.
 class Printing {
  public:
   Printing(MainWindow& main, dictionary::MessageBoxes& messages);
@@ -18,6 +18,9 @@ class Printing {
   // for the controls that mean nothing there. Shows the message that the printer is not ready and
   // returns false when that fails.
   bool print();
+
+  // Lets the user choose the printer and the paper.
+  void setUp();
 
  private:
   MainWindow& main_;

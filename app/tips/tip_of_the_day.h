@@ -2,26 +2,26 @@
 // When the tip of the day is shown: at start, and when the Help menu asks for it.
 #pragma once
 
-#include <QObject>
 #include <functional>
 #include <optional>
 
-class QMenuBar;
+class QWidget;
 
 namespace odmiennik::app {
 
 class UserStore;
 
-class TipOfTheDay final : public QObject {
-  Q_OBJECT
+// What announces a demonstration over the tip, and what shows the first (0) or the second (1) one
+// once the tip is closed.
+struct Demonstrations {
+  std::function<void()> announce;
+  std::function<void(int way)> run;
+};
 
+class TipOfTheDay {
  public:
-  // Connects the Help menu's items of `menus`; tips appear over `window`.
-  TipOfTheDay(QWidget& window, const QMenuBar& menus, UserStore& store);
-
-  // What announces a demonstration over the tip, and what shows the first (0) or the second (1) one
-  // once the tip is closed. Until then the tip offers none.
-  void demonstrateWith(std::function<void()> announce, std::function<void(int)> demonstrate);
+  // Tips appear over `window`.
+  TipOfTheDay(QWidget& window, UserStore& store, Demonstrations demonstrations);
 
   // The tip at start, unless the user has switched it off. Returns when the window is closed.
   void showAtStart();
@@ -35,8 +35,7 @@ class TipOfTheDay final : public QObject {
 
   QWidget& window_;
   UserStore& store_;
-  std::function<void()> announce_;
-  std::function<void(int)> demonstrate_;
+  Demonstrations demonstrations_;
   bool isForced_ = false;  // the next tip is the how-to
   bool isShown_ = false;
 };

@@ -11,7 +11,6 @@ namespace odmiennik::app {
 Autocompletion::Autocompletion(FormBox& entry, QAction& item, UserStore& store)
     : entry_(entry), store_(store), switch_(store.isCompletionOn()) {
   item.setChecked(switch_.isOn());
-  connect(&item, &QAction::toggled, this, &Autocompletion::invert);
 }
 
 void Autocompletion::invert() {

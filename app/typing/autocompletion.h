@@ -12,7 +12,7 @@ namespace odmiennik::app {
 
 class UserStore;
 
-// The item's check mark is the switch; the user's store keeps it from one run to the next.
+// The item's check mark shows the switch; the user's store keeps it from one run to the next.
 class Autocompletion final : public QObject {
   Q_OBJECT
 
@@ -20,6 +20,8 @@ class Autocompletion final : public QObject {
   Autocompletion(FormBox& entry, QAction& item, UserStore& store);
 
   [[nodiscard]] bool isOn() const { return switch_.isOn() && !isSuspended_; }
+
+  void invert();
 
   // Completes nothing for as long as it is suspended; the switch and the store stay as they are.
   void suspend(bool isSuspended) { isSuspended_ = isSuspended; }
@@ -29,8 +31,6 @@ class Autocompletion final : public QObject {
   void complete();
 
  private:
-  void invert();
-
   FormBox& entry_;
   UserStore& store_;
   CompletionSwitch switch_;

@@ -24,8 +24,12 @@ bool endsWithLetter(const QString& text) {
 }  // namespace
 
 BoxKeys::BoxKeys(const FormBoxes& boxes, const QObject& shortcuts, Autocompletion& completion,
-                 dictionary::MessageBoxes& messages)
-    : boxes_(boxes), shortcuts_(shortcuts), completion_(completion), messages_(messages) {
+                 dictionary::MessageBoxes& messages, HelpOpener& help)
+    : boxes_(boxes),
+      shortcuts_(shortcuts),
+      completion_(completion),
+      messages_(messages),
+      help_(help) {
   for (int slot = 0; slot < engine::kSlotCount; ++slot) boxes_[slot].installEventFilter(this);
   connect(&boxes_.entry(), &FormBox::committed, this, &BoxKeys::committed);
   connect(boxes_.letters(), &FrenchLetters::refused, this, [this] { refused_.refuse(); });
@@ -82,7 +86,7 @@ void BoxKeys::askForHint() {
 void BoxKeys::showHint() {
   const dictionary::Button answer = messages_.show(dictionary::MessageId::typeInfinitive);
   isHintOpen_ = false;
-  if (answer == dictionary::Button::help && help_ != nullptr) help_->openContext(kHowToContext);
+  if (answer == dictionary::Button::help) help_.openContext(kHowToContext);
 }
 
 bool BoxKeys::isShortcut(const QKeyEvent& event) const {

@@ -18,12 +18,10 @@ class BoxKeys final : public QObject {
   Q_OBJECT
 
  public:
-  // `shortcuts` has the actions whose keys are no letters for a box.
+  // `shortcuts` has the actions whose keys are no letters for a box; the hint's Help button opens
+  // `help`.
   BoxKeys(const FormBoxes& boxes, const QObject& shortcuts, Autocompletion& completion,
-          dictionary::MessageBoxes& messages);
-
-  // What the hint's Help button opens; nothing until this is called.
-  void openHelpWith(HelpOpener& help) { help_ = &help; }
+          dictionary::MessageBoxes& messages, HelpOpener& help);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -38,7 +36,7 @@ class BoxKeys final : public QObject {
   const QObject& shortcuts_;
   Autocompletion& completion_;
   dictionary::MessageBoxes& messages_;
-  HelpOpener* help_ = nullptr;
+  HelpOpener& help_;
   ReadOnlyBoxHint hint_;
   RefusedKeys refused_;
   bool isHintOpen_ = false;

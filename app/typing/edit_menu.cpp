@@ -14,22 +14,6 @@
 namespace odmiennik::app {
 namespace {
 
-// An item, when it may be chosen, and what it does.
-struct Item {
-  MenuItemName name;
-  bool EditAvailability::*isAvailable;
-  void (*command)(QLineEdit& box);
-};
-constexpr Item kItems[] = {
-    {"mnuEdycjaCofnij", &EditAvailability::canUndo, [](QLineEdit& box) { box.undo(); }},
-    {"mnuEdycjaWytnij", &EditAvailability::canCut, [](QLineEdit& box) { box.cut(); }},
-    {"mnuEdycjaKopiuj", &EditAvailability::canCopy, [](QLineEdit& box) { box.copy(); }},
-    {"mnuEdycjaWklej", &EditAvailability::canPaste, [](QLineEdit& box) { box.paste(); }},
-    {"mnuEdycjaUsuń", &EditAvailability::canDelete, [](QLineEdit& box) { box.del(); }},
-    {"mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll,
-     [](QLineEdit& box) { box.selectAll(); }},
-};
-
 // Files on the clipboard are no text, though they could be shown as one.
 bool isTextOnClipboard() {
   const QMimeData* content = QGuiApplication::clipboard()->mimeData();
@@ -51,12 +35,15 @@ EditMenu::EditMenu(QMainWindow& window, const FormBoxes& boxes)
 }
 
 void EditMenu::connectItems() {
-  for (const Item& item : kItems)
-    connect(&menuItem(*window_.menuBar(), item.name), &QAction::triggered, this, [this, &item] {
-      isTextOnClipboard_ = isTextOnClipboard();
-      if (auto* box = qobject_cast<QLineEdit*>(active_); box && availability().*item.isAvailable)
-        item.command(*box);
-    });
+  for (const EditCommand& command : kEditCommands)
+    connect(&menuItem(*window_.menuBar(), command.item), &QAction::triggered, this,
+            [this, &command] { run(command); });
+}
+
+void EditMenu::run(const EditCommand& command) {
+  isTextOnClipboard_ = isTextOnClipboard();
+  auto* box = qobject_cast<QLineEdit*>(active_);
+  if (box != nullptr && availability().*command.isAvailable) command.run(*box);
 }
 
 // A text or selection that changes elsewhere says nothing of the active control.
@@ -82,7 +69,7 @@ void EditMenu::showContextMenu(QLineEdit& box, QPoint onScreen) {
   auto* context = new QMenu(&box);
   context->setAttribute(Qt::WA_DeleteOnClose);
   const QList<QAction*> actions = menu_.actions();
-  const qsizetype first = actions.indexOf(&menuItem(*window_.menuBar(), kItems[0].name));
+  const qsizetype first = actions.indexOf(&menuItem(*window_.menuBar(), kEditCommands[0].item));
   context->addActions(actions.sliced(first));
   context->popup(onScreen);
 }
@@ -115,8 +102,8 @@ EditAvailability EditMenu::availability() const {
 
 void EditMenu::refresh() {
   const EditAvailability available = availability();
-  for (const Item& item : kItems)
-    menuItem(*window_.menuBar(), item.name).setEnabled(available.*item.isAvailable);
+  for (const EditCommand& command : kEditCommands)
+    menuItem(*window_.menuBar(), command.item).setEnabled(available.*command.isAvailable);
 }
 
 }  // namespace odmiennik::app

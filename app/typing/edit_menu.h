@@ -3,18 +3,34 @@
 // focus.
 #pragma once
 
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QObject>
 #include <QPointer>
 #include <string>
 
+#include "app/controls/menu_table.h"
 #include "app/logic/edit_commands.h"
 #include "app/main_window/form_boxes.h"
 
-class QLineEdit;
-
 namespace odmiennik::app {
+
+// An item, when it may be chosen, and what it does.
+struct EditCommand {
+  MenuItemName item;
+  bool EditAvailability::*isAvailable;
+  void (*run)(QLineEdit& box);
+};
+inline constexpr EditCommand kEditCommands[] = {
+    {"mnuEdycjaCofnij", &EditAvailability::canUndo, [](QLineEdit& box) { box.undo(); }},
+    {"mnuEdycjaWytnij", &EditAvailability::canCut, [](QLineEdit& box) { box.cut(); }},
+    {"mnuEdycjaKopiuj", &EditAvailability::canCopy, [](QLineEdit& box) { box.copy(); }},
+    {"mnuEdycjaWklej", &EditAvailability::canPaste, [](QLineEdit& box) { box.paste(); }},
+    {"mnuEdycjaUsuń", &EditAvailability::canDelete, [](QLineEdit& box) { box.del(); }},
+    {"mnuEdycjaZaznaczWszystko", &EditAvailability::canSelectAll,
+     [](QLineEdit& box) { box.selectAll(); }},
+};
 
 // The items are available as the active control and the clipboard allow at the moment: when the
 // menu opens, and when a shortcut is pressed with the menu closed.
@@ -29,6 +45,7 @@ class EditMenu final : public QObject {
 
  private:
   void connectItems();
+  void run(const EditCommand& command);
   void followBoxes(const FormBoxes& boxes);
   void showContextMenu(QLineEdit& box, QPoint onScreen);
   void focusChanged(QWidget* now);

@@ -7,11 +7,12 @@
 
 namespace odmiennik::app {
 
-Typing::Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages)
+Typing::Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages,
+               HelpOpener& help)
     : current_(window.boxes()),
       completion_(window.boxes().entry(),
                   menuItem(*window.menuBar(), "mnuCzasownikAutouzupełnianie"), store),
-      keys_(window.boxes(), *window.menuBar(), completion_, messages),
+      keys_(window.boxes(), *window.menuBar(), completion_, messages, help),
       refused_(window.boxes()),
       letters_(window.controls(), current_),
       auxiliary_(window.controls().get<QCheckBox>(positionOf("chkZAvoir")), window.boxes(),

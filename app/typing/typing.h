@@ -17,10 +17,12 @@ class MainWindow;
 
 class Typing {
  public:
-  Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages);
+  // `help` is what the Help button of the read-only boxes' hint opens.
+  Typing(MainWindow& window, UserStore& store, dictionary::MessageBoxes& messages,
+         HelpOpener& help);
 
-  // What the Help button of the read-only boxes' hint opens.
-  void openHelpWith(HelpOpener& help) { keys_.openHelpWith(help); }
+  // Switches completion on or off.
+  void invertCompletion() { completion_.invert(); }
 
   // Nothing is completed while the program itself types.
   void suspendCompletion(bool isSuspended) { completion_.suspend(isSuspended); }

@@ -27,15 +27,10 @@ engine::Variety varietyOf(bool isNorm) {
 
 ViewMenu::ViewMenu(MainWindow& window, ColourChooser& chooser, UserStore& store)
     : window_(window), chooser_(chooser), store_(store) {
-  QAction& onTop = menuItem(*window.menuBar(), "mnuWidokNaWierzchu");
-  onTop.setEnabled(platform::mayPlaceWindows());
-  connect(&onTop, &QAction::triggered, this, &ViewMenu::setOnTop, Qt::QueuedConnection);
-  connect(&menuItem(*window.menuBar(), "mnuWidokKolory"), &QAction::triggered, this,
-          &ViewMenu::showColours, Qt::QueuedConnection);
+  menuItem(*window.menuBar(), "mnuWidokNaWierzchu").setEnabled(platform::mayPlaceWindows());
   QAction& norm = menuItem(*window.menuBar(), "mnuWidokNorma");
   norm.setChecked(store.isNormShown());
   window_.setVariety(varietyOf(norm.isChecked()));
-  connect(&norm, &QAction::toggled, this, &ViewMenu::showNorm);
 }
 
 // The check mark is the item's own.

@@ -16,11 +16,11 @@ class ViewMenu final : public QObject {
  public:
   ViewMenu(MainWindow& window, ColourChooser& chooser, UserStore& store);
 
- private:
   void setOnTop(bool isOnTop);
   void showColours();
   void showNorm(bool isShown);
 
+ private:
   MainWindow& window_;
   ColourChooser& chooser_;
   UserStore& store_;

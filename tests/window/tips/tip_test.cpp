@@ -145,15 +145,21 @@ void TipSuite::theDemonstrationsStandBesideTheHowToAlone() {
 }
 
 void TipSuite::aDemonstrationStartsOnceTheTipIsClosed() {
-  QString told;
-  run_->program.tips().demonstrateWith(
-      [&] { told += QApplication::activeModalWidget() != nullptr ? "announced, " : "alone, "; },
-      [&](int way) {
-        told += QString::number(way) + (QApplication::activeModalWidget() ? " behind it" : "");
-      });
-  ModalVisitor visitor([](QDialog& tip) { part<QPushButton>(tip, "cmdPokaż_1").click(); });
+  const app::DemonstrationRunner& demonstration = run_->program.demonstration();
+  bool isAnnouncedOverTheTip = false;
+  run_->messages.whileShown = [&] {
+    isAnnouncedOverTheTip = QApplication::activeModalWidget() != nullptr;
+  };
+  bool isRunningBehindTheTip = false;
+  ModalVisitor visitor([&](QDialog& tip) {
+    part<QPushButton>(tip, "cmdPokaż_1").click();
+    isRunningBehindTheTip = demonstration.isRunning();
+  });
   run_->program.tips().showHowTo();
-  QCOMPARE(told, "announced, 1");
+  QCOMPARE(run_->messages.shown, std::vector{dictionary::MessageId::demonstrationWillRun});
+  QVERIFY(isAnnouncedOverTheTip);
+  QVERIFY(!isRunningBehindTheTip);
+  QVERIFY(demonstration.isRunning());
 }
 
 void TipSuite::breaksOfLinesAreShown() {
