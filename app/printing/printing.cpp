@@ -8,10 +8,12 @@
 #include <QPrinterInfo>
 #include <vector>
 
+#include "app/common/text.h"
 #include "app/main_window/main_window.h"
+#include "app/platform/platform.h"
 #include "app/printing/paper_look.h"
 #include "app/printing/printed_picture.h"
-#include "app/printing/printer_setup.h"
+#include "app/printing/printer_dialog.h"
 
 namespace odmiennik::app {
 namespace {
@@ -76,7 +78,12 @@ bool printOnPaper(MainWindow& window, const PrintChoices& choices) {
 Printing::Printing(MainWindow& main, dictionary::MessageBoxes& messages)
     : main_(main), messages_(messages) {}
 
-void Printing::setUp() { setUpPrinter(main_, choices_); }
+void Printing::setUp() {
+  PrinterDialog dialog(choices_, &main_);
+  if (dialog.exec() != QDialog::Accepted) return;
+  choices_ = dialog.choices();
+  platform::makeDefaultPrinter(toUtf8(dialog.printer()));
+}
 
 bool Printing::print() {
   const HiddenForPrinting hidden(*main_.centralWidget());

@@ -19,7 +19,8 @@ class Printing {
   // returns false when that fails.
   bool print();
 
-  // Lets the user choose the printer and the paper.
+  // Lets the user choose the printer that everything is printed on from now on, and how. Nothing is
+  // printed; Cancel leaves things as they are.
   void setUp();
 
  private:
