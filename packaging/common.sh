@@ -7,7 +7,7 @@ jobs=${ODMIENNIK_JOBS:-$(nproc)}
 
 # The same commit gives the same bytes: its time stands in for the clock, and languages and zones of the
 # one who builds do not matter.
-SOURCE_DATE_EPOCH=$(git -C "$project" log -1 --format=%ct)
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$project" log -1 --format=%ct)}
 export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
 
 say() { echo "$*" >&2; }
