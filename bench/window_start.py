@@ -3,8 +3,9 @@
 """Times programs from their start to the first pixel of their window, side by side.
 
 window_start.py [-n RUNS] [--most RATIO] PROGRAM... starts the programs in turns on an X server of
-its own (Xvfb, no window manager), prints the medians of each (by the clock, on the
-processor, memory) and its ratio to the first one. With --most, a ratio above it is exit code 1.
+its own (Xvfb, no window manager), those for Windows (.exe) under Wine, and prints the medians of
+each (by the clock, on the processor, memory) and its ratio to the first one. With --most, a ratio
+above it is exit code 1.
 
 Example: window_start.py --most 1.5 build/bin/bare_window build/bin/odmiennik
 """
@@ -19,6 +20,7 @@ import sys
 import tempfile
 import time
 
+WINE = os.path.join(os.path.dirname(__file__), "..", "packaging", "windows", "wine")
 WIDTH, HEIGHT = 1024, 768
 LIMIT_SECONDS = 20
 
@@ -74,10 +76,14 @@ def cpu_milliseconds(process):
     return sum(int(open(thread, encoding="ascii").read().split()[0]) for thread in threads) / 1e6
 
 
+def command(program):
+    return [WINE, program] if program.endswith(".exe") else [program]
+
+
 def run_once(program, screen, environment):
     wait_until(lambda: not screen.is_painted())
     start = time.monotonic()
-    process = subprocess.Popen([program], env=environment)
+    process = subprocess.Popen(command(program), env=environment)
     try:
         wait_until(screen.is_painted)
         milliseconds = (time.monotonic() - start) * 1000
