@@ -58,9 +58,9 @@ open_window() {
 }
 await_window() {
   until_done is_open "Odmiennik v"
-  until_done shows .
-  # A tip of the day may stand in front.
-  shows "Odmiennik v" || keys Escape
+  # A tip of the day stands in front at every start until it is switched off.
+  until_done shows "Porada dnia"
+  keys Escape
   until_done shows "Odmiennik v"
 }
 close_window() {
