@@ -63,9 +63,11 @@ await_window() {
   keys Escape
   until_done shows "Odmiennik v"
 }
+# The program asks before it ends.
 close_window() {
   keys alt+F4
-  until_done closed Odmiennik
+  agreed() { keys alt+t; closed Odmiennik; }
+  until_done agreed
 }
 # saved_in FOLDER VERB
 saved_in() { grep -qa "$2" "$1/Czasowniki.dat"; }
