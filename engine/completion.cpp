@@ -10,39 +10,51 @@ namespace {
 
 bool isBase(const std::string& form) { return !form.empty() && form != kPlaceholder; }
 
-void completeImperfect(FormTable& forms) {
-  if (isBase(forms[3])) buildImperfect(forms, less(forms[3], 3));
+template <typename Forms>
+void completeImperfect(Forms& forms) {
+  if (!isBase(forms[3])) return;
+  noteOrigin(forms, 3, 3);
+  buildImperfect(forms, less(forms[3], 3));
 }
 
-void completeFuture(FormTable& forms) {
+template <typename Forms>
+void completeFuture(Forms& forms) {
   const std::string_view infinitive = forms[slot::kInfinitive];
-  buildFuture(forms, infinitive.ends_with("e") ? less(infinitive, 1) : infinitive);
+  const std::size_t cut = infinitive.ends_with("e") ? 1 : 0;
+  noteOrigin(forms, slot::kInfinitive, cut);
+  buildFuture(forms, less(infinitive, cut));
 }
 
-void completeCompoundTenses(FormTable& forms, std::uint8_t auxiliary, Agreement agreement) {
-  if (isBase(forms[slot::kPastParticiple]) && hasCompoundPlaceholder(forms))
+template <typename Forms>
+void completeCompoundTenses(Forms& forms, std::uint8_t auxiliary, Agreement agreement) {
+  if (isBase(forms[slot::kPastParticiple]) && hasCompoundPlaceholder(tableOf(forms)))
     buildCompoundTenses(forms, auxiliary, {.placeholdersOnly = true, .agreement = agreement});
 }
 
-void completePresentSubjunctive(FormTable& forms) {
+template <typename Forms>
+void completePresentSubjunctive(Forms& forms) {
   if (isBase(forms[5])) buildPresentSubjunctive(forms);
 }
 
-void completeConditional(FormTable& forms) {
+template <typename Forms>
+void completeConditional(Forms& forms) {
   if (isBase(forms[slot::kFuture])) buildConditional(forms);
 }
 
-void completeImperfectSubjunctive(FormTable& forms) {
+template <typename Forms>
+void completeImperfectSubjunctive(Forms& forms) {
   if (isBase(forms[slot::kPastHistoric])) buildImperfectSubjunctive(forms);
 }
 
-void completePresentParticiple(FormTable& forms) {
+template <typename Forms>
+void completePresentParticiple(Forms& forms) {
   if (isBase(forms[3])) buildPresentParticiple(forms);
 }
 
 }  // namespace
 
-void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary, Agreement agreement) {
+template <typename Forms>
+void completeStoredVerb(Forms& forms, std::uint8_t auxiliary, Agreement agreement) {
   if (forms.isPlaceholder(slot::kImperfect)) completeImperfect(forms);
   if (forms.isPlaceholder(slot::kFuture)) completeFuture(forms);
   if (forms.isPlaceholder(slot::kImperative)) buildImperative(forms);
@@ -53,5 +65,8 @@ void completeStoredVerb(FormTable& forms, std::uint8_t auxiliary, Agreement agre
   if (forms.isPlaceholder(slot::kImperfectSubjunctive)) completeImperfectSubjunctive(forms);
   if (forms.isPlaceholder(slot::kPresentParticiple)) completePresentParticiple(forms);
 }
+
+template void completeStoredVerb(FormTable&, std::uint8_t, Agreement);
+template void completeStoredVerb(TracedForms&, std::uint8_t, Agreement);
 
 }  // namespace odmiennik::engine

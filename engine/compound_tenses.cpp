@@ -113,7 +113,8 @@ class AuxiliaryFormsOfNorm {
 
 }  // namespace
 
-void buildCompoundTenses(FormTable& forms, std::uint8_t auxiliary, CompoundOptions options) {
+template <typename Forms>
+void buildCompoundTenses(Forms& forms, std::uint8_t auxiliary, CompoundOptions options) {
   const std::string_view stored = forms[slot::kPastParticiple];
   const std::string_view base = stored.substr(0, stored.find_first_of(";/,"));
   if (base.empty()) return;
@@ -123,14 +124,21 @@ void buildCompoundTenses(FormTable& forms, std::uint8_t auxiliary, CompoundOptio
   const bool isNorm = options.agreement != Agreement::system;
   const bool placeholdersOnly = options.placeholdersOnly || forms.isPlaceholder(slot::kPerfect);
   const AuxiliaryFormsOfNorm ofNorm(auxiliary);
+  noteStep(forms, {}, false, false);
+  noteMaker(forms, Maker::compound);
+  noteOrigin(forms, slot::kPastParticiple);
   for (const CompoundSlot& row : kCompoundSlots) {
-    std::string& form = forms[row.slot];
+    const std::string& form = forms[row.slot];
     if (options.keepsEmptySlots && form.empty()) continue;
     if (placeholdersOnly && form != kPlaceholder) continue;
-    setTo(form, isNorm ? ofNorm[row.auxiliaryIndex] : auxiliaryForm(auxiliary, row.auxiliaryIndex),
-          tails[isNorm ? row.numberInNorm : row.number]);
+    putCompound(forms, row.slot,
+                isNorm ? ofNorm[row.auxiliaryIndex] : auxiliaryForm(auxiliary, row.auxiliaryIndex),
+                row.auxiliaryIndex, tails[isNorm ? row.numberInNorm : row.number], base);
   }
 }
+
+template void buildCompoundTenses(FormTable&, std::uint8_t, CompoundOptions);
+template void buildCompoundTenses(TracedForms&, std::uint8_t, CompoundOptions);
 
 bool hasCompoundPlaceholder(const FormTable& forms) {
   return std::any_of(kCompoundSlots.begin(), kCompoundSlots.end(),

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "engine/flags.h"
-#include "engine/form_table.h"
+#include "engine/noting.h"
 
 namespace odmiennik::engine {
 
@@ -19,7 +19,8 @@ struct CompoundOptions {
 // forms of the auxiliary (0 être, 1 avoir). A "*" in slot 24 means placeholdersOnly whatever the
 // caller says. Without a participle nothing is written.
 // Example: "allé" with être -> slot 27 "sommes allé(e)s".
-void buildCompoundTenses(FormTable& forms, std::uint8_t auxiliary, CompoundOptions options);
+template <typename Forms>
+void buildCompoundTenses(Forms& forms, std::uint8_t auxiliary, CompoundOptions options);
 
 // Whether any compound slot still waits for its form.
 [[nodiscard]] bool hasCompoundPlaceholder(const FormTable& forms);

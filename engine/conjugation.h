@@ -8,6 +8,7 @@
 #include "engine/display.h"
 #include "engine/flags.h"
 #include "engine/form_table.h"
+#include "engine/noting.h"
 #include "engine/utf8.h"
 #include "engine/verb_information.h"
 
@@ -31,5 +32,16 @@ struct Conjugation {
   std::string storedInfinitive;  // slot 96 of the user's record, "" when the verb has none
   Utf8View model;                // the rule that conjugated it, "" for a stored verb
 };
+
+// One whose forms are traced: what each of them was made of, asked for by whoever explains it.
+struct TracedConjugation : Conjugation {
+  Trace trace;
+};
+
+// What the forms are written into.
+[[nodiscard]] inline FormTable& formsOf(Conjugation& conjugation) { return conjugation.forms; }
+[[nodiscard]] inline TracedForms formsOf(TracedConjugation& conjugation) {
+  return {conjugation.forms, conjugation.trace};
+}
 
 }  // namespace odmiennik::engine

@@ -16,10 +16,10 @@ constexpr bool staysInThirdPerson(int slot) {
   return slot < kPersonalSlotCount ? slot % 3 == 2 : slot >= slot::kInfinitive;
 }
 
-template <typename Stays>
-void dropPersons(FormTable& forms, Stays stays) {
+template <typename Forms, typename Stays>
+void dropPersons(Forms& forms, Stays stays, Lack lack) {
   for (int slot = 0; slot < kSlotCount; ++slot)
-    if (!stays(slot)) forms[slot].clear();
+    if (!stays(slot)) lose(forms, slot, lack);
 }
 
 std::string_view boxText(int slot, std::string_view form, bool isPronominal, bool isEditing) {
@@ -30,15 +30,21 @@ std::string_view boxText(int slot, std::string_view form, bool isPronominal, boo
 
 }  // namespace
 
-void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display& shown) {
-  if (flags.isImpersonal) dropPersons(forms, staysImpersonal);
-  if (flags.isOfThirdPersonOnly) dropPersons(forms, staysInThirdPerson);
+template <typename Forms>
+void display(Forms& forms, const EngineFlags& flags, bool isEditing, Display& shown) {
+  if (flags.isImpersonal) dropPersons(forms, staysImpersonal, Lack::impersonal);
+  if (flags.isOfThirdPersonOnly) dropPersons(forms, staysInThirdPerson, Lack::thirdPersonOnly);
   shown.isPronominal = flags.isPronominal;
-  for (int slot = 0; slot < kSlotCount; ++slot)
-    shown.boxes[static_cast<std::size_t>(slot)] =
-        boxText(slot, forms[slot], flags.isPronominal, isEditing);
-  chooseSubjectPronouns(forms, flags.hAspirate, shown.pronouns, flags.variety);
-  chooseSubjunctiveCaptions(forms, shown.captions, flags.variety);
+  for (int slot = 0; slot < kSlotCount; ++slot) {
+    std::string_view& box = shown.boxes[static_cast<std::size_t>(slot)];
+    box = boxText(slot, forms[slot], flags.isPronominal, isEditing);
+    noteShown(forms, slot, box);
+  }
+  chooseSubjectPronouns(tableOf(forms), flags.hAspirate, shown.pronouns, flags.variety);
+  chooseSubjunctiveCaptions(tableOf(forms), shown.captions, flags.variety);
 }
+
+template void display(FormTable&, const EngineFlags&, bool, Display&);
+template void display(TracedForms&, const EngineFlags&, bool, Display&);
 
 }  // namespace odmiennik::engine

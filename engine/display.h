@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "engine/flags.h"
+#include "engine/noting.h"
 #include "engine/pronouns.h"
 
 namespace odmiennik::engine {
@@ -23,6 +24,7 @@ struct Display {
 // the two participles; one of the third person alone keeps il and ils. An empty slot shows " -- ",
 // while editing nothing, so that it can be typed into. A reflexive pronoun in a slot is shown only
 // when the verb is conjugated pronominally.
-void display(FormTable& forms, const EngineFlags& flags, bool isEditing, Display& shown);
+template <typename Forms>
+void display(Forms& forms, const EngineFlags& flags, bool isEditing, Display& shown);
 
 }  // namespace odmiennik::engine

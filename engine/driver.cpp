@@ -25,10 +25,13 @@ void keepAuxiliary(std::uint8_t chosen, Conjugation& conjugation) {
   if (isFree) conjugation.flags.auxiliary = chosen;
 }
 
-void completeUnlessEditing(Conjugation& conjugation, bool isEditing) {
+template <typename Verb>
+void completeUnlessEditing(Verb& conjugation, bool isEditing, Maker storedIn) {
+  auto&& forms = formsOf(conjugation);
+  noteStored(forms, storedIn);
   if (isEditing) return;
   const EngineFlags& flags = conjugation.flags;
-  completeStoredVerb(conjugation.forms, flags.auxiliary, flags.agreement);
+  completeStoredVerb(forms, flags.auxiliary, flags.agreement);
 }
 
 // Reads slot 96 into the flags; a reflexive prefix makes the verb pronominal.
@@ -72,18 +75,41 @@ void applyNormTo(EngineFlags& flags, const VerbInformation& information) {
     flags.auxiliary = kEtre;
 }
 
-void agreeParticiple(Conjugation& conjugation) {
-  std::string& participle = conjugation.forms[slot::kPastParticiple];
+template <typename Verb>
+void agreeParticiple(Verb& conjugation) {
+  auto&& forms = formsOf(conjugation);
+  const std::string& participle = forms[slot::kPastParticiple];
   constexpr std::string_view kMarker = "(e)";
   if (conjugation.flags.agreement == Agreement::norm)
-    participle = agreedAlone(participle);
+    replaceParticiple(forms, agreedAlone(participle));
   else if (participle.ends_with(kMarker))
-    participle.resize(participle.size() - kMarker.size());
+    shorten(forms, slot::kPastParticiple, kMarker.size());
+}
+
+template <typename Verb>
+void toggle(Verb& conjugation, bool isAvoir, bool isEditing) {
+  auto&& forms = formsOf(conjugation);
+  conjugation.flags.auxiliary = isAvoir ? kAvoir : kEtre;
+  if (isEditing) return;
+  buildCompoundTenses(forms, conjugation.flags.auxiliary,
+                      {.keepsEmptySlots = conjugation.flags.isConjugationShown,
+                       .agreement = conjugation.flags.agreement});
+  display(forms, conjugation.flags, isEditing, conjugation.shown);
 }
 
 }  // namespace
 
 Outcome Driver::conjugate(Conjugation& conjugation, std::string_view typed) {
+  return answer(conjugation, typed);
+}
+
+Outcome Driver::conjugate(TracedConjugation& conjugation, std::string_view typed) {
+  conjugation.trace.clear();
+  return answer(conjugation, typed);
+}
+
+template <typename Verb>
+Outcome Driver::answer(Verb& conjugation, std::string_view typed) {
   conjugation.flags.isConjugationShown = false;
   conjugation.flags.auxiliary = kAvoir;
   conjugation.forms[slot::kInfinitive].assign(typed);
@@ -110,25 +136,27 @@ Outcome Driver::conjugateForEditing(Conjugation& conjugation, std::string_view t
 }
 
 void Driver::toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEditing) {
-  conjugation.flags.auxiliary = isAvoir ? kAvoir : kEtre;
-  if (isEditing) return;
-  buildCompoundTenses(conjugation.forms, conjugation.flags.auxiliary,
-                      {.keepsEmptySlots = conjugation.flags.isConjugationShown,
-                       .agreement = conjugation.flags.agreement});
-  display(conjugation.forms, conjugation.flags, isEditing, conjugation.shown);
+  toggle(conjugation, isAvoir, isEditing);
 }
 
-void Driver::show(Conjugation& conjugation, bool isEditing) {
+void Driver::toggleAuxiliary(TracedConjugation& conjugation, bool isAvoir, bool isEditing) {
+  toggle(conjugation, isAvoir, isEditing);
+}
+
+template <typename Verb>
+void Driver::show(Verb& conjugation, bool isEditing) {
+  auto&& forms = formsOf(conjugation);
   EngineFlags& flags = conjugation.flags;
   if (flags.isPronominal && flags.variety == Variety::norm)
-    addReflexivePronounsOfNorm(conjugation.forms, flags);
+    addReflexivePronounsOfNorm(forms, flags);
   else if (flags.isPronominal)
-    addReflexivePronouns(conjugation.forms, flags.hAspirate);
-  display(conjugation.forms, flags, isEditing, conjugation.shown);
+    addReflexivePronouns(forms, flags.hAspirate);
+  display(forms, flags, isEditing, conjugation.shown);
   flags.isPronominal = false;
 }
 
-Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std::uint8_t> chosen) {
+template <typename Verb>
+Outcome Driver::fill(Verb& conjugation, bool isEditing, std::optional<std::uint8_t> chosen) {
   EngineFlags& flags = conjugation.flags;
   conjugation.source = Source::none;
   conjugation.model = {};
@@ -153,7 +181,8 @@ Outcome Driver::fill(Conjugation& conjugation, bool isEditing, std::optional<std
   return conjugateByRule(conjugation, !record.empty(), isEditing);
 }
 
-bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive, bool isEditing) {
+template <typename Verb>
+bool Driver::loadUserVerb(Verb& conjugation, std::string_view infinitive, bool isEditing) {
   EngineFlags& flags = conjugation.flags;
   if (!ports_.userVerbs.load(infinitive, conjugation.forms, flags.storedAux)) return false;
   conjugation.storedInfinitive = conjugation.forms[slot::kInfinitive];
@@ -161,25 +190,29 @@ bool Driver::loadUserVerb(Conjugation& conjugation, std::string_view infinitive,
   flags.auxiliary = flags.isPronominal ? kEtre : flags.storedAux;
   flags.isImpersonal = flags.isOfThirdPersonOnly = false;
   applyStoredVerb(flags, conjugation.information);
-  completeUnlessEditing(conjugation, isEditing);
+  completeUnlessEditing(conjugation, isEditing, Maker::userRecord);
   conjugation.source = Source::user;
   return true;
 }
 
-bool Driver::loadBuiltinVerb(Conjugation& conjugation, bool isEditing) {
+template <typename Verb>
+bool Driver::loadBuiltinVerb(Verb& conjugation, bool isEditing) {
   if (!ports_.builtinVerbs.load(conjugation.flags.normalizedInput, conjugation.forms)) return false;
-  completeUnlessEditing(conjugation, isEditing);
+  completeUnlessEditing(conjugation, isEditing, Maker::builtinTable);
+  auto&& forms = formsOf(conjugation);
   if (conjugation.flags.variety == Variety::norm)
-    ports_.rules.applyNorm(conjugation.forms, conjugation.flags.auxiliary, true);
+    ports_.rules.applyNorm(forms, conjugation.flags.auxiliary, true);
   conjugation.source = Source::builtin;
   return true;
 }
 
-Outcome Driver::conjugateByRule(Conjugation& conjugation, bool isKnown, bool isEditing) {
-  FormTable& forms = conjugation.forms;
+template <typename Verb>
+Outcome Driver::conjugateByRule(Verb& conjugation, bool isKnown, bool isEditing) {
+  auto&& forms = formsOf(conjugation);
   const EngineFlags& flags = conjugation.flags;
   forms.clear();
-  forms[slot::kInfinitive].assign(flags.normalizedInput);
+  noteMaker(forms, Maker::infinitive);
+  copy(forms, slot::kInfinitive, flags.normalizedInput);
   const RuleResult result = flags.normalizedInput.ends_with("er")
                                 ? ports_.rules.conjugateFirstGroup(forms, flags.auxiliary)
                                 : ports_.rules.conjugateByEnding(forms, flags.auxiliary, isEditing);

@@ -26,6 +26,9 @@ class Driver {
   // Whoever counts conjugations adds one unless the outcome is `reset`.
   Outcome conjugate(Conjugation& conjugation, std::string_view typed);
 
+  // The same, and notes how every form comes to be.
+  Outcome conjugate(TracedConjugation& conjugation, std::string_view typed);
+
   // Fills the table as the starting point of editing: "*" stays, empty slots show nothing, no
   // ending is refused. The auxiliary is kept when `typed` is the verb already shown.
   Outcome conjugateForEditing(Conjugation& conjugation, std::string_view typed);
@@ -33,16 +36,25 @@ class Driver {
   // The user's click on the auxiliary's check box. Outside editing the compound tenses are rebuilt
   // and displayed; while editing only the flag changes.
   static void toggleAuxiliary(Conjugation& conjugation, bool isAvoir, bool isEditing);
+  static void toggleAuxiliary(TracedConjugation& conjugation, bool isAvoir, bool isEditing);
 
  private:
+  // `Verb` is a Conjugation, or a traced one.
+  template <typename Verb>
+  Outcome answer(Verb& conjugation, std::string_view typed);
   // `chosen` is the auxiliary that the user has chosen for the verb that is shown, if it is this
   // one.
-  Outcome fill(Conjugation& conjugation, bool isEditing, std::optional<std::uint8_t> chosen);
+  template <typename Verb>
+  Outcome fill(Verb& conjugation, bool isEditing, std::optional<std::uint8_t> chosen);
   // `infinitive` has its reflexive prefix still.
-  bool loadUserVerb(Conjugation& conjugation, std::string_view infinitive, bool isEditing);
-  bool loadBuiltinVerb(Conjugation& conjugation, bool isEditing);
-  Outcome conjugateByRule(Conjugation& conjugation, bool isKnown, bool isEditing);
-  void show(Conjugation& conjugation, bool isEditing);
+  template <typename Verb>
+  bool loadUserVerb(Verb& conjugation, std::string_view infinitive, bool isEditing);
+  template <typename Verb>
+  bool loadBuiltinVerb(Verb& conjugation, bool isEditing);
+  template <typename Verb>
+  Outcome conjugateByRule(Verb& conjugation, bool isKnown, bool isEditing);
+  template <typename Verb>
+  void show(Verb& conjugation, bool isEditing);
 
   Ports ports_;
 };

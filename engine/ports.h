@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "engine/flags.h"
-#include "engine/form_table.h"
+#include "engine/noting.h"
 #include "engine/utf8.h"
 
 namespace odmiennik::engine {
@@ -45,19 +45,25 @@ struct RuleResult {
   bool isRefused = false;
 };
 
-// The rules of the three groups; slot 96 holds the infinitive, all other slots are empty.
+// The rules of the three groups; slot 96 holds the infinitive, all other slots are empty. Each is
+// there for a table alone and for one whose trace is kept.
 class RuleSets {
  public:
   virtual ~RuleSets() = default;
   // For an infinitive in "er".
   [[nodiscard]] virtual RuleResult conjugateFirstGroup(FormTable& forms,
                                                        std::uint8_t auxiliary) const = 0;
+  [[nodiscard]] virtual RuleResult conjugateFirstGroup(TracedForms& forms,
+                                                       std::uint8_t auxiliary) const = 0;
   // For any other; while a verb is being edited, no ending is refused.
   [[nodiscard]] virtual RuleResult conjugateByEnding(FormTable& forms, std::uint8_t auxiliary,
+                                                     bool isEditing) const = 0;
+  [[nodiscard]] virtual RuleResult conjugateByEnding(TracedForms& forms, std::uint8_t auxiliary,
                                                      bool isEditing) const = 0;
   // Writes today's norm over the simple forms of a verb that the rules have conjugated, or one that
   // is built in; slot 96 holds the infinitive. What does not depart stays.
   virtual void applyNorm(FormTable& forms, std::uint8_t auxiliary, bool isBuiltin) const = 0;
+  virtual void applyNorm(TracedForms& forms, std::uint8_t auxiliary, bool isBuiltin) const = 0;
 };
 
 enum class Notice : std::uint8_t {

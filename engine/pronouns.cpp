@@ -2,6 +2,8 @@
 // Subject and reflexive pronouns.
 #include "engine/pronouns.h"
 
+#include <type_traits>
+
 #include "engine/french.h"
 #include "engine/norm.h"
 #include "engine/normalization.h"
@@ -61,10 +63,14 @@ std::string_view encliticInNorm(int slot, Adverb adverb) {
 }
 
 // To either half of "assois/assieds"; a half that stands for a missing form has none.
-void appendEnclitics(std::string& form, std::string_view enclitic) {
+template <typename Forms>
+void appendEnclitics(Forms& forms, int slot, std::string_view enclitic) {
+  const std::string& form = forms[slot];
+  const Part part{PieceKind::enclitic, enclitic};
   const auto bar = form.find('/');
-  if (bar != std::string::npos && form.substr(0, bar) != kShownMissing) form.insert(bar, enclitic);
-  form.append(enclitic);
+  if (bar != std::string::npos && form.substr(0, bar) != kShownMissing)
+    insert(forms, slot, bar, part);
+  append(forms, slot, part);
 }
 
 // "me ", "m'", "m'en ", "nous y ": what stands before the form.
@@ -74,20 +80,54 @@ std::string reflexiveInNorm(int slot, std::string_view form, const EngineFlags& 
   return std::string(reflexiveOf(slot, true)) + (flags.adverb == Adverb::en ? "en " : "y ");
 }
 
+template <typename Forms>
+void prepend(Forms& forms, int slot, std::string_view pronoun) {
+  insert(forms, slot, 0, {PieceKind::reflexive, pronoun});
+}
+
 // The infinitives and the compound participle: "se " or "s'".
-void prependThirdPerson(std::string& form, bool hAspirate) {
-  form.insert(0, reflexiveOf(kThirdPerson, elides(form, hAspirate)));
+template <typename Forms>
+void prependThirdPerson(Forms& forms, int slot, bool hAspirate) {
+  prepend(forms, slot, reflexiveOf(kThirdPerson, elides(forms[slot], hAspirate)));
+}
+
+// What is asked of a form: whether a pronoun elides before it, or why.
+template <typename Answer>
+constexpr Answer verdict(bool elides, Elision yes, Elision no) {
+  if constexpr (std::is_same_v<Answer, bool>)
+    return elides;
+  else
+    return elides ? yes : no;
+}
+
+template <typename Answer>
+Answer judge(std::string_view form, bool hAspirate, Variety variety) {
+  const auto vowel = [](bool elides, Elision no) {
+    return verdict<Answer>(elides, Elision::vowel, no);
+  };
+  if (form.empty()) return vowel(false, Elision::none);
+  if (form[0] == 'h') return verdict<Answer>(!hAspirate, Elision::muteH, Elision::aspiratedH);
+  if (variety == Variety::norm && form[0] == "œ"_fr[0]) return vowel(true, Elision::none);
+  if (variety == Variety::norm && form[0] == 'y')
+    return vowel(form.size() > 1 && !isVowel(form[1]), Elision::glide);
+  if (variety == Variety::norm && form[0] == 'i') return vowel(!isUnelided(form), Elision::glide);
+  return vowel(isVowel(form[0]), Elision::none);
+}
+
+template <typename Forms>
+void losePastImperative(Forms& forms) {
+  for (int slot = slot::kPastImperative; slot < slot::kInfinitive; ++slot)
+    lose(forms, slot, Lack::reflexiveImperative);
 }
 
 }  // namespace
 
 bool elides(std::string_view form, bool hAspirate, Variety variety) {
-  if (form.empty()) return false;
-  if (form[0] == 'h') return !hAspirate;
-  if (variety == Variety::norm && form[0] == "œ"_fr[0]) return true;
-  if (variety == Variety::norm && form[0] == 'y') return form.size() > 1 && !isVowel(form[1]);
-  if (variety == Variety::norm && form[0] == 'i') return !isUnelided(form);
-  return isVowel(form[0]);
+  return judge<bool>(form, hAspirate, variety);
+}
+
+Elision elisionBefore(std::string_view form, bool hAspirate, Variety variety) {
+  return judge<Elision>(form, hAspirate, variety);
 }
 
 std::string_view withoutOwnReflexive(int slot, std::string_view form) {
@@ -103,31 +143,38 @@ std::string_view withoutOwnReflexive(int slot, std::string_view form) {
   return form;
 }
 
-void addReflexivePronouns(FormTable& forms, bool hAspirate) {
+template <typename Forms>
+void addReflexivePronouns(Forms& forms, bool hAspirate) {
   for (int slot = 0; slot < kSlotCount; ++slot) {
-    std::string& form = forms[slot];
+    const std::string& form = forms[slot];
     if (!takesReflexive(slot, form)) continue;
     if (isPersonal(slot))
-      form.insert(0, reflexiveOf(slot, elides(form, hAspirate)));
+      prepend(forms, slot, reflexiveOf(slot, elides(form, hAspirate)));
     else if (isImperative(slot))
-      form.append(encliticOf(slot));
+      append(forms, slot, {PieceKind::enclitic, encliticOf(slot)});
     else if (slot >= slot::kInfinitive && slot != slot::kPastParticiple)
-      prependThirdPerson(form, hAspirate);
+      prependThirdPerson(forms, slot, hAspirate);
   }
-  for (int slot = slot::kPastImperative; slot < slot::kInfinitive; ++slot) forms[slot].clear();
+  losePastImperative(forms);
 }
 
-void addReflexivePronounsOfNorm(FormTable& forms, const EngineFlags& flags) {
+template <typename Forms>
+void addReflexivePronounsOfNorm(Forms& forms, const EngineFlags& flags) {
   for (int slot = 0; slot < kSlotCount; ++slot) {
-    std::string& form = forms[slot];
+    const std::string& form = forms[slot];
     if (!takesReflexive(slot, form)) continue;
     if (isImperative(slot))
-      appendEnclitics(form, encliticInNorm(slot, flags.adverb));
+      appendEnclitics(forms, slot, encliticInNorm(slot, flags.adverb));
     else if (isPersonal(slot) || (slot >= slot::kInfinitive && slot != slot::kPastParticiple))
-      form.insert(0, reflexiveInNorm(isPersonal(slot) ? slot : kThirdPerson, form, flags));
+      prepend(forms, slot, reflexiveInNorm(isPersonal(slot) ? slot : kThirdPerson, form, flags));
   }
-  for (int slot = slot::kPastImperative; slot < slot::kInfinitive; ++slot) forms[slot].clear();
+  losePastImperative(forms);
 }
+
+template void addReflexivePronouns(FormTable&, bool);
+template void addReflexivePronouns(TracedForms&, bool);
+template void addReflexivePronounsOfNorm(FormTable&, const EngineFlags&);
+template void addReflexivePronounsOfNorm(TracedForms&, const EngineFlags&);
 
 void chooseSubjectPronouns(const FormTable& forms, bool hAspirate, SubjectPronouns& pronouns,
                            Variety variety) {

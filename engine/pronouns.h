@@ -3,10 +3,11 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "engine/flags.h"
-#include "engine/form_table.h"
+#include "engine/noting.h"
 
 namespace odmiennik::engine {
 
@@ -15,15 +16,29 @@ namespace odmiennik::engine {
 // a consonant, and i but where it is heard as one: j'œuvre, j'ypérite, je yodle, je iodle.
 [[nodiscard]] bool elides(std::string_view form, bool hAspirate, Variety variety = Variety::system);
 
+// Why a pronoun elides before a form, or why not where one might expect it.
+enum class Elision : std::uint8_t {
+  none,        // a consonant
+  vowel,       // elides
+  muteH,       // elides
+  aspiratedH,  // stays whole
+  glide,       // stays whole: a vowel that is heard as a consonant, of the norm
+};
+
+// The reason of elides(), found by the same tests: "habite" -> muteH.
+[[nodiscard]] Elision elisionBefore(std::string_view form, bool hAspirate, Variety variety);
+
 // Writes reflexive pronouns into the table: "laves" -> "te laves", "lave" -> "lave-toi", "laver" ->
 // "se laver". The impératif passé becomes empty; slot 99, "*", empty slots and slots that already
 // have their pronoun stay as they are.
-void addReflexivePronouns(FormTable& forms, bool hAspirate);
+template <typename Forms>
+void addReflexivePronouns(Forms& forms, bool hAspirate);
 
 // The same in the norm: either half of a double imperative has its pronoun,
 // "assois-toi/assieds-toi", and "en" or "y" stands behind the pronoun: "m'en vais", "va-t'en",
 // "s'en aller".
-void addReflexivePronounsOfNorm(FormTable& forms, const EngineFlags& flags);
+template <typename Forms>
+void addReflexivePronounsOfNorm(Forms& forms, const EngineFlags& flags);
 
 // Whether `form` may carry a reflexive pronoun: "me ", "m'", "nous " and their like end in a blank
 // or an apostrophe at one of three places. A glance that settles most forms; only the imperative's

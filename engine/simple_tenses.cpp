@@ -20,31 +20,47 @@ constexpr Endings kPastEndings[] = {
     {"us", "us", "ut", "ûmes"_fr, "ûtes"_fr, "urent"},
 };
 
-void writeTense(FormTable& forms, int firstSlot, std::string_view stem, const Endings& endings) {
+template <typename Forms>
+void writeTense(Forms& forms, int firstSlot, std::string_view base, const Endings& endings) {
   for (int person = 0; person < kPersonCount; ++person)
-    setTo(forms[firstSlot + person], stem, endings[static_cast<std::size_t>(person)]);
+    put(forms, firstSlot + person, stem(base), ending(endings[static_cast<std::size_t>(person)]));
 }
 
-// Each variant of `text` ("a/b") loses `cut` letters and takes the ending.
-void setVariants(std::string& target, std::string_view text, std::size_t cut,
-                 std::string_view ending) {
-  target.clear();
+// Each variant of `text` ("a/b") loses `cut` letters and takes the ending. Not inlined: the rare
+// case would cost the common one registers.
+template <typename Forms>
+[[gnu::noinline]] void putVariants(Forms& forms, int slot, std::string_view text, std::size_t cut,
+                                   std::string_view end) {
+  beginForm(forms, slot);
   for (auto slash = text.find('/'); slash != std::string_view::npos; slash = text.find('/')) {
-    target.append(less(text.substr(0, slash), cut)).append(ending).append("/");
+    append(forms, slot, stem(less(text.substr(0, slash), cut)));
+    append(forms, slot, ending(end));
+    append(forms, slot, {PieceKind::separator, "/"});
     text.remove_prefix(slash + 1);
   }
-  target.append(less(text, cut)).append(ending);
+  append(forms, slot, stem(less(text, cut)));
+  append(forms, slot, ending(end));
 }
 
-// Derives the given persons of a tense from `source`, which loses `cut` letters.
-void deriveTense(FormTable& forms, int firstSlot, std::string_view source, std::size_t cut,
+// Derives the given persons of a tense from the form of `from`, which loses `cut` letters.
+template <typename Forms>
+void deriveTense(Forms& forms, int firstSlot, int from, std::size_t cut,
                  std::initializer_list<int> persons, const Endings& endings) {
+  const std::string_view source = forms[from];
   const bool isDouble = source.find('/') != std::string_view::npos;
+  noteOrigin(forms, from, cut);
   for (const int person : persons) {
-    const std::string_view ending = endings[static_cast<std::size_t>(person)];
-    std::string& form = forms[firstSlot + person];
-    isDouble ? setVariants(form, source, cut, ending) : setTo(form, less(source, cut), ending);
+    const std::string_view end = endings[static_cast<std::size_t>(person)];
+    isDouble ? putVariants(forms, firstSlot + person, source, cut, end)
+             : put(forms, firstSlot + person, stem(less(source, cut)), ending(end));
   }
+}
+
+// A form as it stands in another slot, `cut` letters less.
+template <typename Forms>
+void takeOver(Forms& forms, int slot, int from, std::size_t cut = 0) {
+  noteOrigin(forms, from, cut);
+  copy(forms, slot, less(forms[from], cut));
 }
 
 bool losesItsFinalS(std::string_view form) {
@@ -53,49 +69,65 @@ bool losesItsFinalS(std::string_view form) {
 
 }  // namespace
 
-void buildImperfect(FormTable& forms, std::string_view stem) {
+template <typename Forms>
+void buildImperfect(Forms& forms, std::string_view stem) {
+  noteMaker(forms, Maker::imperfect);
   writeTense(forms, slot::kImperfect, stem, kImperfectEndings);
 }
 
-void buildFuture(FormTable& forms, std::string_view stem) {
+template <typename Forms>
+void buildFuture(Forms& forms, std::string_view stem) {
+  noteMaker(forms, Maker::future);
   writeTense(forms, slot::kFuture, stem, kFutureEndings);
 }
 
-void buildImperative(FormTable& forms) {
-  const std::string_view tu = forms[1];
-  forms[slot::kImperative].assign(losesItsFinalS(tu) ? less(tu, 1) : tu);
-  forms[slot::kImperative + 1].assign(forms[3]);
-  forms[slot::kImperative + 2].assign(forms[4]);
+template <typename Forms>
+void buildImperative(Forms& forms) {
+  noteMaker(forms, Maker::imperative);
+  takeOver(forms, slot::kImperative, 1, losesItsFinalS(forms[1]) ? 1 : 0);
+  takeOver(forms, slot::kImperative + 1, 3);
+  takeOver(forms, slot::kImperative + 2, 4);
 }
 
-void buildPresentSubjunctive(FormTable& forms) {
+template <typename Forms>
+void buildPresentSubjunctive(Forms& forms) {
+  noteMaker(forms, Maker::presentSubjunctive);
   constexpr Endings kEndings{"", "s", "", {}, {}, "nt"};
-  deriveTense(forms, slot::kPresentSubjunctive, forms[5], 2, {0, 1, 2, 5}, kEndings);
+  deriveTense(forms, slot::kPresentSubjunctive, 5, 2, {0, 1, 2, 5}, kEndings);
   for (const int person : {3, 4})
-    forms[slot::kPresentSubjunctive + person].assign(forms[slot::kImperfect + person]);
+    takeOver(forms, slot::kPresentSubjunctive + person, slot::kImperfect + person);
 }
 
-void buildConditional(FormTable& forms) {
-  const std::string_view future = forms[slot::kFuture];
-  if (future.empty()) return;
-  deriveTense(forms, slot::kPresentConditional, future, 2, {0, 1, 2, 3, 4, 5}, kImperfectEndings);
+template <typename Forms>
+void buildConditional(Forms& forms) {
+  if (forms[slot::kFuture].empty()) return;
+  noteMaker(forms, Maker::conditional);
+  deriveTense(forms, slot::kPresentConditional, slot::kFuture, 2, {0, 1, 2, 3, 4, 5},
+              kImperfectEndings);
 }
 
-void buildPastHistoric(FormTable& forms, std::optional<PastEndings> endings,
+template <typename Forms>
+void buildPastHistoric(Forms& forms, std::optional<PastEndings> endings,
                        std::optional<std::string_view> base) {
   const std::string_view infinitive = forms[slot::kInfinitive];
   const PastEndings byInfinitive = infinitive.ends_with("er") ? PastEndings::a : PastEndings::i;
   const auto row = static_cast<std::size_t>(endings.value_or(byInfinitive)) - 1;
+  if (!base) noteOrigin(forms, slot::kInfinitive, 2);
+  noteMaker(forms, Maker::pastHistoric);
   writeTense(forms, slot::kPastHistoric, base.value_or(less(infinitive, 2)), kPastEndings[row]);
 }
 
-void buildPresentParticiple(FormTable& forms) {
+template <typename Forms>
+void buildPresentParticiple(Forms& forms) {
   const std::string_view nous = forms[3];
   if (nous.empty()) return;
-  setTo(forms[slot::kPresentParticiple], less(nous, 3), std::string_view("ant"));
+  noteMaker(forms, Maker::presentParticiple);
+  noteOrigin(forms, 3, 3);
+  put(forms, slot::kPresentParticiple, stem(less(nous, 3)), ending("ant"));
 }
 
-void buildImperfectSubjunctive(FormTable& forms) {
+template <typename Forms>
+void buildImperfectSubjunctive(Forms& forms) {
   const std::string_view je = forms[slot::kPastHistoric];
   const std::string_view nous = forms[slot::kPastHistoric + 3];
   if (je.empty()) return;
@@ -103,9 +135,25 @@ void buildImperfectSubjunctive(FormTable& forms) {
   // deliberate: il takes the circumflexed vowel of the nous form, the others the je form's.
   const std::string_view plainVowel = less(je, 1).substr(less(je, 2).size());
   const std::string_view nousVowel = less(nous, 3).substr(less(nous, 4).size());
+  noteMaker(forms, Maker::imperfectSubjunctive);
+  noteOrigin(forms, slot::kPastHistoric, 2);
   for (int person = 0; person < kPersonCount; ++person)
-    setTo(forms[slot::kImperfectSubjunctive + person], less(je, 2),
-          person == 2 ? nousVowel : plainVowel, kEndings[person]);
+    put(forms, slot::kImperfectSubjunctive + person, stem(less(je, 2)),
+        Part{PieceKind::vowel, person == 2 ? nousVowel : plainVowel}, ending(kEndings[person]));
 }
+
+#define INSTANTIATE(Forms)                                            \
+  template void buildImperfect(Forms&, std::string_view);             \
+  template void buildFuture(Forms&, std::string_view);                \
+  template void buildImperative(Forms&);                              \
+  template void buildPresentSubjunctive(Forms&);                      \
+  template void buildConditional(Forms&);                             \
+  template void buildPastHistoric(Forms&, std::optional<PastEndings>, \
+                                  std::optional<std::string_view>);   \
+  template void buildPresentParticiple(Forms&);                       \
+  template void buildImperfectSubjunctive(Forms&);
+INSTANTIATE(FormTable)
+INSTANTIATE(TracedForms)
+#undef INSTANTIATE
 
 }  // namespace odmiennik::engine

@@ -6,40 +6,49 @@
 #include <optional>
 #include <string_view>
 
-#include "engine/form_table.h"
+#include "engine/noting.h"
 
 namespace odmiennik::engine {
 
+// `Forms` is a FormTable, or TracedForms, where each form is noted with what it was made of.
 // A stem or base handed to a builder must not be a view of a slot that the builder writes.
 
 // Slots 6-11: "parl" -> parlais … parlaient.
-void buildImperfect(FormTable& forms, std::string_view stem);
+template <typename Forms>
+void buildImperfect(Forms& forms, std::string_view stem);
 
 // Slots 18-23: "parler" -> parlerai … parleront.
-void buildFuture(FormTable& forms, std::string_view stem);
+template <typename Forms>
+void buildFuture(Forms& forms, std::string_view stem);
 
 // Slots 90-92 from slots 1, 3, 4; an s after e, ë or é is dropped: parles -> parle, but vas -> vas.
-void buildImperative(FormTable& forms);
+template <typename Forms>
+void buildImperative(Forms& forms);
 
 // Slots 48-53 from slot 5, its variants one by one, and from slots 9 and 10 (nous and vous are the
 // imperfect's): payent/paient -> paye/paie.
-void buildPresentSubjunctive(FormTable& forms);
+template <typename Forms>
+void buildPresentSubjunctive(Forms& forms);
 
 // Slots 72-77 from slot 18, its variants one by one; an empty slot 18 leaves them as they are.
-void buildConditional(FormTable& forms);
+template <typename Forms>
+void buildConditional(Forms& forms);
 
 // The endings of the passé simple: -ai, -is or -us.
 enum class PastEndings : std::uint8_t { a = 1, i = 2, u = 3 };
 
 // Slots 12-17. Without `endings`: -ai for an infinitive in "er", -is for any other. Without `base`:
 // the infinitive less two letters.
-void buildPastHistoric(FormTable& forms, std::optional<PastEndings> endings = std::nullopt,
+template <typename Forms>
+void buildPastHistoric(Forms& forms, std::optional<PastEndings> endings = std::nullopt,
                        std::optional<std::string_view> base = std::nullopt);
 
 // Slot 98 from slot 3: parlons -> parlant; an empty slot 3 leaves it as it is.
-void buildPresentParticiple(FormTable& forms);
+template <typename Forms>
+void buildPresentParticiple(Forms& forms);
 
 // Slots 54-59 from slots 12 and 15; an empty slot 12 leaves them as they are.
-void buildImperfectSubjunctive(FormTable& forms);
+template <typename Forms>
+void buildImperfectSubjunctive(Forms& forms);
 
 }  // namespace odmiennik::engine

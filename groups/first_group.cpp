@@ -25,16 +25,27 @@ constexpr Dispatch kDispatch{kFirstGroupDispatch};
 constexpr const Model& kRegular = modelNamed("regular");
 constexpr const Model& kConditional = modelNamed("conditional");
 
+template <typename Forms>
+engine::RuleResult conjugate(Forms& forms, std::uint8_t auxiliary) {
+  applyModel(forms, kRegular, {}, auxiliary);
+  const EndingRow* row = kDispatch.find(forms[engine::slot::kInfinitive]);
+  const Model& model = row == nullptr ? kRegular : kFirstGroupModels[row->model];
+  noteClaim(forms, row == nullptr ? std::string_view{} : row->ending, model.name);
+  if (&model != &kRegular) applyModel(forms, model, row->group, auxiliary);
+  applyModel(forms, kConditional, {}, auxiliary);
+  return {.model = model.name};
+}
+
 }  // namespace
 
 engine::RuleResult VerbGroups::conjugateFirstGroup(engine::FormTable& forms,
                                                    std::uint8_t auxiliary) const {
-  applyModel(forms, kRegular, {}, auxiliary);
-  const EndingRow* row = kDispatch.find(forms[engine::slot::kInfinitive]);
-  const Model& model = row == nullptr ? kRegular : kFirstGroupModels[row->model];
-  if (&model != &kRegular) applyModel(forms, model, row->group, auxiliary);
-  applyModel(forms, kConditional, {}, auxiliary);
-  return {.model = model.name};
+  return conjugate(forms, auxiliary);
+}
+
+engine::RuleResult VerbGroups::conjugateFirstGroup(engine::TracedForms& forms,
+                                                   std::uint8_t auxiliary) const {
+  return conjugate(forms, auxiliary);
 }
 
 }  // namespace odmiennik::groups

@@ -22,13 +22,26 @@ bool claims(const NormRow& row, std::string_view infinitive, bool isBuiltin) {
   return end == ending && (!row.isWholeVerb || infinitive.size() == ending.size());
 }
 
-}  // namespace
-
-void VerbGroups::applyNorm(engine::FormTable& forms, std::uint8_t auxiliary, bool isBuiltin) const {
+template <typename Forms>
+void apply(Forms& forms, std::uint8_t auxiliary, bool isBuiltin) {
   const std::string_view infinitive = forms[engine::slot::kInfinitive];
   const auto* row = std::ranges::find_if(
       kNormRows, [&](const NormRow& known) { return claims(known, infinitive, isBuiltin); });
-  if (row != std::end(kNormRows)) applyModel(forms, kNormModels[row->model], {}, auxiliary);
+  if (row == std::end(kNormRows)) return;
+  const Model& model = kNormModels[row->model];
+  noteClaim(forms, row->ending, model.name, true, row->isWholeVerb);
+  applyModel(forms, model, {}, auxiliary, true);
+}
+
+}  // namespace
+
+void VerbGroups::applyNorm(engine::FormTable& forms, std::uint8_t auxiliary, bool isBuiltin) const {
+  apply(forms, auxiliary, isBuiltin);
+}
+
+void VerbGroups::applyNorm(engine::TracedForms& forms, std::uint8_t auxiliary,
+                           bool isBuiltin) const {
+  apply(forms, auxiliary, isBuiltin);
 }
 
 }  // namespace odmiennik::groups

@@ -16,24 +16,36 @@ static_assert(std::size(kOtherGroupsModels) == 58 + 2, "58 of the third group, f
 
 constexpr Dispatch kDispatch{kOtherGroupsDispatch};
 
-engine::RuleResult refuse(engine::FormTable& forms, bool isEditing) {
+template <typename Forms>
+engine::RuleResult refuse(Forms& forms, bool isEditing) {
   if (isEditing) return {};
   for (int slot = 0; slot < engine::kSlotCount; ++slot)
     if (slot != engine::slot::kInfinitive) forms[slot].clear();
   return {.isRefused = true};
 }
 
+template <typename Forms>
+engine::RuleResult conjugate(Forms& forms, std::uint8_t auxiliary, bool isEditing) {
+  const std::string_view infinitive = forms[engine::slot::kInfinitive];
+  const EndingRow* row = kDispatch.find(infinitive);
+  if (row == nullptr || row->claim == Claim::refused) return refuse(forms, isEditing);
+  const Model& model = kOtherGroupsModels[row->model];
+  noteClaim(forms, row->ending, model.name);
+  if (row->claim == Claim::onlyCompounds && infinitive.size() == row->ending.size()) return {};
+  applyModel(forms, model, row->group, auxiliary);
+  return {.model = model.name};
+}
+
 }  // namespace
 
 engine::RuleResult VerbGroups::conjugateByEnding(engine::FormTable& forms, std::uint8_t auxiliary,
                                                  bool isEditing) const {
-  const std::string_view infinitive = forms[engine::slot::kInfinitive];
-  const EndingRow* row = kDispatch.find(infinitive);
-  if (row == nullptr || row->claim == Claim::refused) return refuse(forms, isEditing);
-  if (row->claim == Claim::onlyCompounds && infinitive.size() == row->ending.size()) return {};
-  const Model& model = kOtherGroupsModels[row->model];
-  applyModel(forms, model, row->group, auxiliary);
-  return {.model = model.name};
+  return conjugate(forms, auxiliary, isEditing);
+}
+
+engine::RuleResult VerbGroups::conjugateByEnding(engine::TracedForms& forms, std::uint8_t auxiliary,
+                                                 bool isEditing) const {
+  return conjugate(forms, auxiliary, isEditing);
 }
 
 }  // namespace odmiennik::groups

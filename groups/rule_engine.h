@@ -8,15 +8,17 @@
 #include <span>
 #include <string_view>
 
-#include "engine/form_table.h"
+#include "engine/noting.h"
 #include "groups/rule_rows.h"
 
 namespace odmiennik::groups {
 
 // Does the steps of `model` in their order; slot 96 holds the infinitive. `group` is the consonant
 // group of a model that takes one. Example: open-e with "m" on semer: sème, sèmes … sèmerai.
-void applyModel(engine::FormTable& forms, const Model& model, std::string_view group,
-                std::uint8_t auxiliary);
+// `isOfNorm` is said to the trace of a table that has one: the model writes over what is there.
+template <typename Forms>
+void applyModel(Forms& forms, const Model& model, std::string_view group, std::uint8_t auxiliary,
+                bool isOfNorm = false);
 
 // A dispatch made ready for the search: a text's last eight letters are compared as one number.
 template <std::size_t Count>
