@@ -147,7 +147,9 @@ class Delete:
 
     def act(self):
         self.list.button("Usuń").press()
-        self.window.settle(lambda: self.window.messages or "2/7342" in self.list.texts())
+        # That the file cannot be read is told before: the verdict comes behind it.
+        self.window.settle(lambda: NOT_SAVED in self.window.messages
+                           or "2/7342" in self.list.texts())
 
     def require_truth(self):
         window, found = self.window, self.window.read(FILE)

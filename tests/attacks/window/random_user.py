@@ -6,6 +6,7 @@ not grown. run(program, COMMAND, STEPS, SEED, TABLE)
 """
 
 import collections
+import csv
 import json
 import pathlib
 import random
@@ -104,6 +105,16 @@ class User:
         wrong = [(slot, shown[slot], expected[slot]) for slot in range(SLOTS)
                  if shown[slot] != expected[slot]]
         return f"of {self.shown!r} {self.options}: {wrong[:4]}" if wrong else None
+
+    def situation(self):
+        """What stands on the screen and in the file, for whoever has to understand a fault."""
+        try:
+            return {"window": self.program.main_window().name, "entry": self.entry().text,
+                    "open": [(box.title, box.texts()) for box in self.program.messages()],
+                    "verbs": [fields[96] for fields in csv.reader(
+                        record.decode("cp1252") for record in self.records())]}
+        except gone() as fault:  # the program has fallen
+            return repr(fault)
 
     # Doing
 
@@ -324,11 +335,14 @@ def open_list(user):
     verb = listed.part("Czasowniki").selected_entry()
     shown = [box.text for box in user.boxes]
     button.press()
+    if not verb and command in ("Odmień", "Edytuj"):
+        return  # the record of a form with a comma, come back split: there is no verb to show
     if command == "Odmień":
         wait_for(lambda: user.entry().text == verb, "the verb of the list", LIMIT)
         user.note_conjugated(verb)
     if command == "Edytuj":
-        wait_for(lambda: user.is_editing() or len(user.program.messages()) > 1, "edit mode", LIMIT)
+        wait_for(lambda: user.is_editing() or len(user.program.messages()) > 1, f"edit mode for {verb!r}",
+                 LIMIT)
     if command == "Usuń":
         wait_for(lambda: number not in listed.texts(), "one verb less", LIMIT)
         assert f"{len(user.records())}/7342" in listed.texts(), "the count is that of the records"
@@ -390,7 +404,7 @@ def run(program, command, steps, seed, table, is_measured="yes"):
             user.check()
         except Exception as fault:
             raise AssertionError(f"seed {seed}, step {number}: {fault!r}; the last steps were "
-                                 f"{list(history)}") from fault
+                                 f"{list(history)}; {user.situation()}") from fault
         if number == min(50, int(steps) // 2):
             first = user.memory()
     grown = user.memory() - first
