@@ -150,8 +150,9 @@ void Phrases::readVerb(Phrase phrase, std::size_t next) {
     if (!verb.ends_with(hanging.end) || verb.size() == hanging.end.size()) continue;
     if (hanging.isImperative && (count == 2 || phrase.isReflexive)) continue;
     Phrase hung = phrase;
-    (count == 2 ? hung.auxiliary : hung.word).remove_suffix(hanging.end.size());
     hung.persons &= hanging.persons;
+    if (hung.persons == 0) continue;  // "se lave-nous"
+    (count == 2 ? hung.auxiliary : hung.word).remove_suffix(hanging.end.size());
     hung.isReflexive = phrase.isReflexive || hanging.isImperative;
     hung.isImperative = hanging.isImperative;
     hung.hasSubject = !hanging.isImperative;
