@@ -11,7 +11,6 @@ finish() {
   wineserver --kill 2>/dev/null || true
   wineserver --wait 2>/dev/null || true
   for process in "${own[@]}"; do kill "$process" 2>/dev/null || true; done
-  chmod --recursive u+w "$work"
   rm -rf "$work"
 }
 trap finish EXIT
@@ -69,5 +68,10 @@ close_window() {
   agreed() { keys alt+t; closed Odmiennik; }
   until_done agreed
 }
-# saved_in FOLDER VERB
+# save_edited VERB FOLDER: edit mode is left, and the verb is in the folder.
 saved_in() { grep -qa "$2" "$1/Czasowniki.dat"; }
+save_edited() {
+  until_done shows "edycja"
+  keys ctrl+s
+  until_done saved_in "$2" "$1"
+}
