@@ -22,7 +22,7 @@ import time
 
 WINE = os.path.join(os.path.dirname(__file__), "..", "packaging", "windows", "wine")
 WIDTH, HEIGHT = 1024, 768
-LIMIT_SECONDS = 20
+LIMIT_SECONDS = 60
 
 
 class Screen:
