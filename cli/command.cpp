@@ -15,7 +15,8 @@ ExitStatus runCommand(std::span<const Utf8Text> arguments, Console& console) {
     return ExitStatus::wrongUsage;
   }
   const Options& options = parsed.options;
-  if (options.query == nullptr && options.isFinding)
+  const bool isOfForms = options.isFinding || options.isExplaining;
+  if (options.query == nullptr && isOfForms)
     return console.finish(FindRun(options, console).answerAll());
   if (options.query == nullptr) return console.finish(ConjugationRun(options, console).answerAll());
   if (options.query(console.out().text(), options.queryText))

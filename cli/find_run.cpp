@@ -13,10 +13,13 @@ FindRun::FindRun(const Options& options, Console& console)
       files_(findProgramFiles(options.folder, console)),
       userVerbs_(files_.prefix, files_.userVerbCount, messages_),
       finder_(userVerbs_),
-      format_(*readingFormatNamed(options.format->name)) {}
+      format_(*readingFormatNamed(options.format->name)) {
+  const auto variety = options.isInNorm ? engine::Variety::norm : engine::Variety::system;
+  if (options.isExplaining) explaining_.emplace(userVerbs_, options.format->name, variety);
+}
 
 ExitStatus FindRun::answerAll() {
-  console_.out().text().append(format_.header);
+  console_.out().text().append(explaining_ ? explaining_->header() : format_.header);
   const auto answerLine = [this](const InputLine& line, Utf8View name) { answer(line, name); };
   const auto lookAgain = [this] {
     finder_.lookAgain();
@@ -32,13 +35,20 @@ void FindRun::sayWhatTheFilesAreLike() {
   messages_.beginAnswer();
 }
 
+// Says whether what was typed has been found, as typed or but for its accents.
+bool FindRun::appendAnswer(const Question& question) {
+  Utf8Text& out = console_.out().text();
+  if (explaining_) return explaining_->append(out, question, readings_, format_.append);
+  format_.append(out, question.typed, readings_);
+  return !readings_.empty() && readings_.front().match != finder::Match::slip;
+}
+
 void FindRun::answer(const InputLine& line, Utf8View lineName) {
   const Question question = questionOf(line);
   readings_.clear();
   if (question.fault == QuestionFault::none) finder_.find(question.infinitive, readings_);
-  format_.append(console_.out().text(), question.typed, readings_);
+  const bool isFound = appendAnswer(question);
   console_.out().flushIfLarge();
-  const bool isFound = !readings_.empty() && readings_.front().match != finder::Match::slip;
   if (isFound || isBlankInput(line, lineName)) return;
   hasRefused_ = true;
   const Utf8Text place = placeOf(line, lineName);

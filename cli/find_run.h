@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One run over all forms whose verbs are asked for.
+// One run over all forms whose verbs, or whose coming to be, are asked for.
 #pragma once
 
+#include <optional>
+
 #include "cli/console.h"
+#include "cli/explaining.h"
 #include "cli/line_reader.h"
 #include "cli/message_log.h"
 #include "cli/options.h"
@@ -24,6 +27,7 @@ class FindRun {
 
  private:
   void answer(const InputLine& line, Utf8View lineName);
+  bool appendAnswer(const Question& question);
   void sayWhatTheFilesAreLike();
 
   const Options& options_;
@@ -34,6 +38,7 @@ class FindRun {
   finder::Finder finder_;
   finder::Readings readings_;
   const ReadingFormat& format_;
+  std::optional<Explaining> explaining_;  // where forms are explained, not only found
   bool hasRefused_ = false;
 };
 

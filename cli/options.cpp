@@ -77,6 +77,7 @@ bool ask(Options& options, Utf8View text) {
 
 bool takeNorm(Options& options, Utf8View) { return options.isInNorm = true; }
 bool takeFinding(Options& options, Utf8View) { return options.isFinding = true; }
+bool takeExplaining(Options& options, Utf8View) { return options.isExplaining = true; }
 bool takeDepartures(Options& options, Utf8View) { return options.listsDepartures = true; }
 
 constexpr OptionRow kOptions[] = {
@@ -97,6 +98,7 @@ constexpr OptionRow kOptions[] = {
     {"--norm", 0, "", takeNorm, "odmień według dzisiejszej normy"},
     {"--departures", 0, "", takeDepartures, "wypisz formy odbiegające od normy (lub całego spisu)"},
     {"--find", 0, "", takeFinding, "podaj, jakiego czasownika i jakimi formami są słowa"},
+    {"--explain", 0, "", takeExplaining, "wyjaśnij, jak powstały formy lub odmiana czasownika"},
     {"--list", 0, "POCZĄTEK", ask<appendVerbsBeginning>, "wypisz czasowniki spisu o tym początku"},
     {"--complete", 0, "POCZĄTEK", ask<appendCompletion>, "dokończ bezokolicznik według spisu"},
     {"--record", 0, "BEZOKOLICZNIK", ask<appendRecord>, "wypisz dane czasownika ze spisu"},
@@ -180,8 +182,8 @@ Utf8Text takeOption(Options& options, Given& given, std::span<const Utf8Text>& r
 }
 
 // Of these a command line takes one.
-constexpr Utf8View kTasks[] = {"--edit",     "--norm",   "--departures", "--find",   "--list",
-                               "--complete", "--record", "--slots",      "--strings"};
+constexpr Utf8View kTasks[] = {"--edit", "--norm",     "--departures", "--find",  "--explain",
+                               "--list", "--complete", "--record",     "--slots", "--strings"};
 
 // What a task has no use for.
 struct Useless {
@@ -191,10 +193,10 @@ struct Useless {
 constexpr Utf8View kShape[] = {"--format", "--auxiliary"};
 constexpr Utf8View kOfConjugations[] = {"--format", "--auxiliary", "--tenses", "--persons"};
 constexpr Utf8View kOfForms[] = {"--auxiliary", "--tenses", "--persons"};
-constexpr Useless kUseless[] = {{"--departures", kShape},      {"--find", kOfForms},
-                                {"--list", kOfConjugations},   {"--complete", kOfConjugations},
-                                {"--record", kOfConjugations}, {"--slots", kOfConjugations},
-                                {"--strings", kOfConjugations}};
+constexpr Useless kUseless[] = {{"--departures", kShape},        {"--find", kOfForms},
+                                {"--explain", kOfForms},         {"--list", kOfConjugations},
+                                {"--complete", kOfConjugations}, {"--record", kOfConjugations},
+                                {"--slots", kOfConjugations},    {"--strings", kOfConjugations}};
 
 bool isAmong(std::span<const Utf8View> names, Utf8View name) {
   return std::ranges::find(names, name) != names.end();
@@ -205,7 +207,13 @@ bool isUselessFor(Utf8View task, Utf8View option) {
   return row != std::end(kUseless) && isAmong(row->options, option);
 }
 
+// What a form is like in today's norm is explained too.
+bool areExplainedTogether(Utf8View one, Utf8View other) {
+  return (one == "--explain" && other == "--norm") || (one == "--norm" && other == "--explain");
+}
+
 bool excludeEachOther(Utf8View one, Utf8View other) {
+  if (areExplainedTogether(one, other)) return false;
   if (isAmong(kTasks, one) && isAmong(kTasks, other)) return one != other;
   return isUselessFor(one, other) || isUselessFor(other, one);
 }
@@ -225,8 +233,10 @@ Utf8Text faultOfSlots(const Options& options) {
 }
 
 Utf8Text faultOfFormat(const Options& options) {
-  if (!options.isFinding || readingFormatNamed(options.format->name) != nullptr) return {};
-  return "opcja „--find” nie zna postaci " + quoted(options.format->name) + ".";
+  const bool isOfForms = options.isFinding || options.isExplaining;
+  if (!isOfForms || readingFormatNamed(options.format->name) != nullptr) return {};
+  const Utf8View option = options.isFinding ? "--find" : "--explain";
+  return "opcja " + quoted(option) + " nie zna postaci " + quoted(options.format->name) + ".";
 }
 
 bool isOption(Utf8View argument) { return argument.size() > 1 && argument[0] == '-'; }

@@ -28,6 +28,7 @@ struct Options {
   bool isEditing = false;
   bool isInNorm = false;         // today's norm in the place of the system's forms
   bool isFinding = false;        // the arguments are forms, and their verbs are asked for
+  bool isExplaining = false;     // the same, and how the forms came to be
   bool listsDepartures = false;  // only the forms in which the two differ
   Tenses tenses;                 // printed alone; without any all are
   Persons persons;

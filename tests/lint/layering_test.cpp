@@ -18,10 +18,13 @@ const std::map<std::string, Folders> kMayInclude{
     {"groups", {"engine", "groups", "data"}},
     {"disk", {"engine", "disk"}},
     {"dictionary", {"engine", "groups", "disk", "dictionary", "data"}},
+    {"explainer", {"engine", "groups", "dictionary", "formats", "explainer", "data"}},
     {"finder", {"engine", "groups", "disk", "dictionary", "finder", "data"}},
     {"formats", {"engine", "dictionary", "formats"}},
-    {"cli", {"engine", "groups", "disk", "dictionary", "finder", "formats", "cli", "data"}},
-    {"app", {"engine", "groups", "disk", "dictionary", "finder", "formats", "app", "data"}},
+    {"cli",
+     {"engine", "groups", "disk", "dictionary", "explainer", "finder", "formats", "cli", "data"}},
+    {"app",
+     {"engine", "groups", "disk", "dictionary", "explainer", "finder", "formats", "app", "data"}},
     {"tools", {"engine", "groups", "dictionary", "finder", "tools"}},
 };
 
@@ -32,13 +35,14 @@ const std::vector<Folders> kFloorsOfTheWindow{
     {"controls"},
     {"layout"},
     {"main_window"},
-    {"about", "editing", "finding", "list", "printing", "tips", "view"},
+    {"about", "editing", "explaining", "finding", "list", "printing", "tips", "view"},
     {"demonstration", "help", "hints", "lifetime"},
     {"typing"},
 };
 
-const Folders kProjectFolders{"engine", "groups", "disk", "dictionary", "finder", "formats",
-                              "cli",    "app",    "data", "tools",      "tests",  "bench"};
+const Folders kProjectFolders{"engine", "groups",  "disk", "dictionary", "explainer",
+                              "finder", "formats", "cli",  "app",        "data",
+                              "tools",  "tests",   "bench"};
 
 // "file includes file", for every include that points upward.
 std::vector<std::string> upwardIncludes() {

@@ -39,6 +39,10 @@ void generateMessages(const Paths& sources, std::ostream& out);
 // hints.txt -> a header: an enumeration of the window's quiet texts and their table.
 void generateHints(const Paths& sources, std::ostream& out);
 
+// explanations/phrases.txt, explanations/models.txt -> a header: all that an explanation may say,
+// and what the models are called there.
+void generateExplanations(const Paths& sources, std::ostream& out);
+
 // tenses.txt, window/main_window.txt -> a header: the table of the main window's controls.
 void generateWindow(const Paths& sources, std::ostream& out);
 

@@ -30,6 +30,7 @@ const std::map<std::string, Generator> kGenerators{
     {"norm-texts", odmiennik::tools::generateNormTexts},
     {"norm-models", odmiennik::tools::generateNormModels},
     {"messages", odmiennik::tools::generateMessages},
+    {"explanations", odmiennik::tools::generateExplanations},
     {"hints", odmiennik::tools::generateHints},
     {"window", odmiennik::tools::generateWindow},
 };
