@@ -10,7 +10,9 @@ std::string_view stemOf(std::uint32_t verb) {
   return dictionary::verbAt(static_cast<int>(verb)).substr(0, data::kStemSize[verb]);
 }
 
+// Most forms have no accents and are compared as they are.
 bool isSpeltWithoutAccents(const FoundForm& form, std::string_view folded) {
+  if (form.isSpelt(folded)) return true;
   return takeOff(form.stem, folded) && takeOff(form.ending, folded) && folded.empty();
 }
 

@@ -27,6 +27,16 @@ struct FoundForm {
 
 namespace detail {
 
+[[nodiscard]] inline bool isSet(const std::uint64_t* bits, std::uint32_t bit) {
+  return (bits[bit / 64] >> (bit % 64) & 1) != 0;
+}
+
+// Most beginnings of words are no stem of a verb, and the table of stems lies further away than a
+// few bits.
+[[nodiscard]] inline bool mayBeStem(std::uint32_t hash) {
+  return isSet(data::kSomeStem, data::bitOfStem(hash));
+}
+
 // The ends of a word by where they begin.
 struct Ends {
   explicit Ends(std::string_view folded) {
@@ -35,8 +45,7 @@ struct Ends {
     for (std::size_t i = folded.size(); i-- > 0;) hashes[i] = hash = withLetter(hash, folded[i]);
   }
   [[nodiscard]] bool mayBeEnding(std::size_t start) const {
-    const std::uint32_t bit = data::bitOfEnding(hashes[start]);
-    return (data::kSomeEnding[bit / 64] >> (bit % 64) & 1) != 0;
+    return isSet(data::kSomeEnding, data::bitOfEnding(hashes[start]));
   }
   std::uint32_t hashes[kLongestWord + 1];
 };
@@ -96,7 +105,9 @@ void forEachForm(std::string_view folded, Take take) {
   for (std::size_t start = 0; start <= folded.size(); ++start) {
     if (start > 0) stem = withLetter(stem, folded[start - 1]);
     if (!ends.mayBeEnding(start)) continue;
-    detail::Chain stems(data::kStems, data::kStemsSize, mixed(stem));
+    const std::uint32_t hash = mixed(stem);
+    if (!detail::mayBeStem(hash)) continue;
+    detail::Chain stems(data::kStems, data::kStemsSize, hash);
     for (std::uint32_t verb = 0; stems.next(verb);)
       detail::takeEndings(folded, ends, start, verb, take);
   }

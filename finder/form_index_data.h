@@ -53,6 +53,11 @@ extern const Hashed kFirstEndings[];  // positions in kEndings by the hash of en
 extern const std::uint32_t kFirstEndingsSize;
 extern const std::uint64_t kSomeEnding[256];  // a bit for the hash of each ending of any paradigm
 
+extern const std::uint64_t kSomeStem[1024];  // a bit for the mixed hash of each stem
+
+inline constexpr std::uint32_t kSomeStemBits = 1024 * 64;
+[[nodiscard]] constexpr std::uint32_t bitOfStem(std::uint32_t hash) { return hash % kSomeStemBits; }
+
 inline constexpr std::uint32_t kSomeEndingBits = 256 * 64;
 [[nodiscard]] constexpr std::uint32_t bitOfEnding(std::uint32_t hash) {
   return (hash ^ (hash >> 16)) % kSomeEndingBits;

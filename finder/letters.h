@@ -44,18 +44,16 @@ inline constexpr std::array<char, 256> kPlain = [] {
 // A word without accents, in place: no memory is asked for while one types.
 class Folded {
  public:
-  Folded() = default;
   // `word` is lower case (Windows-1252): "œuvrât" -> "oeuvrat". What is too long is no word.
-  explicit Folded(std::string_view word) { append(word); }
-
-  void append(std::string_view word);
-  void push(char letter);
+  explicit Folded(std::string_view word);
 
   [[nodiscard]] std::string_view text() const { return {letters_.data(), size_}; }
   [[nodiscard]] bool isTooLong() const { return isTooLong_; }
 
  private:
-  std::array<char, kLongestWord> letters_{};
+  static std::size_t sizeOf(std::string_view word);
+
+  std::array<char, kLongestWord + 1> letters_;  // and room behind the last one
   std::size_t size_ = 0;
   bool isTooLong_ = false;
 };

@@ -11,24 +11,7 @@
 namespace odmiennik::finder {
 namespace {
 
-// Gives the engine the one record that has just been read.
-class GivenVerb final : public engine::UserVerbs {
- public:
-  void give(const engine::FormTable& forms, std::uint8_t auxiliary) {
-    forms_ = &forms;
-    auxiliary_ = auxiliary;
-  }
-  [[nodiscard]] bool load(std::string_view, engine::FormTable& forms,
-                          std::uint8_t& storedAux) override {
-    forms = *forms_;
-    storedAux = auxiliary_;
-    return true;
-  }
-
- private:
-  const engine::FormTable* forms_ = nullptr;
-  std::uint8_t auxiliary_ = engine::kAvoir;
-};
+constexpr std::size_t kMostKnown = 64;
 
 std::uint32_t hashOf(std::string_view form) {
   std::string lower(form);
@@ -36,16 +19,25 @@ std::uint32_t hashOf(std::string_view form) {
   return engine::textHash(Folded(lower).text());
 }
 
+// Whether the form is that word in small letters and without accents.
+bool isWithoutAccents(std::string_view form, std::string_view folded) {
+  if (form.size() > folded.size()) return false;  // accents take no room away
+  std::string lower(form);
+  engine::lowerCase(lower);
+  return Folded(lower).text() == folded;
+}
+
 }  // namespace
 
 OwnVerbs::OwnVerbs(dictionary::UserVerbsFile& userVerbs)
-    : userVerbs_(userVerbs), driver_({index_, userVerbs_, builtinVerbs_, rules_, shell_}) {}
+    : userVerbs_(userVerbs), driver_({index_, given_, builtinVerbs_, rules_, shell_}) {}
 
 void OwnVerbs::lookAgain() {
   userVerbs_.lookAgain();
   texts_.clear();
   if (userVerbs_.version() == version_) return;
   version_ = userVerbs_.version();
+  known_.clear();
   verbs_.clear();
   keys_.clear();
   entries_.clear();
@@ -57,14 +49,13 @@ void OwnVerbs::lookAgain() {
 
 // The system's forms of an own verb are the norm's as well, the agreement of the participle apart.
 void OwnVerbs::read() {
-  GivenVerb given;
   std::set<std::string> known;
-  engine::Driver driver({index_, given, builtinVerbs_, rules_, shell_});
   conjugation_.variety = engine::Variety::system;
   userVerbs_.forEach([&](const engine::FormTable& forms, std::uint8_t auxiliary) {
-    given.give(forms, auxiliary);
+    given_.record = &forms;
+    given_.auxiliary = auxiliary;
     const std::string kept = engine::keptInfinitive(forms[engine::slot::kInfinitive]);
-    if (driver.conjugate(conjugation_, kept) != engine::Outcome::conjugated) return;
+    if (driver_.conjugate(conjugation_, kept) != engine::Outcome::conjugated) return;
     keys_.insert(engine::lookupKey(kept));
     std::string whole;
     engine::normalize(kept, whole);
@@ -84,11 +75,26 @@ void OwnVerbs::find(std::string_view folded, std::vector<Candidate>& found) {
     append(entry->verb, folded, found);
 }
 
-const std::vector<BareForm>& OwnVerbs::formsOf(std::uint32_t verb, engine::Variety variety) {
-  conjugation_.variety = variety;
-  static_cast<void>(driver_.conjugate(conjugation_, verbs_[verb]));
-  bare_.read(conjugation_);
-  return bare_.all();
+// Of a verb that is no longer in the file there are no forms.
+const OwnVerbs::KnownVerb& OwnVerbs::formsOf(std::uint32_t verb) {
+  const auto found = known_.find(verb);
+  if (found != known_.end()) return found->second;
+  if (known_.size() == kMostKnown) known_.clear();
+  KnownVerb& known = known_[verb];
+  std::string whole;
+  engine::normalize(verbs_[verb], whole);
+  const bool isThere = userVerbs_.load(whole, record_, given_.auxiliary);
+  given_.record = &record_;
+  for (Known& one : known) {
+    one.variety = &one == known.begin() ? engine::Variety::system : engine::Variety::norm;
+    if (!isThere) continue;
+    conjugation_.variety = one.variety;
+    static_cast<void>(driver_.conjugate(conjugation_, verbs_[verb]));
+    bare_.read(conjugation_);
+    one.forms = bare_.all();
+    one.compound = bare_.compound();
+  }
+  return known;
 }
 
 void OwnVerbs::append(std::uint32_t verb, std::string_view folded, std::vector<Candidate>& found) {
@@ -99,20 +105,18 @@ void OwnVerbs::append(std::uint32_t verb, std::string_view folded, std::vector<C
                      .isPronominal = engine::hasReflexivePrefix(kept),
                      .agrees = true};
   const std::size_t first = found.size();
-  for (const engine::Variety variety : {engine::Variety::system, engine::Variety::norm}) {
-    const bool isNorm = variety == engine::Variety::norm;
-    for (const BareForm& form : formsOf(verb, variety)) {
-      std::string lower = form.text;
-      engine::lowerCase(lower);
-      if (Folded(lower).text() != folded) continue;
+  for (const Known& known : formsOf(verb)) {
+    const bool isNorm = known.variety == engine::Variety::norm;
+    for (const BareForm& form : known.forms) {
+      if (!isWithoutAccents(form.text, folded)) continue;
       candidate.stem = *texts_.insert(form.text).first;
-      auto known = std::find_if(found.begin() + static_cast<std::ptrdiff_t>(first), found.end(),
-                                [&](const Candidate& one) { return one.stem == candidate.stem; });
-      if (known == found.end()) known = found.insert(found.end(), candidate);
-      (isNorm ? known->places.norm : known->places.system) = form.places;
+      auto same = std::find_if(found.begin() + static_cast<std::ptrdiff_t>(first), found.end(),
+                               [&](const Candidate& one) { return one.stem == candidate.stem; });
+      if (same == found.end()) same = found.insert(found.end(), candidate);
+      (isNorm ? same->places.norm : same->places.system) = form.places;
     }
     for (std::size_t i = first; i < found.size(); ++i)
-      (isNorm ? found[i].facts.norm : found[i].facts.system) = bare_.compound();
+      (isNorm ? found[i].facts.norm : found[i].facts.system) = known.compound;
   }
 }
 

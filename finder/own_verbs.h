@@ -2,7 +2,9 @@
 // The forms of the user's own verbs, indexed once for each change of their file.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -41,6 +43,28 @@ class OwnVerbs {
     auto operator<=>(const Entry&) const = default;
   };
 
+  // Gives the engine the one record that has just been read.
+  class GivenVerb final : public engine::UserVerbs {
+   public:
+    [[nodiscard]] bool load(std::string_view, engine::FormTable& forms,
+                            std::uint8_t& storedAux) override {
+      forms = *record;
+      storedAux = auxiliary;
+      return true;
+    }
+    const engine::FormTable* record = nullptr;
+    std::uint8_t auxiliary = engine::kAvoir;
+  };
+
+  // The words of a verb, and those of their compound slots that hold a form.
+  struct Known {
+    std::vector<BareForm> forms;
+    engine::Variety variety;
+    CompoundSlots compound;
+  };
+  // In the system's forms and in the norm's.
+  using KnownVerb = std::array<Known, 2>;
+
   class SilentShell final : public engine::Shell {
    public:
     void show(engine::Notice) override {}
@@ -49,13 +73,15 @@ class OwnVerbs {
 
   void read();
   void append(std::uint32_t verb, std::string_view folded, std::vector<Candidate>& found);
-  const std::vector<BareForm>& formsOf(std::uint32_t verb, engine::Variety variety);
+  const KnownVerb& formsOf(std::uint32_t verb);
 
   dictionary::UserVerbsFile& userVerbs_;
   dictionary::GeneralVerbIndex index_;
   dictionary::BuiltinVerbTable builtinVerbs_;
   groups::VerbGroups rules_;
   SilentShell shell_;
+  GivenVerb given_;
+  engine::FormTable record_;
   engine::Driver driver_;
   engine::Conjugation conjugation_;
   BareForms bare_;
@@ -64,6 +90,9 @@ class OwnVerbs {
   std::set<std::string, std::less<>> keys_;
   std::vector<Entry> entries_;   // sorted
   std::set<std::string> texts_;  // of the forms found since the last look
+  // Verbs that were found: while one types the same few are asked for again and again, and opening
+  // the file takes longer than everything else.
+  std::map<std::uint32_t, KnownVerb> known_;
 };
 
 }  // namespace odmiennik::finder

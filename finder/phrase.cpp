@@ -61,6 +61,13 @@ constexpr Hanging kHanging[] = {{"-nous-en", kNous, true, Adverb::en},
 // Words that are elided before another one, so that no blank parts them.
 constexpr std::string_view kElided[] = {"qu'", "j'", "m'", "t'", "s'"};
 
+// Without one of these a text is one word.
+constexpr std::array<bool, 256> kMayPart = [] {
+  std::array<bool, 256> part{};
+  for (const char letter : {' ', '\t', '\'', '-'}) part[static_cast<unsigned char>(letter)] = true;
+  return part;
+}();
+
 constexpr std::size_t kMostWords = 10;
 
 const PronounRow* rowOf(std::span<const PronounRow> rows, std::string_view word) {
@@ -84,9 +91,8 @@ std::size_t wordsBeforeSubject(std::span<const std::string_view> words) {
 void Phrases::read(std::string_view typed) {
   phrases_.clear();
   engine::normalize(typed, text_);
-  const bool isOneWord = std::ranges::none_of(text_, [](char letter) {
-    return letter == ' ' || letter == '\'' || letter == '-' || letter == '\t';
-  });
+  const bool isOneWord = std::ranges::none_of(
+      text_, [](char letter) { return kMayPart[static_cast<unsigned char>(letter)]; });
   if (isOneWord) {
     if (!text_.empty()) phrases_.push_back({.word = text_});
     return;

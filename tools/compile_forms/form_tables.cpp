@@ -64,6 +64,19 @@ class HashedTable {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> places_;
 };
 
+// Which of so many bits are set.
+void writeBits(std::ostream& out, std::string_view name, const std::set<std::uint32_t>& set,
+               std::uint32_t count) {
+  out << "const std::uint64_t " << name << "[] = {\n";
+  for (std::uint32_t word = 0; word < count / 64; ++word) {
+    std::uint64_t bits = 0;
+    for (std::uint32_t bit = 0; bit < 64; ++bit)
+      if (set.contains(64 * word + bit)) bits |= std::uint64_t{1} << bit;
+    out << bits << "U,\n";
+  }
+  out << "};\n";
+}
+
 // Texts in one block, each once and where possible inside another one.
 class Letters {
  public:
@@ -115,7 +128,7 @@ class Endings {
     out << "const Ending kEndings[] = {\n" << rows_ << "};\n";
     letters_.write(out);
     places_.write(out);
-    writeSome(out);
+    writeBits(out, "kSomeEnding", some_, finder::data::kSomeEndingBits);
     HashedTable table(firsts_.size());
     for (const auto& [hash, position] : firsts_) table.add(hash, position);
     table.write(out, "kFirstEndings");
@@ -142,17 +155,6 @@ class Endings {
     ++count_;
   }
 
-  void writeSome(std::ostream& out) const {
-    out << "const std::uint64_t kSomeEnding[] = {\n";
-    for (std::uint32_t word = 0; word < finder::data::kSomeEndingBits / 64; ++word) {
-      std::uint64_t bits = 0;
-      for (std::uint32_t bit = 0; bit < 64; ++bit)
-        if (some_.contains(64 * word + bit)) bits |= std::uint64_t{1} << bit;
-      out << bits << "U,\n";
-    }
-    out << "};\n";
-  }
-
   std::string rows_;
   std::size_t count_ = 0;
   Letters letters_;
@@ -174,16 +176,20 @@ void writeParadigms(std::ostream& out, const SourceForms& source) {
 void writeVerbs(std::ostream& out, const SourceForms& source) {
   Numbers stemSizes, paradigms;
   HashedTable stems(source.verbs.size());
+  std::set<std::uint32_t> some;
   for (std::size_t position = 0; position < source.verbs.size(); ++position) {
     const SourceVerb& verb = source.verbs[position];
     stemSizes.push_back(static_cast<std::uint32_t>(verb.stemSize));
     paradigms.push_back(verb.paradigm);
-    stems.add(finder::mixed(hashForward(folded(verb.infinitive.substr(0, verb.stemSize)))),
-              position);
+    const std::uint32_t hash =
+        finder::mixed(hashForward(folded(verb.infinitive.substr(0, verb.stemSize))));
+    stems.add(hash, position);
+    some.insert(finder::data::bitOfStem(hash));
   }
   writeNumbers(out, "std::uint8_t", "kStemSize", stemSizes);
   writeNumbers(out, "std::uint16_t", "kParadigmOfVerb", paradigms);
   stems.write(out, "kStems");
+  writeBits(out, "kSomeStem", some, finder::data::kSomeStemBits);
 }
 
 }  // namespace
