@@ -93,6 +93,24 @@ void typeOneKey(benchmark::State& state) {
 }
 BENCHMARK(typeOneKey);
 
+// Each of them is asked for the first time in so long that nothing is kept of it.
+void findOwnVerbAnew(benchmark::State& state) {
+  const VerbsFolder folder;
+  NoMessages messages;
+  dictionary::UserVerbsFile verbs(folder.prefix(), VerbsFolder::kVerbCount, messages);
+  Finder finder(verbs);
+  finder.lookAgain();
+  Readings readings;
+  int number = 0;
+  for (auto _ : state) {
+    finder.find(VerbsFolder::infinitive(number), readings);
+    if (readings.empty()) state.SkipWithError("the verb was not found");
+    if (++number == VerbsFolder::kVerbCount) number = 0;
+  }
+}
+BENCHMARK(findOwnVerbAnew);
+
+// Asked for again, as while one types.
 void findOwnVerb(benchmark::State& state) {
   const VerbsFolder folder;
   NoMessages messages;

@@ -16,8 +16,9 @@ void appendTag(Utf8Text& out, Utf8View text) {
   for (const char letter : text) out.push_back(letter == ' ' ? '-' : letter);
 }
 
-// At the start of a field it would begin a quoted one.
-constexpr Utf8View kMarks = "\"";
+// At the start of a field a quotation mark would begin a quoted one, at the start of a line "#" a
+// comment.
+constexpr Utf8View kMarks = "\"#";
 
 class AnkiFormat final : public Format {
  public:

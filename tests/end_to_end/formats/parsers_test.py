@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""HTML and CSV are what strict parsers of others take, hostile verbs included. ODMIEN names the command."""
+"""HTML, CSV and cards are what strict parsers of others take, hostile verbs included. ODMIEN names the
+command."""
 
 import csv
 import io
@@ -68,6 +69,37 @@ class Csv(unittest.TestCase):
 
     def test_its_last_field_is_the_phrase(self):
         self.assertEqual(self.rows[1 + 101 + 51][-1], "que nous nous lavions")
+
+
+class Anki(unittest.TestCase):
+    """By the rules of its import: lines of a header, comments, fields between quotation marks."""
+
+    HOSTILE = VERBS + ["#parler", "a\"b\"er"]
+
+    @classmethod
+    def setUpClass(cls):
+        lines = printed("anki", cls.HOSTILE).decode().split("\n")
+        cls.header = dict(line[1:].split(":", 1) for line in lines if line.startswith("#"))
+        rest = "\n".join(line for line in lines if not line.startswith("#"))
+        cls.cards = list(csv.reader(io.StringIO(rest, newline=""), delimiter="\t", strict=True))
+
+    def test_its_header_names_what_the_import_asks_for(self):
+        self.assertEqual(self.header, {"separator": "tab", "html": "false",
+                                       "columns": "Front\tBack\tTags", "tags column": "3"})
+
+    def test_every_card_has_a_question_an_answer_and_tags(self):
+        for card in self.cards:
+            self.assertEqual(len(card), 3, card)
+            self.assertTrue(all(card), card)
+            self.assertEqual([tag.split("::")[0] for tag in card[2].split(" ")], ["odmiennik"] * 2)
+
+    def test_no_two_cards_ask_the_same_since_the_import_would_take_them_for_one(self):
+        questions = [card[0] for card in self.cards]
+        self.assertEqual(len(questions), len(set(questions)))
+
+    def test_no_verb_is_taken_for_a_comment(self):
+        answers = {card[0]: card[1] for card in self.cards}
+        self.assertEqual(answers.get("#parler, imparfait, nous"), "nous #parlions")
 
 
 if __name__ == "__main__":
