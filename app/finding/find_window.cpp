@@ -3,6 +3,7 @@
 #include "app/finding/find_window.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "app/common/announcement.h"
@@ -14,7 +15,7 @@ namespace odmiennik::app {
 namespace {
 
 constexpr int kFewestLetters = 40;
-constexpr int kLettersWide = 64;  // all readings but the longest
+constexpr int kLettersWide = 90;  // all readings but the longest
 constexpr int kFewestLines = 4;
 constexpr int kLinesHigh = 10;
 
@@ -97,9 +98,14 @@ void FindWindow::layOut() {
   rows->addWidget(&answer_);
   rows->addWidget(&list_, 1);
   rows->addLayout(buttons);
+}
+
+QSize FindWindow::sizeHint() const {
+  const QFontMetrics letters = fontMetrics();
   const QSize more(letters.averageCharWidth() * (kLettersWide - kFewestLetters),
                    letters.lineSpacing() * (kLinesHigh - kFewestLines));
-  resize(minimumSizeHint() + more);
+  const QSize least = minimumSizeHint();
+  return (least + more).boundedTo(screen()->availableSize() * 9 / 10).expandedTo(least);
 }
 
 void FindWindow::showWith(const QString& word) {
@@ -123,6 +129,7 @@ void FindWindow::search() {
   if (isVisible() && !answer.isEmpty()) announce(answer);
 }
 
+// A screen reader reads the chosen one out, here and when the arrow keys choose another.
 void FindWindow::list() {
   list_.clear();
   for (const finder::Reading& reading : readings_) list_.addItem(lineOf(reading));

@@ -31,6 +31,9 @@ class FindWindow final : public SteadyWindow<> {
 
   [[nodiscard]] QLineEdit& field() const { return field_; }
 
+  // Wide enough for all readings but the longest, where the screen is.
+  [[nodiscard]] QSize sizeHint() const override;
+
  private:
   void furnish();
   void layOut();

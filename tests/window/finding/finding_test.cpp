@@ -18,6 +18,7 @@ class FindingSuite : public QObject {
   void cleanup();
 
   void ctrlFOpensItBesideAUsableMainWindow();
+  void itOpensWideEnoughForItsReadings();
   void theReadingsFollowEachKey();
   void theMostFrequentVerbStandsFirst();
   void whatIsNotFoundIsGuessedAtOrSaid();
@@ -74,6 +75,17 @@ void FindingSuite::ctrlFOpensItBesideAUsableMainWindow() {
   QVERIFY(!field().window()->isModal());
   QVERIFY(readings().isEmpty());
   QCOMPARE(answer(), "");
+}
+
+void FindingSuite::itOpensWideEnoughForItsReadings() {
+  open();
+  for (const char* form : {"allions", "j'aurais préféré"}) {
+    field().setText(form);
+    for (int row = 0; row < list().count(); ++row) {
+      const int height = list().visualItemRect(list().item(row)).height();
+      QVERIFY2(height < 2 * list().fontMetrics().lineSpacing(), qPrintable(readings()[row]));
+    }
+  }
 }
 
 void FindingSuite::theReadingsFollowEachKey() {

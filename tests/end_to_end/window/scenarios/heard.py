@@ -98,6 +98,20 @@ def the_list_says_its_choice_and_each_verb(program):
     program.reader.await_said("abandonner")
 
 
+def a_form_is_looked_for_and_found_among_its_readings(program):
+    reader = program.reader
+    _start(program)
+    keyboard.keys("ctrl+f")
+    reader.await_said("Znajdź formę")
+    keyboard.type_text("allions")
+    reader.await_said("nous allions – aller, Indicatif imparfait, nous")
+    keyboard.keys("Down")
+    reader.await_said("que nous allions – aller, Subjonctif présent, nous")
+    keyboard.keys("Return")
+    reader.await_said("aller: grupa trzecia")
+    wait_for(lambda: program.box("Subjonctif présent, nous").selection == "allions", "the form")
+
+
 def a_form_that_departs_from_the_norm_tells_it(program):
     _start(program)
     _type(program, ENTRY, "lire")
