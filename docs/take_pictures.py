@@ -71,6 +71,15 @@ def lista(program):
     wait_for(lambda: f"{B_VERBS}/7342" in program.dialog(window.name).texts(), "the list")
 
 
+def znajdz_forme(program):
+    keyboard.keys("ctrl+f")
+    window = program.dialog("Znajdź formę")
+    wait_for(window.is_active, "the window to come forward")
+    keyboard.type_text("suis")
+    wait_for(lambda: any(text.startswith("Możliwości: ") for text in window.texts()),
+             "the readings")
+
+
 def kolory(program):
     program.menu_item("Widok", "Kolory").press()
     program.dialog("Kolory")
@@ -100,6 +109,7 @@ PICTURES = {
     "okno-ciemne": (DESIGN, None, okno_ciemne),
     "edycja": (DESIGN, None, edycja),
     "lista": ("1366x768", "Lista czasowników", lista),
+    "znajdz-forme": ("1366x768", "Znajdź formę", znajdz_forme),
     "kolory": (DESIGN, "Kolory", kolory),
     "porada": ("1366x768", "Porada dnia", porada),
     "pomoc": ("1024x768", "Odmiennik – pomoc", pomoc),
