@@ -38,6 +38,9 @@ class FileReplacement {
 
   void write(std::string_view bytes);
 
+  // Whether everything has gone well so far; once it has not, whatever is written is in vain.
+  [[nodiscard]] bool isGood() const { return isGood_; }
+
   // Has the new content complete on the disk, still beside the old.
   [[nodiscard]] bool finish();
 

@@ -26,11 +26,11 @@ Utf8View personOf(const TenseTable& table, int row) {
   return engine::personOf(slotOf(table.tenses.front(), row));
 }
 
-std::vector<TenseTable> tenseTablesOf(const engine::Display& shown, const SlotChoice& slots) {
-  constexpr std::size_t kColumns = 3;
+std::vector<TenseTable> tenseTablesOf(const engine::Display& shown, const SlotChoice& slots,
+                                      std::size_t columnCount) {
   std::vector<TenseTable> tables;
   Utf8View mood;
-  for (const Band band : bandsOf(kColumns)) {
+  for (const Band band : bandsOf(columnCount)) {
     const std::vector<int> tenses = chosenOf(band, slots);
     if (tenses.empty()) continue;
     const engine::Tense& first = tenseAt(tenses.front());

@@ -12,14 +12,15 @@ namespace odmiennik::formats {
 
 struct TenseTable {
   Utf8View mood;            // where a mood begins; else empty
-  std::vector<int> tenses;  // its columns, up to three
+  std::vector<int> tenses;  // its columns
   std::vector<int> rows;    // those that any of its tenses has a form in, counted from 0
 };
 
-// The tables of the slots of a conjugation in reading order. One without a form is there, without
-// rows; one without a slot is not.
+// The tables of the slots of a conjugation in reading order, of up to so many columns. One without
+// a form is there, without rows; one without a slot is not.
 [[nodiscard]] std::vector<TenseTable> tenseTablesOf(const engine::Display& shown,
-                                                    const SlotChoice& slots = {});
+                                                    const SlotChoice& slots = {},
+                                                    std::size_t columnCount = 3);
 
 // The slot of a cell, and the person of a row ("je", "tu"; nothing where there is none).
 [[nodiscard]] int slotOf(int tense, int row);
