@@ -6,6 +6,7 @@
 
 #include "app/controls/main_menu.h"
 #include "app/editing/editing.h"
+#include "app/exporting/exporting.h"
 #include "app/finding/find_menu.h"
 #include "app/help/help_commands.h"
 #include "app/list/list_menu.h"
@@ -33,12 +34,14 @@ using Parts = const CommandParts&;
 
 constexpr Command kCommands[] = {
     {"mnuPlikZapiszCzasownik", Runs::later, [](Parts parts, bool) { parts.editing.save(); }},
+    {"mnuPlikZapiszOdmianę", Runs::later, [](Parts parts, bool) { parts.exporting.save(); }},
     {"mnuPlikDrukuj", Runs::later, [](Parts parts, bool) { parts.printing.print(); }},
     {"mnuPlikUstawieniaDrukarki", Runs::later, [](Parts parts, bool) { parts.printing.setUp(); }},
     {"mnuPlikKoniec", Runs::later, [](Parts parts, bool) { parts.window.close(); }},
 
     {"mnuEdycjaTablica", Runs::atOnce,
      [](Parts, bool) { platform::start(platform::characterMap()); }},
+    {"mnuEdycjaKopiujOdmianę", Runs::later, [](Parts parts, bool) { parts.exporting.copy(); }},
 
     {"mnuEdycjaLista", Runs::later, [](Parts parts, bool) { parts.list.open(ListPurpose::list); }},
     {"mnuCzasownikZnajdź", Runs::later, [](Parts parts, bool) { parts.find.open(); }},

@@ -5,6 +5,7 @@
 namespace odmiennik::app {
 
 class Editing;
+class Exporting;
 class FindMenu;
 class HelpCommands;
 class ListMenu;
@@ -18,6 +19,7 @@ class ViewMenu;
 struct CommandParts {
   MainWindow& window;
   Editing& editing;
+  Exporting& exporting;
   Typing& typing;
   ListMenu& list;
   FindMenu& find;

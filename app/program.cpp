@@ -49,7 +49,10 @@ Program::Program(const Environment& given)
               return Usage{settings_.conjugationCount(), settings_.runCount()};
             }),
       typing_(window_, given.store, given.messages, help_.help()),
-      listMenu_(window_, prefix_, userVerbs_, editing_),
+      exporting_(window_, silentDriver_, given.messages, given.files),
+      listMenu_(
+          window_, prefix_, userVerbs_, editing_,
+          [this](QWidget& list, SavedList verbs) { exporting_.saveList(list, std::move(verbs)); }),
       findMenu_(window_, userVerbs_, editing_,
                 [this](QLineEdit& field) { typing_.alsoServe(field); }),
       demonstration_(
@@ -58,8 +61,8 @@ Program::Program(const Environment& given)
   giveIconLater(window_);
   QObject::connect(&window_, &MainWindow::conjugated, &window_,
                    [this] { settings_.countConjugation(); });
-  connectMenuCommands(
-      {window_, editing_, typing_, listMenu_, findMenu_, tips_, printing_, viewMenu_, help_});
+  connectMenuCommands({window_, editing_, exporting_, typing_, listMenu_, findMenu_, tips_,
+                       printing_, viewMenu_, help_});
   connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
 }
 

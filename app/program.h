@@ -8,6 +8,7 @@
 #include "app/common/user_store.h"
 #include "app/demonstration/demonstration.h"
 #include "app/editing/editing.h"
+#include "app/exporting/exporting.h"
 #include "app/finding/find_menu.h"
 #include "app/help/help_commands.h"
 #include "app/hints/tooltips.h"
@@ -90,6 +91,7 @@ class Program {
   Editing editing_;
   HelpCommands help_;
   Typing typing_;
+  Exporting exporting_;
   ListMenu listMenu_;
   FindMenu findMenu_;
   DemonstrationRunner demonstration_;

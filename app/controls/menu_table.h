@@ -28,6 +28,8 @@ inline constexpr MenuRow kMainMenu[] = {
     {MenuKind::menu, "mnuPlik", "&Plik", MenuState::ready},
     {MenuKind::item, "mnuPlikZapiszCzasownik", "&Zapisz Czasownik", MenuState::unavailable,
      "Ctrl+S"},
+    {MenuKind::item, "mnuPlikZapiszOdmianę", "Zapisz &odmianę jako…", MenuState::unavailable,
+     "Ctrl+Shift+S"},
     {MenuKind::separator, "mnuPlikLinia1", ""},
     {MenuKind::item, "mnuPlikDrukuj", "&Drukuj", MenuState::ready, "Ctrl+P"},
     {MenuKind::item, "mnuPlikUstawieniaDrukarki", "&Ustawienia drukarki", MenuState::ready},
@@ -46,6 +48,9 @@ inline constexpr MenuRow kMainMenu[] = {
     {MenuKind::separator, "mnuEdycjaLnia1", ""},
     {MenuKind::item, "mnuEdycjaZaznaczWszystko", "&Zaznacz wszystko", MenuState::unavailable,
      "Ctrl+A"},
+    {MenuKind::separator, "mnuEdycjaLinia7", ""},
+    {MenuKind::item, "mnuEdycjaKopiujOdmianę", "Kopiuj całą &odmianę", MenuState::unavailable,
+     "Ctrl+Shift+C"},
 
     {MenuKind::menu, "mnuCzasownik", "&Czasownik", MenuState::ready},
     {MenuKind::item, "mnuEdycjaLista", "&Lista", MenuState::ready, "Ctrl+L"},

@@ -57,6 +57,7 @@ ListControls::ListControls(QDialog& dialog)
       cmdNowy(createWithText<QPushButton>(dialog, "cmdNowy", "&Nowy")),
       cmdUsuń(createWithText<QPushButton>(dialog, "cmdUsuń", "&Usuń")),
       cmdDrukuj(createWithText<QPushButton>(dialog, "cmdDrukuj", "&Drukuj")),
+      cmdZapiszListę(createWithText<QPushButton>(dialog, "cmdZapiszListę", "Zapi&sz listę jako…")),
       cmdZamknij(createWithText<QPushButton>(dialog, "cmdZamknij", "&Zamknij")),
       buttons_(*new QVBoxLayout),
       places_(*new QStackedLayout) {
@@ -114,7 +115,8 @@ void ListControls::layOut() {
   lists->addWidget(&cmbLista);
   lists->addLayout(&places_, 1);
   lists->addLayout(count);
-  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj})
+  for (QPushButton* button :
+       {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj, &cmdZapiszListę})
     buttons_.addWidget(button);
   buttons_.addStretch();
   buttons_.addWidget(&cmdZamknij);
@@ -142,10 +144,11 @@ void ListControls::present(const ListAppearance& appearance) {
   window.setWindowTitle(fromUtf8(appearance.caption));
   buttons_.removeWidget(&cmdUsuń);
   buttons_.insertWidget(appearance.isDeleteMoved ? 0 : kPlaceOfUsuń, &cmdUsuń);
-  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdDrukuj})
+  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdDrukuj, &cmdZapiszListę})
     button->setVisible(appearance.showsOtherButtons);
   QWidget* previous = &lstCzasowniki;
-  for (QPushButton* button : {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj}) {
+  for (QPushButton* button :
+       {&cmdOdmień, &cmdEdytuj, &cmdNowy, &cmdUsuń, &cmdDrukuj, &cmdZapiszListę}) {
     QWidget::setTabOrder(previous, button);
     previous = button;
   }
@@ -157,6 +160,7 @@ void ListControls::enable(const ListEnabling& enabled) {
   cmdEdytuj.setEnabled(enabled.cmdEdytuj);
   cmdUsuń.setEnabled(enabled.cmdUsuń);
   cmdDrukuj.setEnabled(enabled.cmdDrukuj);
+  cmdZapiszListę.setEnabled(enabled.cmdOdmień);  // what can be conjugated can be saved
 }
 
 void ListControls::showFilling(bool isFilling) {

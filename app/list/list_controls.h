@@ -53,6 +53,7 @@ class ListControls {
   QPushButton& cmdNowy;
   QPushButton& cmdUsuń;
   QPushButton& cmdDrukuj;
+  QPushButton& cmdZapiszListę;
   QPushButton& cmdZamknij;
 
  private:

@@ -7,8 +7,12 @@
 namespace odmiennik::app {
 
 ListMenu::ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
-                   MainCommands& commands)
-    : main_(main), prefix_(prefix), userVerbs_(userVerbs), commands_(commands) {
+                   MainCommands& commands, ListWindow::Save save)
+    : main_(main),
+      prefix_(prefix),
+      userVerbs_(userVerbs),
+      commands_(commands),
+      save_(std::move(save)) {
   userVerbs_.tellOfChanges([this] {
     if (window_) window_->followUserVerbs();
   });
@@ -16,7 +20,7 @@ ListMenu::ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVe
 
 void ListMenu::open(ListPurpose purpose) {
   if (window_ == nullptr) {
-    window_ = new ListWindow(prefix_, userVerbs_, commands_, &main_);
+    window_ = new ListWindow(prefix_, userVerbs_, commands_, save_, &main_);
     window_->setAttribute(Qt::WA_DeleteOnClose);
   }
   if (!window_->isVisible()) placeBeside(*window_, main_);

@@ -15,7 +15,7 @@ namespace odmiennik::app {
 class ListMenu {
  public:
   ListMenu(QMainWindow& main, const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
-           MainCommands& commands);
+           MainCommands& commands, ListWindow::Save save);
 
   void open(ListPurpose purpose);
 
@@ -24,6 +24,7 @@ class ListMenu {
   Utf8Text prefix_;
   dictionary::UserVerbsFile& userVerbs_;
   MainCommands& commands_;
+  ListWindow::Save save_;
   QPointer<ListWindow> window_;
 };
 

@@ -21,11 +21,12 @@ constexpr qint64 kPauseMilliseconds = 1000;
 }  // namespace
 
 ListWindow::ListWindow(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs,
-                       MainCommands& main, QWidget* mainWindow)
+                       MainCommands& main, Save save, QWidget* mainWindow)
     : SteadyWindow(mainWindow),
       prefix_(prefix),
       userVerbs_(userVerbs),
       main_(main),
+      save_(std::move(save)),
       controls_(*this) {
   setObjectName(QStringLiteral("frmLista"));
   connectControls();
@@ -43,6 +44,8 @@ void ListWindow::connectControls() {
   runs(controls_.cmdNowy, ListButton::cmdNowy);
   runs(controls_.cmdDrukuj, ListButton::cmdDrukuj);
   connect(&controls_.cmdUsuń, &QPushButton::clicked, this, &ListWindow::deleteSelected,
+          Qt::QueuedConnection);
+  connect(&controls_.cmdZapiszListę, &QPushButton::clicked, this, &ListWindow::saveListed,
           Qt::QueuedConnection);
   connect(&controls_.cmdZamknij, &QPushButton::clicked, this, &ListWindow::close);
   connect(&controls_.lstCzasowniki, &QListWidget::doubleClicked, &controls_.cmdOdmień, [this] {
@@ -153,6 +156,11 @@ void ListWindow::deleteSelected() {
   announce(QStringLiteral("Usunięto czasownik %1.").arg(fromFrench(infinitive)));
   list_.drop(infinitive);
   showEntries();
+}
+
+void ListWindow::saveListed() {
+  if (list_.isFilling() || list_.entries().empty()) return;
+  save_(*this, savedList(choice_, list_.entries()));
 }
 
 }  // namespace odmiennik::app

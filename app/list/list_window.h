@@ -3,9 +3,11 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <functional>
 
 #include "app/common/steady_window.h"
 #include "app/list/list_controls.h"
+#include "app/logic/saved_list.h"
 #include "app/logic/verb_list.h"
 #include "app/logic/verb_list_commands.h"
 #include "app/logic/verb_search.h"
@@ -20,9 +22,12 @@ class ListWindow final : public SteadyWindow<> {
   Q_OBJECT
 
  public:
+  // Saves a list, asking over the window for a file.
+  using Save = std::function<void(QWidget& window, SavedList list)>;
+
   // `prefix` names the program's folder; `mainWindow` is the parent and stays usable.
   ListWindow(const Utf8Text& prefix, dictionary::UserVerbsFile& userVerbs, MainCommands& main,
-             QWidget* mainWindow);
+             Save save, QWidget* mainWindow);
 
   // Shows the window, not modal, as the list or for deleting. One that was closed begins again with
   // the user's own verbs; where they are listed they are read anew.
@@ -46,10 +51,12 @@ class ListWindow final : public SteadyWindow<> {
   void search(const QString& key);
   void run(ListButton button);
   void deleteSelected();
+  void saveListed();
 
   Utf8Text prefix_;
   dictionary::UserVerbsFile& userVerbs_;
   MainCommands& main_;
+  Save save_;
   VerbList list_;
   ListControls controls_;
   VerbSearch search_;

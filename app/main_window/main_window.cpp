@@ -87,6 +87,13 @@ void MainWindow::showEmptyTable() {
   boxes_.showCaptions(shown.captions);
   information_.show(conjugation_.information);
   auxiliary_.show(conjugation_);
+  emit shownChanged();
+}
+
+bool MainWindow::showsVerb() const {
+  const bool isConjugated =
+      conjugation_.flags.isConjugationShown && conjugation_.source != engine::Source::none;
+  return isEditing_ || isConjugated;
 }
 
 void MainWindow::selectEntryWord() {
@@ -135,6 +142,7 @@ void MainWindow::setEditing(bool isEditing) {
   isEditing_ = isEditing;
   boxes_.setEditable(isEditing);
   showDepartures();
+  emit shownChanged();
 }
 
 // The auxiliary that the user has chosen and what is being typed stay.
@@ -209,6 +217,7 @@ void MainWindow::showConjugation() {
   auxiliary_.show(conjugation_);
   showDepartures();
   surface_.setUpdatesEnabled(true);
+  emit shownChanged();
 }
 
 }  // namespace odmiennik::app

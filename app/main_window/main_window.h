@@ -65,6 +65,9 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] const engine::Conjugation& conjugation() const { return conjugation_; }
   [[nodiscard]] bool isEditing() const { return isEditing_; }
 
+  // Whether there are forms to be taken away: of a verb that has been conjugated, or is edited.
+  [[nodiscard]] bool showsVerb() const;
+
   // The ground of the controls, with the pronouns on it.
   [[nodiscard]] FormSurface& surface() const { return surface_; }
 
@@ -95,6 +98,8 @@ class MainWindow final : public QMainWindow {
  signals:
   // A verb has been conjugated, or refused; not the word that resets the settings.
   void conjugated();
+  // Another conjugation is shown, or what is shown can be edited from now on, or no longer.
+  void shownChanged();
   // The user has chosen the auxiliary of the verb that is being edited.
   void auxiliaryEdited();
 

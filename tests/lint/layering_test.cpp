@@ -35,7 +35,7 @@ const std::vector<Folders> kFloorsOfTheWindow{
     {"controls"},
     {"layout"},
     {"main_window"},
-    {"about", "editing", "explaining", "finding", "list", "printing", "tips", "view"},
+    {"about", "editing", "explaining", "exporting", "finding", "list", "printing", "tips", "view"},
     {"demonstration", "help", "hints", "lifetime"},
     {"typing"},
 };

@@ -87,8 +87,11 @@ struct ListUnderTest {
   Folder folder;
   dictionary::UserVerbsFile verbs;
   NotingCommands commands;
+  std::vector<app::SavedList> savedLists;  // lists that were asked for to be saved
   QWidget main;
-  app::ListWindow& window = *new app::ListWindow(folder.prefix(), verbs, commands, &main);
+  app::ListWindow& window = *new app::ListWindow(
+      folder.prefix(), verbs, commands,
+      [this](QWidget&, const app::SavedList& list) { savedLists.push_back(list); }, &main);
 };
 
 }  // namespace odmiennik::window_test

@@ -16,6 +16,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> coloursSuite();
 [[nodiscard]] std::unique_ptr<QObject> conjugatingSuite();
 [[nodiscard]] std::unique_ptr<QObject> contrastSuite();
+[[nodiscard]] std::unique_ptr<QObject> copyingSuite();
 [[nodiscard]] std::unique_ptr<QObject> damagedSettingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> demonstrationSuite();
 [[nodiscard]] std::unique_ptr<QObject> designSuite();
@@ -26,6 +27,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
+[[nodiscard]] std::unique_ptr<QObject> exportingSuite();
 [[nodiscard]] std::unique_ptr<QObject> findingSuite();
 [[nodiscard]] std::unique_ptr<QObject> formLettersSuite();
 [[nodiscard]] std::unique_ptr<QObject> helpSuite();
@@ -50,6 +52,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> refusedSaveSuite();
 [[nodiscard]] std::unique_ptr<QObject> rescalingSuite();
 [[nodiscard]] std::unique_ptr<QObject> restoringSuite();
+[[nodiscard]] std::unique_ptr<QObject> savedListSuite();
 [[nodiscard]] std::unique_ptr<QObject> savingSuite();
 [[nodiscard]] std::unique_ptr<QObject> settingsSuite();
 [[nodiscard]] std::unique_ptr<QObject> smallScreenSuite();

@@ -47,6 +47,7 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
   QTest::addColumn<QStringList>("items");
   QTest::newRow("mnuPlik") << "&Plik"
                            << QStringList{"mnuPlikZapiszCzasownik &Zapisz Czasownik",
+                                          "mnuPlikZapiszOdmianę Zapisz &odmianę jako…",
                                           "mnuPlikLinia1 -",
                                           "mnuPlikDrukuj &Drukuj",
                                           "mnuPlikUstawieniaDrukarki &Ustawienia drukarki",
@@ -62,7 +63,9 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
                                             "mnuEdycjaWklej Wkl&ej",
                                             "mnuEdycjaUsuń &Usuń",
                                             "mnuEdycjaLnia1 -",
-                                            "mnuEdycjaZaznaczWszystko &Zaznacz wszystko"};
+                                            "mnuEdycjaZaznaczWszystko &Zaznacz wszystko",
+                                            "mnuEdycjaLinia7 -",
+                                            "mnuEdycjaKopiujOdmianę Kopiuj całą &odmianę"};
   QTest::newRow("mnuCzasownik") << "&Czasownik"
                                 << QStringList{"mnuEdycjaLista &Lista",
                                                "mnuCzasownikZnajdź Znajdź &formę…",
@@ -108,7 +111,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 38);
+  QCOMPARE(items, 41);
   QCOMPARE(names.size(), items);
 }
 
@@ -120,8 +123,9 @@ void MenuSuite::whatCannotBeDoneAtTheStartIsDisabled() {
       if (!action->isEnabled()) disabled += action->objectName();
   disabled.removeAll("mnuEdycjaTablica");  // as the system has one
   disabled.removeAll("mnuEdycjaWklej");    // as the clipboard allows
-  const QStringList expected{"mnuPlikZapiszCzasownik", "mnuEdycjaCofnij",
-                             "mnuEdycjaZaznaczWszystko", "mnuCzasownikPrzywróć"};
+  const QStringList expected{"mnuPlikZapiszCzasownik", "mnuPlikZapiszOdmianę",
+                             "mnuEdycjaCofnij",        "mnuEdycjaZaznaczWszystko",
+                             "mnuEdycjaKopiujOdmianę", "mnuCzasownikPrzywróć"};
   QCOMPARE(disabled, expected);
 }
 

@@ -113,7 +113,7 @@ std::unique_ptr<QDialog> AccessibilitySuite::made(const QString& window) {
   if (window == "frmLista") {
     auto list = std::make_unique<app::ListWindow>(
         Utf8Text(asUtf8(program_->folder.path().string())) + "/", program_->program.userVerbs(),
-        program_->program.editing(), &parent);
+        program_->program.editing(), [](QWidget&, const app::SavedList&) {}, &parent);
     list->showFor(app::ListPurpose::list);
     list->findChild<QComboBox*>("cmbLista")->setCurrentIndex(1);
     return list;
