@@ -40,7 +40,7 @@ formats::Answer Departures::append(Utf8Text& out, const Question& question) {
   const engine::Display& norm = inNorm.conjugation.shown;
   const engine::Display& system = answer.conjugation.shown;
   for (int slot = 0; slot < engine::kSlotCount; ++slot) {
-    if (!answer.slots.has(slot) || !engine::departs(system, norm, slot)) continue;
+    if (!answer.printed.has(slot) || !engine::departs(system, norm, slot)) continue;
     engine::setPhrase(systemPhrase_, system, slot);
     engine::setPhrase(normPhrase_, norm, slot);
     appendLine(out, system.boxes[engine::slot::kInfinitive], slot, systemPhrase_, normPhrase_);

@@ -30,7 +30,7 @@ class AnkiFormat final : public Format {
     if (answer.isRefused) return;
     for (int slot = 0; slot < engine::kSlotCount; ++slot) {
       const bool isAskedWith = slot == engine::slot::kInfinitive;
-      if (answer.slots.has(slot) && !isAskedWith) appendCard(out, answer, slot);
+      if (answer.printed.has(slot) && !isAskedWith) appendCard(out, answer, slot);
     }
   }
 

@@ -16,8 +16,8 @@ struct Answer {
   const engine::Conjugation& conjugation;
   const std::vector<Utf8Text>& messages;
   bool isPronominal;
-  bool isRefused;         // no conjugation came of it
-  SlotChoice slots = {};  // what of it is printed
+  bool isRefused;           // no conjugation came of it
+  SlotChoice printed = {};  // these slots of it; Qt has taken the word for itself
 };
 
 }  // namespace odmiennik::formats

@@ -25,7 +25,7 @@ class CsvFormat final : public Format {
     infinitive_.clear();
     appendPrintable(infinitive_, cellOf(shown, engine::slot::kInfinitive).form);
     for (int slot = 0; slot < engine::kSlotCount; ++slot)
-      if (answer.slots.has(slot)) appendSlot(out, shown, slot);
+      if (answer.printed.has(slot)) appendSlot(out, shown, slot);
   }
 
  private:

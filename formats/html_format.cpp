@@ -53,7 +53,7 @@ class HtmlFormat final : public Format {
     });
     out.append("</h1>\n");
     appendFacts(out, dictionary::labelsOf(answer.conjugation.information));
-    for (const TenseTable& table : tenseTablesOf(shown, answer.slots)) {
+    for (const TenseTable& table : tenseTablesOf(shown, answer.printed)) {
       if (!table.mood.empty()) out.append("<h2 lang=\"fr\">").append(table.mood).append("</h2>\n");
       if (!table.rows.empty()) appendTable(out, shown, table);
     }

@@ -49,7 +49,7 @@ class JsonFormat final : public Format {
   void append(Utf8Text& out, const Answer& answer) override {
     const engine::Conjugation& conjugation = answer.conjugation;
     appendUtf8(out, R"({"typed":)", answer.typed);
-    appendTable(out, conjugation, answer.slots);
+    appendTable(out, conjugation, answer.printed);
     appendLabels(out, dictionary::labelsOf(conjugation.information));
     appendFlag(out, R"(,"aux_checked":)", conjugation.flags.auxiliary == engine::kAvoir);
     appendFlag(out, R"(,"aux_enabled":)", conjugation.information.isAuxiliaryFree);

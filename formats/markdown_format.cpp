@@ -29,7 +29,7 @@ class MarkdownFormat final : public Format {
     isFirst_ = false;
     const engine::Display& shown = answer.conjugation.shown;
     appendTitle(out, shown, dictionary::labelsOf(answer.conjugation.information));
-    for (const TenseTable& table : tenseTablesOf(shown, answer.slots)) {
+    for (const TenseTable& table : tenseTablesOf(shown, answer.printed)) {
       if (!table.mood.empty()) out.append("\n## ").append(table.mood).append("\n");
       if (!table.rows.empty()) appendTable(out, shown, table);
     }

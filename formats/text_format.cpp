@@ -35,8 +35,8 @@ class VerbTable {
       : page_(page),
         conjugation_(answer.conjugation),
         shown_(answer.conjugation.shown),
-        slots_(answer.slots),
-        columnCount_(columnCountFor(answer.conjugation.shown, answer.slots)) {}
+        slots_(answer.printed),
+        columnCount_(columnCountFor(answer.conjugation.shown, answer.printed)) {}
 
   void write() {
     writeTitle();

@@ -21,7 +21,7 @@ class TsvFormat final : public Format {
   void append(Utf8Text& out, const Answer& answer) override {
     if (answer.isRefused) return;
     for (int slot = 0; slot < engine::kSlotCount; ++slot)
-      if (answer.slots.has(slot)) appendSlot(out, answer, slot);
+      if (answer.printed.has(slot)) appendSlot(out, answer, slot);
   }
 
  private:

@@ -62,7 +62,7 @@ SheetText sheetText(const formats::Answer& answer, std::size_t columnCount) {
   SheetText text{printed(formats::cellOf(shown, engine::slot::kInfinitive).form),
                  factsOf(answer.conjugation.information),
                  {}};
-  for (const formats::TenseTable& table : formats::tenseTablesOf(shown, answer.slots, columnCount))
+  for (const formats::TenseTable& table : formats::tenseTablesOf(shown, answer.printed, columnCount))
     if (!table.mood.empty() || !table.rows.empty()) text.tables.push_back(tableOf(shown, table));
   return text;
 }
