@@ -70,6 +70,10 @@ void ListControls::furnish() {
   lstCzasowniki.setAccessibleName(QStringLiteral("Czasowniki"));
   lstCzasowniki.setUniformItemSizes(true);  // a long list is laid out at once
   cmdOdmień.setDefault(true);               // the Enter key in the list
+  // The widest button: where it is hidden, the others stay where they stand.
+  QSizePolicy policy = cmdZapiszListę.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  cmdZapiszListę.setSizePolicy(policy);
   shpStatusBar.setFrameShape(QFrame::Box);
   shpStatusBar.setFixedHeight(kBarHeight);
   shpNiebieska.setParent(&shpStatusBar);
