@@ -84,8 +84,9 @@ class JsonFormat final : public Format {
     char* const boxes = boxRoom_.of(roomForArray(shown.boxes));
     char* slotEnd = slots;
     char* boxEnd = boxes;
+    const bool areAllChosen = chosen.hasAll();
     for (int slot = 0; slot < engine::kSlotCount; ++slot) {
-      const bool isChosen = chosen.has(slot);
+      const bool isChosen = areAllChosen || chosen.has(slot);
       const std::string_view form = isChosen ? forms[slot] : std::string_view{};
       const std::string_view box =
           isChosen ? shown.boxes[static_cast<std::size_t>(slot)] : std::string_view{};
