@@ -118,8 +118,7 @@ void buildCompoundTenses(Forms& forms, std::uint8_t auxiliary, CompoundOptions o
   const std::string_view stored = forms[slot::kPastParticiple];
   const std::string_view base = stored.substr(0, stored.find_first_of(";/,"));
   if (base.empty()) return;
-  // Kept between verbs for its buffer, so that no verb allocates; 1 % of an answer besides.
-  thread_local std::string tail;
+  std::string tail;
   const Tails tails = tailsOf(tail, base, auxiliary, options.agreement);
   const bool isNorm = options.agreement != Agreement::system;
   const bool placeholdersOnly = options.placeholdersOnly || forms.isPlaceholder(slot::kPerfect);

@@ -49,7 +49,7 @@ template <typename Texts>
 }
 
 // Appends French texts as a JSON array: {"va", "été"} -> ["va","été"]. Room is made once for all of
-// them: text by text, an answer takes an eighth more instructions.
+// them: text by text, an answer as JSON takes 11 % more instructions.
 template <typename Texts>
 void appendJsonArray(Utf8Text& out, const Texts& texts, JsonRoom& room) {
   char* const start = room.of(roomForArray(texts));

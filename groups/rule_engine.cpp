@@ -125,17 +125,15 @@ class BuilderBase {
   BuilderBase(const Step& step, const RunningModel<Forms>& run) : text_(baseText(step, run)) {
     noteBase(step, run);
     if (step.text.empty()) return;
-    engine::setTo(joined_(), text_, step.text);
-    text_ = joined_();
+    engine::setTo(joined_, text_, step.text);
+    text_ = joined_;
   }
+  BuilderBase(const BuilderBase&) = delete;
+  BuilderBase& operator=(const BuilderBase&) = delete;
   [[nodiscard]] std::string_view text() const { return text_; }
 
  private:
-  static std::string& joined_() {
-    // Kept between steps for its buffer, so that no verb allocates; it saves nothing else.
-    thread_local std::string joined;
-    return joined;
-  }
+  std::string joined_;
   std::string_view text_;
 };
 
