@@ -34,7 +34,7 @@ struct FoundFile {
 [[nodiscard]] std::optional<std::filesystem::path> freeName(Utf8View prefix, Utf8View name,
                                                             FileSystem& files = systemFiles());
 
-// The folder of a file, "." for a bare name.
+// The folder of a file: "/home/ala/a.txt" -> "/home/ala", "a.txt" -> ".".
 [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& file);
 
 }  // namespace odmiennik::disk

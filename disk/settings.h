@@ -22,10 +22,11 @@ struct Settings {
 
 // Reads the text of a settings file into `settings`, field by field (divided by line ends or
 // commas); false at the first one that is missing or no signed 32-bit number: what stood before it
-// has been taken, the rest is untouched.
+// has been taken, the rest is untouched. Of "3,255,x" the first two are.
 [[nodiscard]] bool parseSettings(std::string_view text, Settings& settings);
 
-// The five lines, each ended by CR LF, the run count encoded.
+// The five lines, each ended by CR LF, the run count encoded: {3, 255, 65280, 41, 12} ->
+// "3\r\n255\r\n65280\r\n41\r\n1112\r\n".
 [[nodiscard]] std::string settingsText(const Settings& settings);
 
 // The encoding of the fifth line: each character's code less 32 as two hexadecimal digits:

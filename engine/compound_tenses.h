@@ -22,7 +22,7 @@ struct CompoundOptions {
 template <typename Forms>
 void buildCompoundTenses(Forms& forms, std::uint8_t auxiliary, CompoundOptions options);
 
-// Whether any compound slot still waits for its form.
+// Whether any compound slot still waits for its form, "*".
 [[nodiscard]] bool hasCompoundPlaceholder(const FormTable& forms);
 
 }  // namespace odmiennik::engine

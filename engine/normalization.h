@@ -7,13 +7,14 @@
 
 namespace odmiennik::engine {
 
-// `text` without leading and trailing blanks; only U+0020 is a blank here.
+// `text` without leading and trailing blanks, of which only U+0020 is one here: "  aller " ->
+// "aller", "aller\t" stays.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
 // Windows-1252 lower case: "ÊTRE" -> "être", "ŒUVRER" -> "œuvrer".
 void lowerCase(std::string& text);
 
-// Whether the text begins with "s'" or "se ".
+// Whether the text begins with "s'" or "se ": "se laver" does, "sembler" and "S'asseoir" do not.
 [[nodiscard]] bool hasReflexivePrefix(std::string_view text);
 
 // The text without that prefix: "se laver" -> "laver", "s'asseoir" -> "asseoir". Both tests look at
@@ -28,7 +29,8 @@ void normalize(std::string_view text, std::string& out);
 // lower case, whatever else it holds as it is: " S’Habiller " -> "s'Habiller".
 [[nodiscard]] std::string keptInfinitive(std::string_view text);
 
-// The key under which a stored infinitive is found: normalized and without its reflexive prefix.
+// The key under which a stored infinitive is found: normalized and without its reflexive prefix,
+// " S’Asseoir" -> "asseoir".
 [[nodiscard]] std::string lookupKey(std::string_view infinitive);
 
 }  // namespace odmiennik::engine

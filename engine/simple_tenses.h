@@ -30,7 +30,8 @@ void buildImperative(Forms& forms);
 template <typename Forms>
 void buildPresentSubjunctive(Forms& forms);
 
-// Slots 72-77 from slot 18, its variants one by one; an empty slot 18 leaves them as they are.
+// Slots 72-77 from slot 18, its variants one by one: assiérai/assoirai -> assiérais/assoirais. An
+// empty slot 18 leaves them as they are.
 template <typename Forms>
 void buildConditional(Forms& forms);
 
@@ -47,7 +48,8 @@ void buildPastHistoric(Forms& forms, std::optional<PastEndings> endings = std::n
 template <typename Forms>
 void buildPresentParticiple(Forms& forms);
 
-// Slots 54-59 from slots 12 and 15; an empty slot 12 leaves them as they are.
+// Slots 54-59 from slots 12 and 15: parlai, parlâmes -> parlasse … parlât. An empty slot 12 leaves
+// them as they are.
 template <typename Forms>
 void buildImperfectSubjunctive(Forms& forms);
 

@@ -31,7 +31,8 @@ struct VerbInformation {
 // avoir.
 void applyRecord(std::string_view record, EngineFlags& flags, VerbInformation& information);
 
-// A verb conjugated pronominally: neither transitive nor intransitive, with être.
+// A verb conjugated pronominally: neither transitive nor intransitive, with être. Of "se laver" the
+// record of laver is applied first, and its group stays.
 void applyPronominal(EngineFlags& flags, VerbInformation& information);
 
 // A verb of the user's own: nothing is known but its auxiliary, and that is free.
