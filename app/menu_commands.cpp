@@ -6,6 +6,7 @@
 
 #include "app/controls/main_menu.h"
 #include "app/editing/editing.h"
+#include "app/explaining/explain_menu.h"
 #include "app/exporting/exporting.h"
 #include "app/finding/find_menu.h"
 #include "app/help/help_commands.h"
@@ -45,6 +46,8 @@ constexpr Command kCommands[] = {
 
     {"mnuEdycjaLista", Runs::later, [](Parts parts, bool) { parts.list.open(ListPurpose::list); }},
     {"mnuCzasownikZnajdź", Runs::later, [](Parts parts, bool) { parts.find.open(); }},
+    {"mnuCzasownikSkąd", Runs::later,
+     [](Parts parts, bool) { parts.explain.open(parts.typing.current().index()); }},
     {"mnuEdycjaOdmień", Runs::later, [](Parts parts, bool) { parts.editing.conjugate(); }},
     {"mnuEdycjaNowyCzasownik", Runs::later, [](Parts parts, bool) { parts.editing.newVerb(); }},
     {"mnuEdycjaEdytujCzasownik", Runs::atOnce,

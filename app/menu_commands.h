@@ -5,6 +5,7 @@
 namespace odmiennik::app {
 
 class Editing;
+class ExplainMenu;
 class Exporting;
 class FindMenu;
 class HelpCommands;
@@ -23,6 +24,7 @@ struct CommandParts {
   Typing& typing;
   ListMenu& list;
   FindMenu& find;
+  ExplainMenu& explain;
   TipOfTheDay& tips;
   Printing& printing;
   ViewMenu& view;

@@ -55,14 +55,15 @@ Program::Program(const Environment& given)
           [this](QWidget& list, SavedList verbs) { exporting_.saveList(list, std::move(verbs)); }),
       findMenu_(window_, userVerbs_, editing_,
                 [this](QLineEdit& field) { typing_.alsoServe(field); }),
+      explainMenu_(window_, userVerbs_),
       demonstration_(
           window_, editing_, [this](bool isOn) { typing_.suspendCompletion(isOn); }, given.pointer),
       tooltips_(window_) {
   giveIconLater(window_);
   QObject::connect(&window_, &MainWindow::conjugated, &window_,
                    [this] { settings_.countConjugation(); });
-  connectMenuCommands({window_, editing_, exporting_, typing_, listMenu_, findMenu_, tips_,
-                       printing_, viewMenu_, help_});
+  connectMenuCommands({window_, editing_, exporting_, typing_, listMenu_, findMenu_, explainMenu_,
+                       tips_, printing_, viewMenu_, help_});
   connectDeveloperButtons(window_.controls(), prefix_, userVerbs_);
 }
 

@@ -8,6 +8,7 @@
 #include "app/common/user_store.h"
 #include "app/demonstration/demonstration.h"
 #include "app/editing/editing.h"
+#include "app/explaining/explain_menu.h"
 #include "app/exporting/exporting.h"
 #include "app/finding/find_menu.h"
 #include "app/help/help_commands.h"
@@ -94,6 +95,7 @@ class Program {
   Exporting exporting_;
   ListMenu listMenu_;
   FindMenu findMenu_;
+  ExplainMenu explainMenu_;
   DemonstrationRunner demonstration_;
   Tooltips tooltips_;
 };

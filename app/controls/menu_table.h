@@ -55,6 +55,7 @@ inline constexpr MenuRow kMainMenu[] = {
     {MenuKind::menu, "mnuCzasownik", "&Czasownik", MenuState::ready},
     {MenuKind::item, "mnuEdycjaLista", "&Lista", MenuState::ready, "Ctrl+L"},
     {MenuKind::item, "mnuCzasownikZnajdź", "Znajdź &formę…", MenuState::ready, "Ctrl+F"},
+    {MenuKind::item, "mnuCzasownikSkąd", "Skąd &ta forma?", MenuState::ready, "Shift+F1"},
     {MenuKind::separator, "mnuEdycjaLinia4", ""},
     {MenuKind::item, "mnuEdycjaOdmień", "&Odmień", MenuState::ready, "Ctrl+O"},
     {MenuKind::item, "mnuEdycjaNowyCzasownik", "&Nowy", MenuState::ready, "Ctrl+N"},

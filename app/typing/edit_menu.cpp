@@ -71,6 +71,8 @@ void EditMenu::showContextMenu(QLineEdit& box, QPoint onScreen) {
   const QList<QAction*> actions = menu_.actions();
   const qsizetype first = actions.indexOf(&menuItem(*window_.menuBar(), kEditCommands[0].item));
   context->addActions(actions.sliced(first));
+  context->addSeparator();
+  context->addAction(&menuItem(*window_.menuBar(), "mnuCzasownikSkąd"));
   context->popup(onScreen);
 }
 

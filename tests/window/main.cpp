@@ -32,6 +32,7 @@ int main(int argumentCount, char** arguments) {
       {"elision", elisionSuite},
       {"entry_box", entryBoxSuite},
       {"entry_keys", entryKeysSuite},
+      {"explaining", explainingSuite},
       {"exporting", exportingSuite},
       {"finding", findingSuite},
       {"form_letters", formLettersSuite},

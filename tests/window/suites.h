@@ -27,6 +27,7 @@ namespace odmiennik::window_test {
 [[nodiscard]] std::unique_ptr<QObject> elisionSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryBoxSuite();
 [[nodiscard]] std::unique_ptr<QObject> entryKeysSuite();
+[[nodiscard]] std::unique_ptr<QObject> explainingSuite();
 [[nodiscard]] std::unique_ptr<QObject> exportingSuite();
 [[nodiscard]] std::unique_ptr<QObject> findingSuite();
 [[nodiscard]] std::unique_ptr<QObject> formLettersSuite();

@@ -69,6 +69,7 @@ void MenuSuite::theTreeHasItsNamesAndCaptionsInOrder_data() {
   QTest::newRow("mnuCzasownik") << "&Czasownik"
                                 << QStringList{"mnuEdycjaLista &Lista",
                                                "mnuCzasownikZnajdź Znajdź &formę…",
+                                               "mnuCzasownikSkąd Skąd &ta forma?",
                                                "mnuEdycjaLinia4 -",
                                                "mnuEdycjaOdmień &Odmień",
                                                "mnuEdycjaNowyCzasownik &Nowy",
@@ -111,7 +112,7 @@ void MenuSuite::everyItemHasANameOfItsOwn() {
       names.insert(action->objectName());
       ++items;
     }
-  QCOMPARE(items, 41);
+  QCOMPARE(items, 42);
   QCOMPARE(names.size(), items);
 }
 
@@ -136,6 +137,8 @@ void MenuSuite::theMenuTellsTheKeysOfItsItems_data() {
                         << "Ctrl+L";
   QTest::newRow("find") << "mnuCzasownikZnajdź"
                         << "Ctrl+F";
+  QTest::newRow("explain") << "mnuCzasownikSkąd"
+                           << "Shift+F1";
   QTest::newRow("help") << "mnuPomocTematy"
                         << "F1";
   QTest::newRow("undo") << "mnuEdycjaCofnij"
