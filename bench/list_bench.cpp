@@ -47,7 +47,8 @@ void openListOfOwnVerbs(benchmark::State& state) {
   NoCommands commands;
   QWidget main;
   for (auto _ : state) {
-    ListWindow window(folder.prefix(), verbs, commands, &main);
+    ListWindow window(
+        folder.prefix(), verbs, commands, [](QWidget&, const SavedList&) {}, &main);
     window.showFor(ListPurpose::list);
     QCoreApplication::processEvents();
     if (window.findChild<QListWidget*>()->count() != count)
