@@ -34,6 +34,8 @@ const std::map<std::string, std::string> kCommands{
     {"norm_lists", "norm-texts /dev/null data/norm/strings.txt @"},
     {"norm_verbs", "norm-models /dev/null data/tenses.txt data/norm/models.txt @"},
     {"hints", "hints /dev/null @"},
+    {"phrases", "explanations /dev/null @ data/explanations/models.txt"},
+    {"explained_models", "explanations /dev/null data/explanations/phrases.txt @"},
     {"messages", "messages /dev/null @"},
     {"window", "window /dev/null data/tenses.txt @"},
 };
