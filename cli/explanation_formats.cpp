@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/explaining.h"
+#include "cli/reading_formats.h"
 #include "dictionary/printable.h"
 #include "engine/slots.h"
 #include "engine/windows1252.h"
@@ -16,6 +17,8 @@ namespace {
 using explainer::Explanation;
 using explainer::PhraseId;
 using formats::appendJsonFrench;
+using formats::appendJsonKey;
+using formats::appendJsonTexts;
 using formats::appendJsonUtf8;
 using formats::appendPrintable;
 using formats::letterCount;
@@ -23,11 +26,6 @@ using formats::Page;
 
 constexpr std::size_t kWidth = 100;
 constexpr std::size_t kVerb = 2, kForm = 4, kTense = 4, kTold = 34;
-
-Utf8View nameOf(finder::Match match) {
-  constexpr Utf8View kNames[] = {"exact", "accents", "slip"};
-  return kNames[static_cast<std::size_t>(match)];
-}
 
 Utf8View headingText(PhraseId heading) { return explainer::rowOf(heading).text; }
 
@@ -140,8 +138,6 @@ void appendTsv(Utf8Text& out, Utf8View typed, const ExplainedVerbs& verbs) {
     }
 }
 
-void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
-
 void appendRemarks(Utf8Text& out, const explainer::Remarks& remarks) {
   out.append("[");
   for (const explainer::Remark& remark : remarks) {
@@ -152,11 +148,11 @@ void appendRemarks(Utf8Text& out, const explainer::Remarks& remarks) {
 }
 
 void appendNorm(Utf8Text& out, const Explanation& form) {
-  appendKey(out, "norm");
+  appendJsonKey(out, "norm");
   if (!form.isDeparting) return void(out.append("null"));
   out.append("{\"phrase\":");
   appendJsonFrench(out, form.normPhrase);
-  appendKey(out, "remarks");
+  appendJsonKey(out, "remarks");
   appendRemarks(out, form.normRemarks);
   out.append("}");
 }
@@ -164,15 +160,12 @@ void appendNorm(Utf8Text& out, const Explanation& form) {
 void appendForm(Utf8Text& out, const Explanation& form) {
   const engine::Tense& tense = engine::tenseOf(form.slot);
   out.append("{\"slot\":").append(decimal(form.slot));
-  const std::pair<Utf8View, Utf8View> texts[] = {
-      {"mood", tense.mood}, {"tense", tense.name}, {"person", engine::personOf(form.slot)}};
-  for (const auto& [key, text] : texts) {
-    appendKey(out, key);
-    appendJsonUtf8(out, text);
-  }
-  appendKey(out, "phrase");
+  appendJsonTexts(out, {{"mood", tense.mood},
+                        {"tense", tense.name},
+                        {"person", engine::personOf(form.slot)}});
+  appendJsonKey(out, "phrase");
   appendJsonFrench(out, form.phrase);
-  appendKey(out, "remarks");
+  appendJsonKey(out, "remarks");
   appendRemarks(out, form.remarks);
   appendNorm(out, form);
   out.append("}");
@@ -181,15 +174,12 @@ void appendForm(Utf8Text& out, const Explanation& form) {
 void appendVerb(Utf8Text& out, const ExplainedVerb& verb) {
   out.append("{\"infinitive\":");
   appendJsonFrench(out, verb.infinitive);
-  const std::pair<Utf8View, Utf8View> texts[] = {
-      {"source", verb.source}, {"auxiliary", verb.auxiliary}, {"match", nameOf(verb.match)}};
-  for (const auto& [key, text] : texts) {
-    appendKey(out, key);
-    appendJsonUtf8(out, text);
-  }
-  appendKey(out, "whole");
+  appendJsonTexts(out, {{"source", verb.source},
+                        {"auxiliary", verb.auxiliary},
+                        {"match", nameOf(verb.match)}});
+  appendJsonKey(out, "whole");
   out.append(verb.isWhole ? "true" : "false");
-  appendKey(out, "forms");
+  appendJsonKey(out, "forms");
   out.append("[");
   for (const Explanation& form : verb.forms) {
     if (&form != &verb.forms.front()) out.push_back(',');

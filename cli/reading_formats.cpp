@@ -23,11 +23,6 @@ Utf8View varietyOf(const Reading& reading) {
   return reading.isInSystem ? "system" : "norm";
 }
 
-Utf8View nameOf(Match match) {
-  constexpr Utf8View kNames[] = {"exact", "accents", "slip"};
-  return kNames[static_cast<std::size_t>(match)];
-}
-
 // How the participle agrees: "m", "f", "mp", "fp"; nothing of a form without one.
 Utf8View agreementOf(const Reading& reading) {
   constexpr Utf8View kNames[] = {"m", "f", "mp", "fp"};
@@ -80,29 +75,23 @@ void appendTsv(Utf8Text& out, Utf8View typed, const Readings& readings) {
   }
 }
 
-void appendKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
-
 void appendReading(Utf8Text& out, const Reading& reading) {
   const engine::Tense& tense = engine::tenseOf(reading.slot);
   out.append("{\"phrase\":");
   formats::appendJsonFrench(out, finder::phraseOf(reading));
-  appendKey(out, "form");
+  formats::appendJsonKey(out, "form");
   formats::appendJsonFrench(out, reading.form);
-  appendKey(out, "infinitive");
+  formats::appendJsonKey(out, "infinitive");
   formats::appendJsonFrench(out, finder::infinitiveOf(reading));
-  appendKey(out, "slot");
+  formats::appendJsonKey(out, "slot");
   out.append(decimal(reading.slot));
-  const std::pair<Utf8View, Utf8View> texts[] = {{"mood", tense.mood},
-                                                 {"tense", tense.name},
-                                                 {"person", engine::personOf(reading.slot)},
-                                                 {"agreement", agreementOf(reading)},
-                                                 {"variety", varietyOf(reading)},
-                                                 {"match", nameOf(reading.match)}};
-  for (const auto& [key, text] : texts) {
-    appendKey(out, key);
-    formats::appendJsonUtf8(out, text);
-  }
-  appendKey(out, "own");
+  formats::appendJsonTexts(out, {{"mood", tense.mood},
+                                 {"tense", tense.name},
+                                 {"person", engine::personOf(reading.slot)},
+                                 {"agreement", agreementOf(reading)},
+                                 {"variety", varietyOf(reading)},
+                                 {"match", nameOf(reading.match)}});
+  formats::appendJsonKey(out, "own");
   out.append(reading.isOwn ? "true}" : "false}");
 }
 
@@ -125,6 +114,11 @@ constexpr ReadingFormat kReadingFormats[] = {
     {"json", "", appendJson}};
 
 }  // namespace
+
+Utf8View nameOf(Match match) {
+  constexpr Utf8View kNames[] = {"exact", "accents", "slip"};
+  return kNames[static_cast<std::size_t>(match)];
+}
 
 const ReadingFormat* readingFormatNamed(Utf8View name) {
   const auto* format = std::ranges::find(kReadingFormats, name, &ReadingFormat::name);

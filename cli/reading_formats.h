@@ -16,6 +16,9 @@ struct ReadingFormat {
   void (*append)(Utf8Text& out, Utf8View typed, const finder::Readings& readings);
 };
 
+// "exact", "accents", "slip": how a form found differs from what was typed.
+[[nodiscard]] Utf8View nameOf(finder::Match match);
+
 // The format of that name; nothing when what a form may be cannot be printed so.
 [[nodiscard]] const ReadingFormat* readingFormatNamed(Utf8View name);
 

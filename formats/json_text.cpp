@@ -126,4 +126,13 @@ void appendJsonUtf8(Utf8Text& out, Utf8View utf8) {
   out.push_back('"');
 }
 
+void appendJsonKey(Utf8Text& out, Utf8View key) { out.append(",\"").append(key).append("\":"); }
+
+void appendJsonTexts(Utf8Text& out, std::initializer_list<std::pair<Utf8View, Utf8View>> members) {
+  for (const auto& [key, text] : members) {
+    appendJsonKey(out, key);
+    appendJsonUtf8(out, text);
+  }
+}
+
 }  // namespace odmiennik::formats

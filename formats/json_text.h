@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "engine/utf8.h"
 
@@ -66,5 +68,11 @@ void appendJsonArray(Utf8Text& out, const Texts& texts, JsonRoom& room) {
 
 // Appends `utf8`, which must be well-formed, as a JSON string, quotes included.
 void appendJsonUtf8(Utf8Text& out, Utf8View utf8);
+
+// Appends the key of a further member of an object: ,"slots":
+void appendJsonKey(Utf8Text& out, Utf8View key);
+
+// Appends further members that are texts in UTF-8: ,"mood":"Indicatif","tense":"présent"
+void appendJsonTexts(Utf8Text& out, std::initializer_list<std::pair<Utf8View, Utf8View>> members);
 
 }  // namespace odmiennik::formats
