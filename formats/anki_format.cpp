@@ -18,7 +18,7 @@ void appendTag(Utf8Text& out, Utf8View text) {
 
 // At the start of a field a quotation mark would begin a quoted one, at the start of a line "#" a
 // comment.
-constexpr Utf8View kMarks = "\"#";
+constexpr Utf8View kAnkiMarks = "\"#";
 
 class AnkiFormat final : public Format {
  public:
@@ -44,11 +44,11 @@ class AnkiFormat final : public Format {
     front_.append(", ").append(tenseName(tense));
     if (const Utf8View person = engine::personOf(slot); !person.empty())
       front_.append(", ").append(person);
-    appendField(out, front_, kMarks);
+    appendField(out, front_, kAnkiMarks);
     out.push_back('\t');
     back_.clear();
     appendPhrase(back_, shown, slot);
-    appendField(out, back_, kMarks);
+    appendField(out, back_, kAnkiMarks);
     out.append("\todmiennik::");
     appendTag(out, tense.mood);
     out.append("::");

@@ -11,7 +11,7 @@ namespace odmiennik::formats {
 namespace {
 
 // What a field cannot hold bare.
-constexpr Utf8View kMarks = ",\"";
+constexpr Utf8View kCsvMarks = ",\"";
 
 class CsvFormat final : public Format {
  public:
@@ -31,11 +31,11 @@ class CsvFormat final : public Format {
  private:
   void appendSlot(Utf8Text& out, const engine::Display& shown, int slot) {
     const engine::Tense& tense = engine::tenseOf(slot);
-    appendField(out, infinitive_, kMarks);
+    appendField(out, infinitive_, kCsvMarks);
     out.append(",").append(decimal(slot));
     for (const Utf8View field : {tense.mood, tense.name, engine::personOf(slot)}) {
       out.push_back(',');
-      appendField(out, field, kMarks);
+      appendField(out, field, kCsvMarks);
     }
     const auto position = static_cast<std::size_t>(slot);
     out.push_back(',');
@@ -45,9 +45,9 @@ class CsvFormat final : public Format {
     phrase_.clear();
     appendPhrase(phrase_, shown, slot);
     out.push_back(',');
-    appendField(out, form_, kMarks);
+    appendField(out, form_, kCsvMarks);
     out.push_back(',');
-    appendField(out, phrase_, kMarks);
+    appendField(out, phrase_, kCsvMarks);
     out.append("\r\n");
   }
 
