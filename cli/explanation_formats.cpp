@@ -160,9 +160,8 @@ void appendNorm(Utf8Text& out, const Explanation& form) {
 void appendForm(Utf8Text& out, const Explanation& form) {
   const engine::Tense& tense = engine::tenseOf(form.slot);
   out.append("{\"slot\":").append(decimal(form.slot));
-  appendJsonTexts(out, {{"mood", tense.mood},
-                        {"tense", tense.name},
-                        {"person", engine::personOf(form.slot)}});
+  appendJsonTexts(
+      out, {{"mood", tense.mood}, {"tense", tense.name}, {"person", engine::personOf(form.slot)}});
   appendJsonKey(out, "phrase");
   appendJsonFrench(out, form.phrase);
   appendJsonKey(out, "remarks");
@@ -174,9 +173,8 @@ void appendForm(Utf8Text& out, const Explanation& form) {
 void appendVerb(Utf8Text& out, const ExplainedVerb& verb) {
   out.append("{\"infinitive\":");
   appendJsonFrench(out, verb.infinitive);
-  appendJsonTexts(out, {{"source", verb.source},
-                        {"auxiliary", verb.auxiliary},
-                        {"match", nameOf(verb.match)}});
+  appendJsonTexts(
+      out, {{"source", verb.source}, {"auxiliary", verb.auxiliary}, {"match", nameOf(verb.match)}});
   appendJsonKey(out, "whole");
   out.append(verb.isWhole ? "true" : "false");
   appendJsonKey(out, "forms");

@@ -24,8 +24,8 @@ Utf8Text fromWide(const wchar_t* text) {
   return utf8;
 }
 
-// Whether the last write failed because nobody reads any more: the C library tells it of some of these
-// alone.
+// Whether the last write failed because nobody reads any more: the C library tells it of some of
+// these alone.
 bool isReaderGone() {
   const DWORD fault = GetLastError();
   return errno == EPIPE || fault == ERROR_BROKEN_PIPE || fault == ERROR_NO_DATA ||

@@ -61,8 +61,6 @@ constexpr auto kCompoundSlots = [] {
   return rows;
 }();
 
-constexpr std::string_view kAgreement = "(e)";
-
 // What stands behind the auxiliary, by Number: a blank and the participle as it agrees.
 using Tails = std::array<std::string_view, 3>;
 
@@ -85,7 +83,7 @@ Tails tailsOfNorm(std::string& tail, std::string_view bare) {
 
 Tails tailsOf(std::string& tail, std::string_view base, std::uint8_t auxiliary,
               Agreement agreement) {
-  const std::string_view bare = base.ends_with(kAgreement) ? less(base, kAgreement.size()) : base;
+  const std::string_view bare = withoutMarker(base);
   if (agreement == Agreement::norm && auxiliary == kEtre) return tailsOfNorm(tail, bare);
   return tailsOfSystem(tail, bare, agreement == Agreement::none ? kAvoir : auxiliary);
 }

@@ -79,11 +79,10 @@ template <typename Verb>
 void agreeParticiple(Verb& conjugation) {
   auto&& forms = formsOf(conjugation);
   const std::string& participle = forms[slot::kPastParticiple];
-  constexpr std::string_view kMarker = "(e)";
   if (conjugation.flags.agreement == Agreement::norm)
     replaceParticiple(forms, agreedAlone(participle));
-  else if (participle.ends_with(kMarker))
-    shorten(forms, slot::kPastParticiple, kMarker.size());
+  else if (participle.ends_with(kAgreementMarker))
+    shorten(forms, slot::kPastParticiple, kAgreementMarker.size());
 }
 
 template <typename Verb>

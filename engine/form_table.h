@@ -53,4 +53,13 @@ void setTo(std::string& target, const Parts&... parts) {
   return text.substr(0, text.size() > count ? text.size() - count : 0);
 }
 
+// How a participle says that it agrees: "lavé(e)".
+inline constexpr std::string_view kAgreementMarker = "(e)";
+
+// A participle as it stands in a dictionary: withoutMarker("lavé(e)") -> "lavé".
+[[nodiscard]] constexpr std::string_view withoutMarker(std::string_view participle) {
+  return participle.ends_with(kAgreementMarker) ? less(participle, kAgreementMarker.size())
+                                                : participle;
+}
+
 }  // namespace odmiennik::engine

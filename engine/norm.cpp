@@ -4,13 +4,12 @@
 
 #include <algorithm>
 
+#include "engine/form_table.h"
 #include "engine/norm_data.h"
 #include "engine/string_table.h"
 
 namespace odmiennik::engine {
 namespace {
-
-constexpr std::string_view kAgreement = "(e)";
 
 bool has(std::span<const std::string_view> list, std::string_view infinitive) {
   return std::ranges::find(list, infinitive) != list.end();
@@ -103,8 +102,8 @@ AgreedParticiple agreed(std::string_view participle) {
 }
 
 std::string agreedAlone(std::string_view participle) {
-  if (!participle.ends_with(kAgreement)) return std::string(participle);
-  const std::string_view bare = participle.substr(0, participle.size() - kAgreement.size());
+  if (!participle.ends_with(kAgreementMarker)) return std::string(participle);
+  const std::string_view bare = withoutMarker(participle);
   const bool hasFeminine = bare.find_first_of(",;/") != std::string_view::npos;
   const bool isRegular = !hasFeminine && ownFeminineOf(bare) == nullptr;
   if (isRegular) return std::string(participle);

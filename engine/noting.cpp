@@ -3,15 +3,10 @@
 #include "engine/noting.h"
 
 namespace odmiennik::engine {
-namespace {
-
-constexpr std::string_view kAgreement = "(e)";
-
-}  // namespace
 
 void putCompound(TracedForms& forms, int slot, std::string_view auxiliary, int auxiliaryForm,
                  std::string_view tail, std::string_view base) {
-  const std::string_view bare = base.ends_with(kAgreement) ? less(base, kAgreement.size()) : base;
+  const std::string_view bare = withoutMarker(base);
   const std::string_view agreed = tail.substr(1);
   const std::size_t length = agreed.starts_with(bare) ? bare.size() : 0;
   forms.trace().useAuxiliary(auxiliaryForm);

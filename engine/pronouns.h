@@ -28,6 +28,13 @@ enum class Elision : std::uint8_t {
 // The reason of elides(), found by the same tests: "habite" -> muteH.
 [[nodiscard]] Elision elisionBefore(std::string_view form, bool hAspirate, Variety variety);
 
+// A person's subject in full, as it stands before a form: wholeSubject(3) -> "nous ",
+// wholeSubject(0, true) -> "j'".
+[[nodiscard]] constexpr std::string_view wholeSubject(int person, bool isElided = false) {
+  constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
+  return isElided && person == 0 ? "j'" : kSubjects[person];
+}
+
 // Writes reflexive pronouns into the table: "laves" -> "te laves", "lave" -> "lave-toi", "laver" ->
 // "se laver". The impératif passé becomes empty; slot 99, "*", empty slots and slots that already
 // have their pronoun stay as they are.

@@ -28,6 +28,11 @@ static_assert([] {
   return kTenses.back();
 }
 
+// The tense at a position of kTenses: tenseAt(tense::kPastParticiple).name is "passé".
+[[nodiscard]] constexpr const Tense& tenseAt(int position) {
+  return kTenses[static_cast<std::size_t>(position)];
+}
+
 // The person of a slot ("je" … "ils"; the imperative has tu, nous, vous), empty where there is
 // none.
 [[nodiscard]] constexpr Utf8View personOf(int index) {

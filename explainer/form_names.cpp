@@ -4,20 +4,16 @@
 
 #include <algorithm>
 
+#include "engine/pronouns.h"
 #include "formats/tense_name.h"
 
 namespace odmiennik::explainer {
-namespace {
-
-constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
-
-}  // namespace
 
 std::string withSubject(int slot, std::string_view form, const engine::EngineFlags& flags) {
   if (slot >= engine::kPersonalSlotCount) return std::string(form);
   const int person = slot % engine::kPersonCount;
-  const bool isElided = person == 0 && engine::elides(form, flags.hAspirate, flags.variety);
-  return std::string(isElided ? "j'" : kSubjects[person]).append(form);
+  const bool isElided = engine::elides(form, flags.hAspirate, flags.variety);
+  return std::string(engine::wholeSubject(person, isElided)).append(form);
 }
 
 // The pronoun is the one that stands before the box; "ns" and "vs" are said in full.
@@ -29,7 +25,7 @@ std::string phraseOf(const engine::Conjugation& conjugation, int slot) {
   if (slot >= engine::kPersonalSlotCount) return box;
   const std::string_view pronoun = shown.pronouns[position];
   if (pronoun.ends_with('\'')) return std::string(pronoun) + box;
-  return std::string(kSubjects[slot % engine::kPersonCount]) + box;
+  return std::string(engine::wholeSubject(slot % engine::kPersonCount)) + box;
 }
 
 Utf8Text tenseName(int slot) { return formats::tenseName(engine::tenseOf(slot)); }

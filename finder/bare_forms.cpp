@@ -65,7 +65,7 @@ void BareForms::readSlot(int place, std::string_view text) {
 void BareForms::readParticiple(std::string_view text, bool isSystemAgreement) {
   std::string feminine;
   forEachPart(text, kParted, [&](std::string_view part) {
-    if (part.ends_with("(e)")) part = engine::less(part, 3);
+    part = engine::withoutMarker(part);
     if (!isForm(part) || part == feminine) return;
     addAgreed(part, isSystemAgreement);
     if (feminine.empty()) feminine = engine::participleForms(part).feminine;

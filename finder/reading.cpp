@@ -40,9 +40,7 @@ void insertReflexive(const Reading& reading, int person, std::string& word) {
 }
 
 void insertSubject(const Reading& reading, int person, std::string& word) {
-  constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
-  const bool isElided = person == 0 && elides(reading, word);
-  word.insert(0, isElided ? "j'" : kSubjects[person]);
+  word.insert(0, engine::wholeSubject(person, elides(reading, word)));
 }
 
 void appendEnclitic(const Reading& reading, std::string& word) {

@@ -31,8 +31,6 @@ void appendEscaped(Utf8Text& out, Utf8View text) {
     }
 }
 
-Utf8View nameOf(int tense) { return engine::kTenses[static_cast<std::size_t>(tense)].name; }
-
 class HtmlFormat final : public Format {
  public:
   void begin(Utf8Text& out) override {
@@ -80,7 +78,7 @@ class HtmlFormat final : public Format {
   void appendTable(Utf8Text& out, const engine::Display& shown, const TenseTable& table) {
     out.append("<table lang=\"fr\">\n<tr>");
     for (const int tense : table.tenses)
-      out.append("<th scope=\"col\">").append(nameOf(tense)).append("</th>");
+      out.append("<th scope=\"col\">").append(engine::tenseAt(tense).name).append("</th>");
     out.append("</tr>\n");
     for (const int row : table.rows) {
       out.append("<tr>");

@@ -17,8 +17,6 @@ void appendPlain(Utf8Text& out, Utf8View text) {
   }
 }
 
-Utf8View nameOf(int tense) { return engine::kTenses[static_cast<std::size_t>(tense)].name; }
-
 class MarkdownFormat final : public Format {
  public:
   void begin(Utf8Text&) override {}
@@ -50,7 +48,8 @@ class MarkdownFormat final : public Format {
 
   void appendTable(Utf8Text& out, const engine::Display& shown, const TenseTable& table) {
     out.append("\n|");
-    for (const int tense : table.tenses) out.append(" ").append(nameOf(tense)).append(" |");
+    for (const int tense : table.tenses)
+      out.append(" ").append(engine::tenseAt(tense).name).append(" |");
     out.append("\n|");
     for (std::size_t i = 0; i < table.tenses.size(); ++i) out.append("---|");
     out.push_back('\n');

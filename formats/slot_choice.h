@@ -19,7 +19,7 @@ class SlotChoice {
 
   // Whether there is a slot of the tense (a position in engine::kTenses).
   [[nodiscard]] bool hasTense(int tense) const {
-    const engine::Tense& row = engine::kTenses[static_cast<std::size_t>(tense)];
+    const engine::Tense& row = engine::tenseAt(tense);
     for (int slot = row.firstSlot; slot < row.firstSlot + row.slotCount; ++slot)
       if (has(slot)) return true;
     return false;

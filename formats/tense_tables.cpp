@@ -7,10 +7,6 @@
 namespace odmiennik::formats {
 namespace {
 
-const engine::Tense& tenseAt(int position) {
-  return engine::kTenses[static_cast<std::size_t>(position)];
-}
-
 bool hasForm(const engine::Display& shown, const SlotChoice& slots, Band tenses, int row) {
   return std::ranges::any_of(tenses, [&](int tense) {
     const int slot = slotOf(tense, row);
@@ -20,7 +16,7 @@ bool hasForm(const engine::Display& shown, const SlotChoice& slots, Band tenses,
 
 }  // namespace
 
-int slotOf(int tense, int row) { return tenseAt(tense).firstSlot + row; }
+int slotOf(int tense, int row) { return engine::tenseAt(tense).firstSlot + row; }
 
 Utf8View personOf(const TenseTable& table, int row) {
   return engine::personOf(slotOf(table.tenses.front(), row));
@@ -33,7 +29,7 @@ std::vector<TenseTable> tenseTablesOf(const engine::Display& shown, const SlotCh
   for (const Band band : bandsOf(columnCount)) {
     const std::vector<int> tenses = chosenOf(band, slots);
     if (tenses.empty()) continue;
-    const engine::Tense& first = tenseAt(tenses.front());
+    const engine::Tense& first = engine::tenseAt(tenses.front());
     TenseTable& table = tables.emplace_back();
     if (first.mood != mood) table.mood = mood = first.mood;
     table.tenses = tenses;

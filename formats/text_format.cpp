@@ -10,7 +10,7 @@
 namespace odmiennik::formats {
 namespace {
 
-using engine::kTenses;
+using engine::tenseAt;
 
 constexpr Utf8View kMissingText = "--";
 
@@ -18,8 +18,6 @@ Utf8View sourceText(engine::Source source) {
   constexpr Utf8View kTexts[] = {"brak", "użytkownik", "wbudowane", "reguła"};
   return kTexts[static_cast<std::size_t>(source)];
 }
-
-const engine::Tense& tenseAt(int position) { return kTenses[static_cast<std::size_t>(position)]; }
 
 // A tense's name as a heading; no name begins with an accented letter.
 Utf8Text headingOf(int tense) {

@@ -32,7 +32,7 @@ SheetTable tableOf(const engine::Display& shown, const formats::TenseTable& tabl
   SheetTable sheet{fromUtf8(table.mood), {}, {}};
   if (table.rows.empty()) return sheet;
   for (const int tense : table.tenses)
-    sheet.tenses += fromUtf8(engine::kTenses[static_cast<std::size_t>(tense)].name);
+    sheet.tenses += fromUtf8(engine::tenseAt(tense).name);
   for (const int row : table.rows) {
     auto& phrases = sheet.rows.emplace_back();
     for (const int tense : table.tenses)

@@ -141,12 +141,11 @@ Agreeing readOut(std::string_view form) {
 
 std::string subjectOf(int slot, std::string_view form, const engine::EngineFlags& flags,
                       bool isFeminine) {
-  constexpr std::string_view kSubjects[] = {"je ", "tu ", "il ", "nous ", "vous ", "ils "};
   if (slot >= engine::kPersonalSlotCount) return {};
   const int person = slot % engine::kPersonCount;
-  if (person == 0 && engine::elides(form, flags.hAspirate, flags.variety)) return "j'";
   if (isFeminine && isThirdPerson(slot)) return person == 2 ? "elle " : "elles ";
-  return std::string(kSubjects[person]);
+  const bool isElided = engine::elides(form, flags.hAspirate, flags.variety);
+  return std::string(engine::wholeSubject(person, isElided));
 }
 
 std::string conjunctionOf(int slot) {
