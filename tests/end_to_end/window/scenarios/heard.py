@@ -112,6 +112,19 @@ def a_form_is_looked_for_and_found_among_its_readings(program):
     wait_for(lambda: program.box("Subjonctif présent, nous").selection == "allions", "the form")
 
 
+def a_form_is_asked_how_it_came_to_be(program):
+    reader = program.reader
+    _start(program)
+    _type(program, ENTRY, "manger")
+    keyboard.keys("Return")
+    reader.await_said("manger: grupa pierwsza")
+    program.box("Indicatif présent, nous").focus()
+    reader.await_said("Indicatif présent, nous")
+    keyboard.keys("shift+F1")
+    reader.await_said("Skąd ta forma?")
+    reader.await_said("nous mangeons; reguła -ger (wzór: manger); temat mang-, e przed o, końcówka -ons")
+
+
 def a_form_that_departs_from_the_norm_tells_it(program):
     _start(program)
     _type(program, ENTRY, "lire")
