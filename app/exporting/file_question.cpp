@@ -86,6 +86,7 @@ std::optional<FileQuestion::Chosen> FileQuestion::show(QWidget& parent, const QS
   furnish(*dialog, kind_);
   dialog->selectFile(path);
   drawTogether(*dialog);
+  dialog->resize(dialog->sizeHint().boundedTo(screenRoom(*dialog)));
   const bool isAccepted = dialog->exec() == QDialog::Accepted;
   if (!dialog) return std::nullopt;
   const QStringList files = dialog->selectedFiles();

@@ -82,13 +82,15 @@ void WholeWindowsSuite::theOneThatAMenuItemOpens_data() {
   QTest::addColumn<QString>("item");
   for (const char* item :
        {"mnuEdycjaLista", "mnuEdycjaUsuńCzasownik", "mnuWidokKolory", "mnuPlikUstawieniaDrukarki",
-        "mnuPomocJak", "mnuPomocOProgramie", "mnuPomocTematy"})
+        "mnuPomocJak", "mnuPomocOProgramie", "mnuPomocTematy", "mnuCzasownikZnajdź",
+        "mnuCzasownikSkąd", "mnuPlikZapiszOdmianę"})
     QTest::newRow(item) << item;
 }
 
 void WholeWindowsSuite::theOneThatAMenuItemOpens() {
   QFETCH(QString, item);
   const ProgramUnderTest program;
+  program.conjugate("manger");
   QString wrong;
   ModalVisitor modal([&](QDialog& window) { wrong = fault(window); });
   program.item(item.toUtf8().constData()).trigger();
