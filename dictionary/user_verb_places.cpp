@@ -34,8 +34,9 @@ bool UserVerbPlaces::read(UserRecordReader& records) {
 }
 
 std::span<const UserVerbPlaces::Place> UserVerbPlaces::of(std::string_view key) const {
-  const auto found = std::ranges::equal_range(places_, engine::textHash(key), {}, &Place::hash);
-  return {found.begin(), found.end()};
+  const std::uint32_t hash = engine::textHash(key);
+  return {std::ranges::lower_bound(places_, hash, {}, &Place::hash),
+          std::ranges::upper_bound(places_, hash, {}, &Place::hash)};
 }
 
 }  // namespace odmiennik::dictionary

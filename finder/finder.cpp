@@ -49,8 +49,10 @@ auto orderOf(const Reading& reading) {
 
 void sortAndDropRepeated(Readings& readings) {
   std::ranges::sort(readings, {}, orderOf);
-  const auto repeated = std::ranges::unique(readings, {}, orderOf);
-  readings.erase(repeated.begin(), repeated.end());
+  const auto isRepeated = [](const Reading& one, const Reading& other) {
+    return orderOf(one) == orderOf(other);
+  };
+  readings.erase(std::unique(readings.begin(), readings.end(), isRepeated), readings.end());
 }
 
 // What is spelt just so stands alone, unless it was typed by someone who types no accents.

@@ -43,8 +43,7 @@ void OwnVerbs::lookAgain() {
   entries_.clear();
   read();
   std::ranges::sort(entries_);
-  const auto repeated = std::ranges::unique(entries_);
-  entries_.erase(repeated.begin(), repeated.end());
+  entries_.erase(std::unique(entries_.begin(), entries_.end()), entries_.end());
 }
 
 // The system's forms of an own verb are the norm's as well, the agreement of the participle apart.
