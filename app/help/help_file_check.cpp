@@ -2,6 +2,7 @@
 // The check of a compiled help file's directory.
 #include "app/help/help_file_check.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <optional>
@@ -10,6 +11,7 @@
 namespace odmiennik::app {
 namespace {
 
+constexpr std::string_view kControlData = "::DataSpace/Storage/MSCompressed/ControlData";
 constexpr std::size_t kLongestName = 512;  // libchm's buffer for a name
 constexpr int kDeepest = 8;
 constexpr std::uint32_t kSmallestPage = 256;
@@ -40,18 +42,41 @@ std::optional<std::uint64_t> takeNumber(std::string_view& bytes) {
   return std::nullopt;
 }
 
-bool takeName(std::string_view& bytes) {
+std::optional<std::string_view> takeName(std::string_view& bytes) {
   const auto length = takeNumber(bytes);
-  if (!length || *length > kLongestName || *length > bytes.size()) return false;
-  bytes.remove_prefix(static_cast<std::size_t>(*length));
-  return true;
+  if (!length || *length > kLongestName || *length > bytes.size()) return std::nullopt;
+  const std::string_view name = bytes.substr(0, static_cast<std::size_t>(*length));
+  bytes.remove_prefix(name.size());
+  return name;
+}
+
+// libchm tells names apart without regard to case.
+bool isControlData(std::string_view name) {
+  const auto small = [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  };
+  return std::ranges::equal(name, kControlData, {}, small, small);
+}
+
+constexpr std::uint64_t kBlock = 0x8000;
+
+// libchm divides by half a window whatever has become of reading it.
+bool isSoundControlData(std::string_view record) {
+  constexpr std::uint64_t kLargestWindow = 64 * kBlock;
+  const std::uint64_t unit = word(record, 8) == 2 ? kBlock : 1;
+  const std::uint64_t interval = word(record, 12) * unit;
+  const std::uint64_t window = word(record, 16) * unit;
+  const std::uint32_t windowsPerReset = word(record, 20);
+  return record.substr(0, 8).ends_with("LZXC") && std::has_single_bit(window) && window >= kBlock &&
+         window <= kLargestWindow && interval >= window / 2 && interval % (window / 2) == 0 &&
+         interval <= kLargestWindow && windowsPerReset > 0 && windowsPerReset <= 64;
 }
 
 // The tree of pages by which a name is found.
 class Directory {
  public:
-  Directory(std::string_view pages, std::uint32_t pageSize)
-      : pages_(pages), pageSize_(pageSize), states_(pages.size() / pageSize) {}
+  Directory(std::string_view pages, std::uint32_t pageSize, std::string_view contents)
+      : pages_(pages), pageSize_(pageSize), contents_(contents), states_(pages.size() / pageSize) {}
 
   [[nodiscard]] bool isSound(std::uint64_t page, int depth = 0) {
     if (page >= states_.size() || depth > kDeepest) return false;
@@ -81,15 +106,24 @@ class Directory {
     return page.substr(header, page.size() - header - free);
   }
 
-  [[nodiscard]] static bool isSoundListing(std::string_view page) {
+  [[nodiscard]] bool isSoundListing(std::string_view page) const {
     constexpr std::size_t kHeader = 20;
     auto rest = entries(page, kHeader);
     while (rest && !rest->empty()) {
-      if (!takeName(*rest)) return false;
-      for (int part = 0; part < 3; ++part)  // section, place, length
-        if (!takeNumber(*rest)) return false;
+      const auto name = takeName(*rest);
+      if (!name) return false;
+      const auto section = takeNumber(*rest), place = takeNumber(*rest), length = takeNumber(*rest);
+      if (!section || !place || !length) return false;
+      if (isControlData(*name) && !(*section == 0 && isSoundControlData(content(*place, *length))))
+        return false;
     }
     return rest.has_value();
+  }
+
+  // What stands there uncompressed; nothing where that is not inside the file.
+  [[nodiscard]] std::string_view content(std::uint64_t place, std::uint64_t length) const {
+    if (place > contents_.size() || length > contents_.size() - place) return {};
+    return contents_.substr(static_cast<std::size_t>(place), static_cast<std::size_t>(length));
   }
 
   [[nodiscard]] bool isSoundIndex(std::string_view page, int depth) {
@@ -105,6 +139,7 @@ class Directory {
 
   std::string_view pages_;
   std::uint32_t pageSize_;
+  std::string_view contents_;
   std::vector<State> states_;
 };
 
@@ -115,6 +150,16 @@ std::optional<std::string_view> directoryOf(std::string_view bytes) {
   if (!bytes.starts_with("ITSF") || !place || !length) return std::nullopt;
   if (*place > bytes.size() || *length > bytes.size() - *place) return std::nullopt;
   return bytes.substr(static_cast<std::size_t>(*place), static_cast<std::size_t>(*length));
+}
+
+// What the places of uncompressed files are counted from: behind the directory, or where a newer
+// header says.
+std::string_view contentsOf(std::string_view bytes, std::string_view directory) {
+  const auto behind =
+      static_cast<std::uint64_t>(directory.data() + directory.size() - bytes.data());
+  const std::uint64_t start =
+      word(bytes, 4) >= 3 ? number(bytes, 0x58, 8).value_or(behind) : behind;
+  return start > bytes.size() ? std::string_view() : bytes.substr(static_cast<std::size_t>(start));
 }
 
 }  // namespace
@@ -129,20 +174,12 @@ bool hasSoundDirectory(std::string_view bytes) {
   constexpr std::uint32_t kNone = 0x80000000;  // a negative root: the listing is the whole tree
   const std::uint32_t root = word(*directory, 0x1C);
   const std::uint32_t first = word(*directory, 0x20);
-  return Directory(directory->substr(header), pageSize).isSound(root < kNone ? root : first);
+  return Directory(directory->substr(header), pageSize, contentsOf(bytes, *directory))
+      .isSound(root < kNone ? root : first);
 }
 
 bool canBeUnpacked(std::string_view controlData, std::string_view resetTable) {
-  constexpr std::uint64_t kBlock = 0x8000;
-  constexpr std::uint64_t kLargestWindow = 64 * kBlock;
-  const std::uint64_t unit = word(controlData, 8) == 2 ? kBlock : 1;
-  const std::uint64_t interval = word(controlData, 12) * unit;
-  const std::uint64_t window = word(controlData, 16) * unit;
-  const std::uint32_t windowsPerReset = word(controlData, 20);
-  return controlData.substr(0, 8).ends_with("LZXC") && std::has_single_bit(window) &&
-         window >= kBlock && window <= kLargestWindow && interval >= window / 2 &&
-         interval <= kLargestWindow && windowsPerReset > 0 && windowsPerReset <= 64 &&
-         number(resetTable, 0x20, 8) == kBlock;
+  return isSoundControlData(controlData) && number(resetTable, 0x20, 8) == kBlock;
 }
 
 }  // namespace odmiennik::app

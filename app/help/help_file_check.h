@@ -8,7 +8,8 @@ namespace odmiennik::app {
 
 // libchm follows the directory of a file as it stands there: without this check a page that names
 // itself as its successor is followed for ever, and a number without an end is read beyond the
-// page. Refused are directories outside the file, entries that leave their page, and circles.
+// page. Refused are directories outside the file, entries that leave their page, circles, and a
+// description of the compression that cannot be read: libchm would divide by what it has not read.
 // `bytes` is the whole file.
 [[nodiscard]] bool hasSoundDirectory(std::string_view bytes);
 

@@ -66,6 +66,7 @@ class HostileHelpSuite : public QObject {
   void aDirectoryThatLeadsInACircleIsRefused();
   void anEntryThatLeavesItsPageIsRefused();
   void aDirectoryOutsideTheFileIsRefused();
+  void aRecordOfUnpackingOutsideTheFileIsRefused();
   void buffersThatDoNotFitAreRefused();
   void filesWithWrongBytesAreReadOrRefused();
   void aPageReadsNothingFromOutside();
@@ -118,6 +119,15 @@ void HostileHelpSuite::aDirectoryOutsideTheFileIsRefused() {
   std::string far = sound;
   far.replace(0x48, 8, word(~0ULL, 8));
   QVERIFY(!app::hasSoundDirectory(far));
+}
+
+// libchm divided by what it had not read.
+void HostileHelpSuite::aRecordOfUnpackingOutsideTheFileIsRefused() {
+  const std::string place("\0\0\x1C", 3);
+  for (const std::string name : {"::DataSpace/Storage/MSCompressed/ControlData",
+                                 "::DATASPACE/storage/mscompressed/controldata"})
+    QVERIFY(!app::hasSoundDirectory(
+        fileOf(listing(static_cast<char>(name.size()) + name + place), 0xFFFFFFFF)));
 }
 
 void HostileHelpSuite::buffersThatDoNotFitAreRefused() {
