@@ -29,18 +29,18 @@ constexpr std::array<char, 256> kLowerCase = [] {
 
 constexpr char kTypographicApostrophe = "’"_fr[0];
 
-// Lower case, and the apostrophe of the keyboard for that of typography.
-constexpr std::array<char, 256> kNormal = [] {
-  std::array<char, 256> normal = kLowerCase;
-  normal[static_cast<unsigned char>(kTypographicApostrophe)] = '\'';
-  return normal;
-}();
-
 void readTypographicApostrophe(std::string& text) {
   std::ranges::replace(text, kTypographicApostrophe, '\'');
 }
 
 }  // namespace
+
+// Lower case, and the apostrophe of the keyboard for that of typography.
+constexpr std::array<char, 256> kNormalLetters = [] {
+  std::array<char, 256> normal = kLowerCase;
+  normal[static_cast<unsigned char>(kTypographicApostrophe)] = '\'';
+  return normal;
+}();
 
 std::string_view trimmed(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -64,7 +64,7 @@ std::string_view withoutReflexivePrefix(std::string_view text) {
 
 void normalize(std::string_view text, std::string& out) {
   out.assign(trimmed(text));
-  for (char& letter : out) letter = kNormal[static_cast<unsigned char>(letter)];
+  for (char& letter : out) letter = kNormalLetters[static_cast<unsigned char>(letter)];
 }
 
 std::string keptInfinitive(std::string_view text) {

@@ -2,6 +2,7 @@
 // What is done to an infinitive before it is looked up or compared.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,9 @@ void lowerCase(std::string& text);
 // Sets `out` to the trimmed, lower-cased text with the typographic apostrophe read as "'":
 // "  S’Asseoir " -> "s'asseoir".
 void normalize(std::string_view text, std::string& out);
+
+// What each byte of a text becomes there.
+extern const std::array<char, 256> kNormalLetters;
 
 // An infinitive as it is kept: trimmed, the typographic apostrophe as "'", a reflexive prefix in
 // lower case, whatever else it holds as it is: " S’Habiller " -> "s'Habiller".

@@ -15,11 +15,6 @@ namespace {
 constexpr std::size_t kShortestSlip = 3;  // of shorter words half the language is a slip away
 constexpr std::size_t kMostSlips = 24;    // readings
 
-bool isWithoutAccents(std::string_view text) {
-  return std::ranges::all_of(text,
-                             [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
-}
-
 // Calls `take` with every word one slip away from `word`: a letter left out, changed round with its
 // neighbour, wrong, or missing.
 template <typename Take>
@@ -47,7 +42,11 @@ auto orderOf(const Reading& reading) {
                     reading.slot, std::string_view(reading.form), reading.agreed);
 }
 
+// The places of one form stand in their order already.
 void sortAndDropRepeated(Readings& readings) {
+  const bool isInOrder =
+      std::ranges::adjacent_find(readings, std::ranges::greater_equal(), orderOf) == readings.end();
+  if (isInOrder) return;
   std::ranges::sort(readings, {}, orderOf);
   const auto isRepeated = [](const Reading& one, const Reading& other) {
     return orderOf(one) == orderOf(other);
@@ -55,11 +54,10 @@ void sortAndDropRepeated(Readings& readings) {
   readings.erase(std::unique(readings.begin(), readings.end(), isRepeated), readings.end());
 }
 
-// What is spelt just so stands alone, unless it was typed by someone who types no accents.
-void dropNeedlessAccents(Readings& readings, bool mayLackAccents) {
-  const bool isExact = !readings.empty() && readings.front().match == Match::exact;
-  if (isExact && !mayLackAccents)
-    std::erase_if(readings, [](const Reading& one) { return one.match != Match::exact; });
+// What is spelt just so stands alone.
+void dropOtherAccents(Readings& readings) {
+  if (readings.empty() || readings.front().match != Match::exact) return;
+  std::erase_if(readings, [](const Reading& one) { return one.match != Match::exact; });
 }
 
 }  // namespace
@@ -70,8 +68,9 @@ void Finder::find(std::string_view typed, Readings& readings) {
   for (const Phrase& phrase : phrases_.all()) readPhrase(phrase, readings);
   if (readings.empty())
     for (const Phrase& phrase : phrases_.all()) readSlips(phrase, readings);
-  if (readings.size() > 1) sortAndDropRepeated(readings);
-  dropNeedlessAccents(readings, isWithoutAccents(phrases_.text()));
+  sortAndDropRepeated(readings);
+  const bool mayLackAccents = !phrases_.hasAccents();  // by someone who types none
+  if (!mayLackAccents) dropOtherAccents(readings);
   const bool areSlips = !readings.empty() && readings.front().match == Match::slip;
   if (areSlips && readings.size() > kMostSlips) readings.resize(kMostSlips);
 }
@@ -113,7 +112,7 @@ void Finder::append(const Phrase& phrase, Readings& readings) {
 }
 
 void Finder::findWord(std::string_view word, std::vector<Candidate>& found) {
-  const Folded folded(word);
+  const Folded folded(word, phrases_.hasAccents());
   if (!folded.isTooLong()) findFolded(folded.text(), word, found);
 }
 
@@ -133,7 +132,7 @@ void Finder::findSlips(std::string_view word, std::vector<Candidate>& found) {
 void Finder::findFolded(std::string_view folded, std::string_view word,
                         std::vector<Candidate>& found) {
   const bool isOfAuxiliary = &found == &auxiliaries_;
-  forEachForm(folded, [&](const FoundForm& form) {
+  forEachForm(word, folded, [&](const FoundForm& form) {
     const std::string_view verb = dictionary::verbAt(form.verb);
     if (!isOfAuxiliary && own_.has(verb)) return;
     found.push_back({.verb = verb,
@@ -141,8 +140,8 @@ void Finder::findFolded(std::string_view folded, std::string_view word,
                      .ending = form.ending,
                      .places = form.places,
                      .facts = form.paradigm(),
-                     .rank = data::kRankOfVerb[form.verb],
-                     .match = form.isSpelt(word) ? Match::exact : Match::accents});
+                     .rank = form.row().rank,
+                     .match = form.isExact ? Match::exact : Match::accents});
   });
   if (isOfAuxiliary) return;
   const std::size_t first = found.size();

@@ -75,8 +75,9 @@ bool isInNormOf(const Reading& reading) {
   return !isImperative(reading.slot) && (personOf(reading.slot) & 4) != 0;
 }
 
-Reading begin(const Phrase& phrase, const Candidate& word, int number) {
-  Reading reading;
+// A reading at the end of the others, which finish() lets stand or takes back.
+Reading& begin(const Phrase& phrase, const Candidate& word, int number, Readings& readings) {
+  Reading& reading = readings.emplace_back();
   reading.verb = word.verb;
   reading.slot = static_cast<std::int16_t>(number);
   reading.isReflexive = phrase.isReflexive || word.facts.isPronominal;
@@ -88,10 +89,11 @@ Reading begin(const Phrase& phrase, const Candidate& word, int number) {
 }
 
 // The system reads "s'en aller" as a verb "en aller": only the norm knows it.
-void finish(Reading& reading, bool isInSystem, bool isInNorm, Readings& readings) {
+void finish(bool isInSystem, bool isInNorm, Readings& readings) {
+  Reading& reading = readings.back();
   reading.isInSystem = isInSystem && reading.adverb == engine::Adverb::none;
   reading.isInNorm = isInNorm && isInNormOf(reading);
-  if (reading.isInSystem || reading.isInNorm) readings.push_back(std::move(reading));
+  if (!reading.isInSystem && !reading.isInNorm) readings.pop_back();
 }
 
 constexpr bool isPlural(Agreed agreed) {
@@ -128,8 +130,9 @@ bool has(Places places, int place) { return (places & bitOf(place)) != 0; }
 void appendAt(const CompoundForm& compound, int auxiliaryPlace, int number, int participlePlace,
               Readings& readings) {
   const Candidate& word = compound.participle;
-  Reading reading = begin(compound.phrase, word, number);
-  if (reading.isReflexive && (!compound.isEtre || isImperative(number))) return;
+  const bool isReflexive = compound.phrase.isReflexive || word.facts.isPronominal;
+  if (isReflexive && (!compound.isEtre || isImperative(number))) return;
+  Reading& reading = begin(compound.phrase, word, number, readings);
   reading.agreed = agreedOfPlace(participlePlace);
   reading.hasParticiple = true;
   reading.match = std::max(word.match, compound.auxiliary.match);
@@ -144,7 +147,7 @@ void appendAt(const CompoundForm& compound, int auxiliaryPlace, int number, int 
   const bool isInNorm = has(compound.auxiliary.places.norm, auxiliaryPlace) &&
                         has(word.places.norm, participlePlace) && (word.facts.norm & bit) != 0 &&
                         isAgreedInNorm(reading, compound.isEtre);
-  finish(reading, isInSystem, isInNorm, readings);
+  finish(isInSystem, isInNorm, readings);
 }
 
 // Whether the verb makes its compound tenses so.
@@ -175,11 +178,11 @@ void appendSimple(const Phrase& phrase, const Candidate& word, Readings& reading
     const Agreed agreed = agreedOfPlace(place);
     if (agreed != Agreed::masculine && !word.facts.agrees) return;
     if (!fits(phrase, slotOfPlace(place))) return;
-    Reading reading = begin(phrase, word, slotOfPlace(place));
+    Reading& reading = begin(phrase, word, slotOfPlace(place), readings);
     reading.agreed = agreed;
     reading.hasParticiple = reading.slot == slot::kPastParticiple;
     word.appendForm(reading.form);
-    finish(reading, has(word.places.system, place), has(word.places.norm, place), readings);
+    finish(has(word.places.system, place), has(word.places.norm, place), readings);
   });
 }
 

@@ -33,34 +33,42 @@ struct Paradigm {
   bool agrees;  // the participle has a feminine and a plural
 };
 
-// A place of a hash table: a position + 1, 0 where it is empty, and more of the hash, so that a
-// stranger is seldom looked at.
+struct Verb {
+  std::uint16_t paradigm;
+  std::uint16_t rank;  // the most frequent verb is 0, an unlisted one last
+  std::uint8_t stemSize;
+};
+
+// A row of a hash table: a position, and more of its hash, so that a stranger is seldom looked at.
 struct Hashed {
   std::uint16_t position;
   std::uint16_t print;
 };
 
-extern const std::uint8_t kStemSize[];  // a verb each, in the order of the verb index
-extern const std::uint16_t kParadigmOfVerb[];
-extern const std::uint16_t kRankOfVerb[];  // the most frequent verb is 0, an unlisted one last
+// The rows of a hash stand side by side: those from first[hash >> shift] to the next one.
+struct HashTable {
+  const std::uint16_t* first;
+  const Hashed* rows;
+  std::uint32_t shift;
+};
+inline constexpr std::uint32_t kPrintBits = 0xFFFF;
+
+extern const Verb kVerbs[];  // in the order of the verb index
 extern const Paradigm kParadigms[];
 extern const PlacesOfForm kPlaces[];
 extern const Ending kEndings[];
 extern const char kEndingLetters[];
-extern const Hashed kStems[];  // positions of verbs by the hash of their stems
-extern const std::uint32_t kStemsSize;
-extern const Hashed kFirstEndings[];  // positions in kEndings by the hash of ending and paradigm
-extern const std::uint32_t kFirstEndingsSize;
-extern const std::uint64_t kSomeEnding[256];  // a bit for the hash of each ending of any paradigm
-
-extern const std::uint64_t kSomeStem[1024];  // a bit for the mixed hash of each stem
-
-inline constexpr std::uint32_t kSomeStemBits = 1024 * 64;
-[[nodiscard]] constexpr std::uint32_t bitOfStem(std::uint32_t hash) { return hash % kSomeStemBits; }
-
-inline constexpr std::uint32_t kSomeEndingBits = 256 * 64;
+extern const HashTable kStems;         // positions of verbs by the hash of their stems
+extern const HashTable kFirstEndings;  // positions in kEndings by the hash of ending and paradigm
+// A bit for the hash of each ending of any paradigm, and of each stem.
+inline constexpr int kSomeEndingBits = 14, kSomeStemBits = 16;
+extern const std::uint64_t kSomeEnding[(1 << kSomeEndingBits) / 64];
+extern const std::uint64_t kSomeStem[(1 << kSomeStemBits) / 64];
 [[nodiscard]] constexpr std::uint32_t bitOfEnding(std::uint32_t hash) {
-  return (hash ^ (hash >> 16)) % kSomeEndingBits;
+  return hash >> (32 - kSomeEndingBits);
+}
+[[nodiscard]] constexpr std::uint32_t bitOfStem(std::uint32_t hash) {
+  return hash >> (32 - kSomeStemBits);
 }
 
 }  // namespace odmiennik::finder::data

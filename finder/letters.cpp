@@ -2,24 +2,19 @@
 // Letters without their accents.
 #include "finder/letters.h"
 
-#include <algorithm>
-
 namespace odmiennik::finder {
 
-// A second letter is written behind each one, and stays where there are two. Room is asked for
-// once: a question at every letter costs as much as the look-up of a word's stem.
-Folded::Folded(std::string_view word) {
-  isTooLong_ = 2 * word.size() > letters_.size() && sizeOf(word) > kLongestWord;
-  if (isTooLong_) return;
+// A second letter is written behind each one, and stays where there are two. Of what is too long so
+// much is left that one sees it.
+std::string_view Folded::fold(std::string_view word) {
+  word = word.substr(0, kLongestWord + 1);
+  char* next = letters_.data();
   for (const char letter : word) {
-    letters_[size_++] = detail::kPlain[static_cast<unsigned char>(letter)];
-    letters_[size_] = 'e';
-    size_ += detail::isTwoLetters(letter) ? 1 : 0;
+    *next++ = detail::kPlain[static_cast<unsigned char>(letter)];
+    *next = 'e';
+    next += detail::isTwoLetters(letter) ? 1 : 0;
   }
-}
-
-std::size_t Folded::sizeOf(std::string_view word) {
-  return word.size() + static_cast<std::size_t>(std::ranges::count_if(word, detail::isTwoLetters));
+  return {letters_.data(), static_cast<std::size_t>(next - letters_.data())};
 }
 
 }  // namespace odmiennik::finder

@@ -44,18 +44,22 @@ inline constexpr std::array<char, 256> kPlain = [] {
 // A word without accents, in place: no memory is asked for while one types.
 class Folded {
  public:
-  // `word` is lower case (Windows-1252): "œuvrât" -> "oeuvrat". What is too long is no word.
-  explicit Folded(std::string_view word);
+  // `word` is lower case (Windows-1252) and outlives this: "œuvrât" -> "oeuvrat". What is too long
+  // is no word.
+  // Whoever knows that the word has no accents says so, and it is not looked for them.
+  explicit Folded(std::string_view word, bool mayHaveAccents = true)
+      : text_(mayHaveAccents ? fold(word) : word) {}
+  Folded(const Folded&) = delete;
+  Folded& operator=(const Folded&) = delete;
 
-  [[nodiscard]] std::string_view text() const { return {letters_.data(), size_}; }
-  [[nodiscard]] bool isTooLong() const { return isTooLong_; }
+  [[nodiscard]] std::string_view text() const { return text_; }
+  [[nodiscard]] bool isTooLong() const { return text_.size() > kLongestWord; }
 
  private:
-  static std::size_t sizeOf(std::string_view word);
+  [[nodiscard]] std::string_view fold(std::string_view word);
 
-  std::array<char, kLongestWord + 1> letters_;  // and room behind the last one
-  std::size_t size_ = 0;
-  bool isTooLong_ = false;
+  std::string_view text_;                           // the word itself where it has no accents
+  std::array<char, 2 * kLongestWord + 3> letters_;  // were each letter two, and room behind them
 };
 
 // Takes `word` off the front of `folded` where it is that without accents; false where it is not.
@@ -71,9 +75,10 @@ class Folded {
 }
 
 // Hashes that grow by a letter: stems from their first letter on, endings from their last one back.
+// Their upper bits are the best.
 inline constexpr std::uint32_t kNoLetters = 2166136261U;
 [[nodiscard]] constexpr std::uint32_t withLetter(std::uint32_t hash, char letter) {
-  return (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
+  return (hash ^ static_cast<unsigned char>(letter)) * 0x9E3779B1U;
 }
 [[nodiscard]] constexpr std::uint32_t mixed(std::uint32_t hash) {
   hash = (hash ^ (hash >> 15)) * 0x7FEB352DU;

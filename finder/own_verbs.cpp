@@ -20,7 +20,7 @@ std::uint32_t hashOf(std::string_view form) {
 }
 
 // Whether the form is that word in small letters and without accents.
-bool isWithoutAccents(std::string_view form, std::string_view folded) {
+bool foldsTo(std::string_view form, std::string_view folded) {
   if (form.size() > folded.size()) return false;  // accents take no room away
   std::string lower(form);
   engine::lowerCase(lower);
@@ -107,7 +107,7 @@ void OwnVerbs::append(std::uint32_t verb, std::string_view folded, std::vector<C
   for (const Known& known : formsOf(verb)) {
     const bool isNorm = known.variety == engine::Variety::norm;
     for (const BareForm& form : known.forms) {
-      if (!isWithoutAccents(form.text, folded)) continue;
+      if (!foldsTo(form.text, folded)) continue;
       candidate.stem = *texts_.insert(form.text).first;
       auto same = std::find_if(found.begin() + static_cast<std::ptrdiff_t>(first), found.end(),
                                [&](const Candidate& one) { return one.stem == candidate.stem; });

@@ -61,12 +61,26 @@ constexpr Hanging kHanging[] = {{"-nous-en", kNous, true, Adverb::en},
 // Words that are elided before another one, so that no blank parts them.
 constexpr std::string_view kElided[] = {"qu'", "j'", "m'", "t'", "s'"};
 
-// Without one of these a text is one word.
-constexpr std::array<bool, 256> kMayPart = [] {
-  std::array<bool, 256> part{};
-  for (const char letter : {' ', '\t', '\'', '-'}) part[static_cast<unsigned char>(letter)] = true;
-  return part;
+// What is asked of a text, a bit each. Without a letter that may part words it is one word.
+constexpr unsigned kMayPart = 1, kHasAccent = 2;
+constexpr std::array<std::uint8_t, 256> kKindOfLetter = [] {
+  std::array<std::uint8_t, 256> kinds{};
+  for (const char letter : {' ', '\t', '\'', '-'})
+    kinds[static_cast<unsigned char>(letter)] = kMayPart;
+  for (std::size_t letter = 0x80; letter < kinds.size(); ++letter) kinds[letter] = kHasAccent;
+  return kinds;
 }();
+
+// Normalizes the text, and sees in the same go what it is made of.
+unsigned normalizeSeeing(std::string_view typed, std::string& text) {
+  text.assign(engine::trimmed(typed));
+  unsigned kinds = 0;
+  for (char& letter : text) {
+    letter = engine::kNormalLetters[static_cast<unsigned char>(letter)];
+    kinds |= kKindOfLetter[static_cast<unsigned char>(letter)];
+  }
+  return kinds;
+}
 
 constexpr std::size_t kMostWords = 10;
 
@@ -90,10 +104,9 @@ std::size_t wordsBeforeSubject(std::span<const std::string_view> words) {
 
 void Phrases::read(std::string_view typed) {
   phrases_.clear();
-  engine::normalize(typed, text_);
-  const bool isOneWord = std::ranges::none_of(
-      text_, [](char letter) { return kMayPart[static_cast<unsigned char>(letter)]; });
-  if (isOneWord) {
+  const unsigned kinds = normalizeSeeing(typed, text_);
+  hasAccents_ = (kinds & kHasAccent) != 0;
+  if ((kinds & kMayPart) == 0) {
     if (!text_.empty()) phrases_.push_back({.word = text_});
     return;
   }

@@ -37,6 +37,8 @@ class Phrases {
   [[nodiscard]] const std::vector<Phrase>& all() const { return phrases_; }
   // The whole text as it was read: lower case, blanks single, elided words parted.
   [[nodiscard]] std::string_view text() const { return text_; }
+  // Whether a letter of the text has an accent.
+  [[nodiscard]] bool hasAccents() const { return hasAccents_; }
 
  private:
   void cutIntoWords();
@@ -47,6 +49,7 @@ class Phrases {
   std::string text_;
   std::vector<std::string_view> words_;
   std::vector<Phrase> phrases_;
+  bool hasAccents_ = false;
 };
 
 }  // namespace odmiennik::finder

@@ -2,6 +2,8 @@
 // Writing of the tables of forms.
 #include "tools/compile_forms/form_tables.h"
 
+#include <algorithm>
+#include <bit>
 #include <limits>
 #include <map>
 #include <set>
@@ -38,35 +40,39 @@ std::uint32_t hashBackward(std::string_view letters) {
   return hashForward(std::string(letters.rbegin(), letters.rend()));
 }
 
-// An open-addressing table of positions 0…n-1 by their hashes, of which several may be the same.
+// A table of positions 0…n-1 by their hashes, of which several may be the same.
 class HashedTable {
  public:
-  explicit HashedTable(std::size_t count) {
-    while (size_ < 2 * count) size_ *= 2;
-    if (size_ > kMost + 1) throw std::runtime_error("a hash table of forms is too large");
-    places_.resize(size_, {0, 0});
-  }
+  explicit HashedTable(std::size_t count)
+      : rows_(std::bit_ceil(std::max<std::size_t>(count, 2))),
+        shift_(32 - std::countr_zero(rows_.size())) {}
 
   void add(std::uint32_t hash, std::size_t position) {
-    std::size_t place = hash & (size_ - 1);
-    while (places_[place].first != 0) place = (place + 1) & (size_ - 1);
-    places_[place] = {narrow(position + 1), hash >> 16};
+    rows_[hash >> shift_].push_back({narrow(position), hash & finder::data::kPrintBits});
   }
 
   void write(std::ostream& out, std::string_view name) const {
-    out << "const Hashed " << name << "[] = {\n";
-    for (const auto& [position, print] : places_) out << "{" << position << "," << print << "},\n";
-    out << "};\nconst std::uint32_t " << name << "Size = " << size_ << ";\n";
+    Numbers first{0};
+    out << "constexpr Hashed " << name << "Rows[] = {\n";
+    for (const auto& alike : rows_) {
+      for (const auto& [position, print] : alike) out << "{" << position << "," << print << "},\n";
+      first.push_back(narrow(first.back() + alike.size()));
+    }
+    out << "};\n";
+    writeNumbers(out, "std::uint16_t", std::string(name) + "First", first);
+    out << "const HashTable " << name << "{" << name << "First," << name << "Rows," << shift_
+        << "};\n";
   }
 
  private:
-  std::size_t size_ = 4;
-  std::vector<std::pair<std::uint32_t, std::uint32_t>> places_;
+  std::vector<std::vector<std::pair<std::uint32_t, std::uint32_t>>> rows_;
+  int shift_;
 };
 
 // Which of so many bits are set.
 void writeBits(std::ostream& out, std::string_view name, const std::set<std::uint32_t>& set,
-               std::uint32_t count) {
+               int bitsOfHash) {
+  const std::uint32_t count = 1U << bitsOfHash;
   out << "const std::uint64_t " << name << "[] = {\n";
   for (std::uint32_t word = 0; word < count / 64; ++word) {
     std::uint64_t bits = 0;
@@ -173,21 +179,18 @@ void writeParadigms(std::ostream& out, const SourceForms& source) {
   out << "};\n";
 }
 
-void writeVerbs(std::ostream& out, const SourceForms& source) {
-  Numbers stemSizes, paradigms;
+void writeVerbs(std::ostream& out, const SourceForms& source, const Numbers& ranks) {
+  out << "const Verb kVerbs[] = {\n";
   HashedTable stems(source.verbs.size());
   std::set<std::uint32_t> some;
   for (std::size_t position = 0; position < source.verbs.size(); ++position) {
     const SourceVerb& verb = source.verbs[position];
-    stemSizes.push_back(static_cast<std::uint32_t>(verb.stemSize));
-    paradigms.push_back(verb.paradigm);
-    const std::uint32_t hash =
-        finder::mixed(hashForward(folded(verb.infinitive.substr(0, verb.stemSize))));
+    out << "{" << verb.paradigm << "," << ranks.at(position) << "," << verb.stemSize << "},\n";
+    const std::uint32_t hash = hashForward(folded(verb.infinitive.substr(0, verb.stemSize)));
     stems.add(hash, position);
     some.insert(finder::data::bitOfStem(hash));
   }
-  writeNumbers(out, "std::uint8_t", "kStemSize", stemSizes);
-  writeNumbers(out, "std::uint16_t", "kParadigmOfVerb", paradigms);
+  out << "};\n";
   stems.write(out, "kStems");
   writeBits(out, "kSomeStem", some, finder::data::kSomeStemBits);
 }
@@ -197,8 +200,7 @@ void writeVerbs(std::ostream& out, const SourceForms& source) {
 void writeFormTables(std::ostream& out, const SourceForms& source,
                      const std::vector<std::uint32_t>& ranks) {
   out << "#include \"finder/form_index_data.h\"\nnamespace odmiennik::finder::data {\n";
-  writeVerbs(out, source);
-  writeNumbers(out, "std::uint16_t", "kRankOfVerb", ranks);
+  writeVerbs(out, source, ranks);
   writeParadigms(out, source);
   Endings(source).write(out);
   out << "}\n";
