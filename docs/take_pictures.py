@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""take_pictures.py PROGRAM FOLDER: takes the pictures of docs/pictures anew.
+"""take_pictures.py PROGRAM [PICTURE…]: takes the pictures of docs/pictures and help/obrazy anew.
 
 Each picture is taken on a desktop of its own, like the scenarios of tests/end_to_end/window, whose
 harness is used here. Needs ImageMagick's `import` besides the tests' packages.
 
-Example: docs/take_pictures.py build/release/bin/odmiennik docs/pictures
+Example: docs/take_pictures.py build/release/bin/odmiennik help/obrazy/znajdz-forme.png
 """
 
 import os
@@ -13,7 +13,8 @@ import pathlib
 import subprocess
 import sys
 
-HARNESS = pathlib.Path(__file__).parent.parent / "tests" / "end_to_end" / "window"
+PROJECT = pathlib.Path(__file__).resolve().parent.parent
+HARNESS = PROJECT / "tests" / "end_to_end" / "window"
 sys.path.insert(0, str(HARNESS))
 
 import keyboard  # noqa: E402
@@ -22,6 +23,8 @@ from waiting import wait_for  # noqa: E402
 
 B_VERBS = 329  # of the index
 DESIGN = "800x600"  # the main window fills it
+WIDE = "1366x768"
+HELP_WIDTH, HELP_HEIGHT = "420", "190"  # of a window on a page of the help: pages are narrow
 # A dark theme, as a desktop tells Qt of one.
 DARK = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
 DARK_COLOURS = """[Colors:Window]
@@ -78,6 +81,20 @@ def znajdz_forme(program):
     keyboard.type_text("suis")
     wait_for(lambda: any(text.startswith("Możliwości: ") for text in window.texts()),
              "the readings")
+    make_narrow()
+
+
+def skad_ta_forma(program):
+    conjugated(program, "manger", "mange")
+    program.box("Indicatif présent, nous").focus()
+    keyboard.keys("shift+F1")
+    window = program.dialog("Skąd ta forma?")
+    wait_for(window.is_active, "the window to come forward")
+    keyboard.keys("Tab")  # the text shows no caret then
+
+
+def make_narrow():
+    output("xdotool", "getactivewindow", "windowsize", "--sync", HELP_WIDTH, HELP_HEIGHT)
 
 
 def kolory(program):
@@ -102,34 +119,37 @@ def o_programie(program):
     program.dialog("O programie Odmiennik")
 
 
-# Name: screen, caption of the one window that is taken (none: the whole screen), what to do.
+# File: screen, caption of the one window that is taken (none: the whole screen), what to do.
 PICTURES = {
-    "okno-parler": (DESIGN, None, okno_parler),
-    "okno-se-promener": (DESIGN, None, okno_se_promener),
-    "okno-ciemne": (DESIGN, None, okno_ciemne),
-    "edycja": (DESIGN, None, edycja),
-    "lista": ("1366x768", "Lista czasowników", lista),
-    "znajdz-forme": ("1366x768", "Znajdź formę", znajdz_forme),
-    "kolory": (DESIGN, "Kolory", kolory),
-    "porada": ("1366x768", "Porada dnia", porada),
-    "pomoc": ("1024x768", "Odmiennik – pomoc", pomoc),
-    "o-programie": (DESIGN, None, o_programie),
+    "docs/pictures/okno-parler.png": (DESIGN, None, okno_parler),
+    "docs/pictures/okno-se-promener.png": (DESIGN, None, okno_se_promener),
+    "docs/pictures/okno-ciemne.png": (DESIGN, None, okno_ciemne),
+    "docs/pictures/edycja.png": (DESIGN, None, edycja),
+    "docs/pictures/lista.png": (WIDE, "Lista czasowników", lista),
+    "help/obrazy/znajdz-forme.png": (WIDE, "Znajdź formę", znajdz_forme),
+    "help/obrazy/skad-ta-forma.png": (WIDE, "Skąd ta forma?", skad_ta_forma),
+    "docs/pictures/kolory.png": (DESIGN, "Kolory", kolory),
+    "docs/pictures/porada.png": (WIDE, "Porada dnia", porada),
+    "docs/pictures/pomoc.png": ("1024x768", "Odmiennik – pomoc", pomoc),
+    "docs/pictures/o-programie.png": (DESIGN, None, o_programie),
 }
+# Pictures of the help travel with the program.
+COLOURS = {"docs": "256", "help": "32"}
 
 
-def outside(program, folder, name):
+def outside(program, name):
     """Starts this file again on a desktop of its own."""
     with screen(PICTURES[name][0]) as display, home(display) as environment:
-        if name == "okno-ciemne":
+        if PICTURES[name][2] is okno_ciemne:
             environment |= DARK
             colours = pathlib.Path(environment["HOME"], ".config", "kdeglobals")
             colours.parent.mkdir()
             colours.write_text(DARK_COLOURS, encoding="utf-8")
         session = ["dbus-run-session", "--", sys.executable, "-B", __file__, "--inside"]
-        subprocess.run([*session, program, folder, name], env=environment, check=True)
+        subprocess.run([*session, program, name], env=environment, check=True)
 
 
-def inside(executable, folder, name):
+def inside(executable, name):
     from program import Program  # asks for the accessibility bus, which is only there by now
     _, caption, work = PICTURES[name]
     with window_manager():
@@ -137,7 +157,7 @@ def inside(executable, folder, name):
         try:
             program.start()
             work(program)
-            take(pathlib.Path(folder, name + ".png"), front_window(caption) if caption else "root")
+            take(name, front_window(caption) if caption else "root")
         finally:
             program.clean_up()
 
@@ -154,21 +174,23 @@ def output(*command):
     return subprocess.run(command, check=False, capture_output=True, text=True).stdout
 
 
-def take(file, window):
+def take(name, window):
     """Takes a picture once two in a row are the same: the window is painted and the caret rests."""
-    command = ["import", "-frame", "-window", window, "-strip", "-colors", "256", "png8:-"]
+    colours = COLOURS[pathlib.PurePath(name).parts[0]]
+    command = ["import", "-frame", "-window", window, "-strip", "+dither", "-colors", colours,
+               "-define", "png:compression-level=9", "png8:-"]
     before = b""
     while True:
         picture = subprocess.run(command, check=True, capture_output=True).stdout
         if picture == before:
             break
         before = picture
-    file.write_bytes(picture)
+    (PROJECT / name).write_bytes(picture)
 
 
 if __name__ == "__main__":
     if sys.argv[1] == "--inside":
         inside(*sys.argv[2:])
     else:
-        for picture_name in PICTURES:
-            outside(sys.argv[1], sys.argv[2], picture_name)
+        for picture_name in sys.argv[2:] or PICTURES:
+            outside(sys.argv[1], picture_name)

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QImage>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QRegularExpression>
@@ -18,18 +17,12 @@
 #include "app/help/folded_text.h"
 #include "app/help/help_sheet.h"
 #include "app/help/page_colours.h"
+#include "app/help/page_picture.h"
 
 namespace odmiennik::app {
 namespace {
 
 constexpr qreal kMargin = 14;
-
-// A transparent point: where nothing is given, the text view would read a local file itself.
-QImage noPicture() {
-  QImage picture(1, 1, QImage::Format_ARGB32);
-  picture.fill(Qt::transparent);
-  return picture;
-}
 
 // As it would be typed: hyphens and blanks that hold a line together are the page's alone.
 QString typedText(QString text) {
@@ -66,8 +59,8 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
 // Every answer holds something, if only an empty text: without one the text view looks for a local
 // file of that name.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
-  if (type == QTextDocument::ImageResource) return noPicture();
   const QUrl address = name.isRelative() ? page_.resolved(name) : name;
+  if (type == QTextDocument::ImageResource) return pagePicture(book_.part(address), zoom_);
   if (type == QTextDocument::StyleSheetResource)
     return inFontOf(*this, sheetAt(sheet(address), zoom_));
   page_ = address;

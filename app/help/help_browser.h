@@ -10,8 +10,8 @@
 namespace odmiennik::app {
 
 // A page has a caret: it is read line by line, text is selected by keyboard, and Tab leads from
-// link to link. Its colours are those of the program's theme. Pictures, local files and the network
-// are never read, whatever a page asks for.
+// link to link. Its colours are those of the program's theme. Pictures are those of the help file;
+// local files and the network are never read, whatever a page asks for.
 class HelpBrowser final : public QTextBrowser {
   Q_OBJECT
 

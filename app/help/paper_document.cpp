@@ -7,6 +7,7 @@
 
 #include "app/common/look.h"
 #include "app/help/help_sheet.h"
+#include "app/help/page_picture.h"
 
 namespace odmiennik::app {
 namespace {
@@ -38,6 +39,7 @@ PaperDocument::PaperDocument(const HelpBook& book, const QUrl& address, QPaintDe
 
 // Something is answered in any case, or a local file would be looked for.
 QVariant PaperDocument::loadResource(int type, const QUrl& name) {
+  if (type == QTextDocument::ImageResource) return pagePicture(book_.part(name), 100);
   if (type != QTextDocument::StyleSheetResource) return QByteArray("\n");
   const QByteArray paper = book_.part(helpAddress(QLatin1String(kPaperSheet)));
   return QString::fromUtf8(book_.part(name) + '\n' + paper + '\n');

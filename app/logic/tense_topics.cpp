@@ -16,6 +16,10 @@ struct WindowTopic {
 
 constexpr WindowTopic kWindowTopics[] = {
     {"frmLista", "strony\\Lista.htm"},
+    {"frmZnajdź", "strony\\OdFormy.htm"},
+    {"frmSkąd", "strony\\OdFormy.htm"},
+    {"frmZapisListy", "strony\\ZapisOdmiany.htm"},
+    {"dlgZapiszJako", "strony\\ZapisOdmiany.htm"},
     {"frmKolory", "strony\\Litery.htm"},
     {"dlgCommonDialog", "strony\\Drukowanie.htm"},
     {"frmPomoc", "strony\\OknoPomocy.htm"},

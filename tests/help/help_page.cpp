@@ -58,7 +58,7 @@ std::string pageSource(const std::filesystem::path& path) {
 std::vector<HelpPage> readPages() {
   const std::filesystem::path folder = std::filesystem::path(ODMIENNIK_SOURCE_DIR) / "help/strony";
   std::vector<HelpPage> pages;
-  for (const std::string& name : tools::pageNames(folder))
+  for (const std::string& name : tools::namesIn(folder, ".htm"))
     pages.push_back({name, pageSource(folder / std::u8string(name.begin(), name.end()))});
   return pages;
 }

@@ -100,11 +100,13 @@ TEST(help_contents_reader, a_line_without_a_title_is_refused) {
   EXPECT_THROW(static_cast<void>(readHelpContents(folder.path())), SourceError);
 }
 
-TEST(project_files, the_project_names_every_page_the_default_topic_and_the_polish_language) {
-  const std::string project = projectFile({"default.htm", "Passé.htm"});
+TEST(project_files,
+     the_project_names_every_page_and_picture_the_default_topic_and_the_polish_language) {
+  const std::string project = projectFile({"default.htm", "Passé.htm"}, {"lista.png"});
   EXPECT_NE(project.find("\r\nDefault topic=strony\\default.htm\r\n"), std::string::npos);
   EXPECT_NE(project.find("\r\nLanguage=0x415 Polish (Poland)\r\n"), std::string::npos);
   EXPECT_NE(project.find("\r\nstrony\\Passé.htm\r\n"), std::string::npos);
+  EXPECT_NE(project.find("\r\nobrazy\\lista.png\r\n"), std::string::npos);
 }
 
 TEST(project_files, deeper_entries_stand_in_a_list_of_their_own) {

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <regex>
 #include <set>
 
 #include "tests/help/help_page.h"
 #include "tools/build_help/contents.h"
+#include "tools/build_help/files.h"
 
 namespace odmiennik::help {
 namespace {
@@ -66,6 +68,50 @@ TEST(help_links, links_are_written_in_ascii) {
 
 TEST(help_links, every_page_is_reached_from_the_welcome_page) {
   EXPECT_EQ(reachableFrom("default.htm"), allNames());
+}
+
+// The files that the pages of the help show, as they are asked for: "../obrazy/lista.png".
+std::set<std::string> shownPictures() {
+  static const std::regex picture("<img src=\"([^\"]*)\" alt=\"[^\"]+\">");
+  std::set<std::string> shown;
+  for (const HelpPage& page : allPages())
+    for (std::sregex_iterator at(page.markup.begin(), page.markup.end(), picture), end; at != end;
+         ++at)
+      shown.insert((*at)[1]);
+  return shown;
+}
+
+TEST(help_pictures, every_picture_is_shown_on_a_page_and_every_page_shows_a_picture_that_there_is) {
+  std::set<std::string> there;
+  for (const std::string& name : tools::namesIn(kHelpFolder + "/obrazy", ".png"))
+    there.insert("../obrazy/" + name);
+  EXPECT_FALSE(there.empty());
+  EXPECT_EQ(shownPictures(), there);
+}
+
+TEST(help_pictures, what_a_picture_shows_is_also_said) {
+  std::size_t pictures = 0;
+  for (const HelpPage& page : allPages())
+    for (auto at = page.markup.find("<img"); at != std::string::npos;
+         at = page.markup.find("<img", at + 1)) {
+      const std::string tag = page.markup.substr(at, page.markup.find('>', at) - at);
+      EXPECT_TRUE(std::regex_search(tag, std::regex(" alt=\"[^\"]{10,}")))
+          << page.name << ": " << tag;
+      ++pictures;
+    }
+  EXPECT_GE(pictures, shownPictures().size());
+}
+
+// The package for Debian is to stay small, and a page stands beside the table of contents.
+TEST(help_pictures, a_picture_is_small) {
+  for (const std::string& name : tools::namesIn(kHelpFolder + "/obrazy", ".png")) {
+    const std::string png = tools::readFile(kHelpFolder + "/obrazy/" + name);
+    ASSERT_GT(png.size(), 24U) << name;
+    const int width =
+        static_cast<unsigned char>(png[18]) << 8 | static_cast<unsigned char>(png[19]);
+    EXPECT_LE(png.size(), 6000U) << name;
+    EXPECT_LE(width, 440) << name;
+  }
 }
 
 TEST(help_contents, every_page_stands_in_the_table_of_contents) {

@@ -26,10 +26,10 @@ void writeFile(const fs::path& path, std::string_view text) {
   if (!out.flush()) throw std::runtime_error(path.string() + ": cannot be written");
 }
 
-std::vector<std::string> pageNames(const fs::path& folder) {
+std::vector<std::string> namesIn(const fs::path& folder, std::string_view extension) {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.path().extension() != ".htm") continue;
+    if (entry.path().extension() != extension) continue;
     const std::u8string name = entry.path().filename().u8string();
     names.emplace_back(name.begin(), name.end());
   }

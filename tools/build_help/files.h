@@ -15,7 +15,8 @@ namespace odmiennik::tools {
 // Writes the whole file, its folder included. Throws std::runtime_error that names the file.
 void writeFile(const std::filesystem::path& path, std::string_view text);
 
-// The names of the pages (*.htm) in a folder, sorted.
-[[nodiscard]] std::vector<std::string> pageNames(const std::filesystem::path& folder);
+// The names of the files in a folder that end so, sorted: namesIn("help/strony", ".htm").
+[[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& folder,
+                                               std::string_view extension);
 
 }  // namespace odmiennik::tools

@@ -31,17 +31,25 @@ void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::
   }
 }
 
-// Pages of an earlier run may be gone by now: the folder of pages is made anew.
+std::vector<std::string> copyPictures(const fs::path& from, const fs::path& to) {
+  const std::vector<std::string> pictures = namesIn(from, ".png");
+  for (const std::string& picture : pictures) writeFile(to / picture, readFile(from / picture));
+  return pictures;
+}
+
+// Pages of an earlier run may be gone by now: the folders of pages and pictures are made anew.
 void buildHelp(const fs::path& help, const fs::path& output) {
   const HelpContents contents = readHelpContents(help.string());
-  const std::vector<std::string> pages = pageNames(help / "strony");
+  const std::vector<std::string> pages = namesIn(help / "strony", ".htm");
   const std::string markup =
       departuresMarkup(readDepartureGroups((help / "odstepstwa.txt").string()),
                        readDepartures((output / "departures.tsv").string()));
   fs::remove_all(output / "strony");
+  fs::remove_all(output / "obrazy");
   copyPages(help / "strony", output / "strony", pages, markup);
   for (const char* sheet : kStyleSheets) writeFile(output / sheet, readFile(help / sheet));
-  writeFile(output / "Werbolin.hhp", projectFile(pages));
+  const std::vector<std::string> pictures = copyPictures(help / "obrazy", output / "obrazy");
+  writeFile(output / "Werbolin.hhp", projectFile(pages, pictures));
   writeFile(output / "Werbolin.hhc", contentsFile(contents.contents));
   writeFile(output / "Werbolin.hhk", indexFile(contents.index));
   writeFile(output / kContextFile, emptyContextRecord());

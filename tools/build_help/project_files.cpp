@@ -37,7 +37,8 @@ std::string object(const std::string& title, const std::string& page) {
 
 }  // namespace
 
-std::string projectFile(const std::vector<std::string>& pages) {
+std::string projectFile(const std::vector<std::string>& pages,
+                        const std::vector<std::string>& pictures) {
   // A binary index would hold a byte that chmcmd sets to nothing; viewers read the other index.
   std::string text = windows1250(
       "[OPTIONS]\r\n"
@@ -55,6 +56,7 @@ std::string projectFile(const std::vector<std::string>& pages) {
   text += std::string(kContextFile) + "\r\n";
   for (const char* sheet : kStyleSheets) text += std::string(sheet) + "\r\n";
   for (const std::string& page : pages) text += "strony\\" + page + "\r\n";
+  for (const std::string& picture : pictures) text += "obrazy\\" + picture + "\r\n";
   // chmcmd would write a context's page as its path on the machine that compiles the help. So the
   // record of contexts is a file of the project, and the page is brought among the strings by the
   // window, as the page of a button that it does not show.

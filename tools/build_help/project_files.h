@@ -17,8 +17,10 @@ inline constexpr std::array<const char*, 3> kStyleSheets{"styl.css", "ciemny.css
 // The file of the project that becomes the record of contexts of the help file.
 inline constexpr const char* kContextFile = "#IVB";
 
-// The project file, with the style sheets and the names of all pages (as they stand in strony/).
-[[nodiscard]] std::string projectFile(const std::vector<std::string>& pages);
+// The project file, with the style sheets and the names of all pages (as they stand in strony/) and
+// pictures (in obrazy/).
+[[nodiscard]] std::string projectFile(const std::vector<std::string>& pages,
+                                      const std::vector<std::string>& pictures);
 
 [[nodiscard]] std::string contentsFile(const std::vector<ContentsEntry>& entries);
 

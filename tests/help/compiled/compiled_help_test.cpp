@@ -46,7 +46,7 @@ std::string pageOfContext(const HelpFile& file, std::uint32_t context) {
 
 TEST(compiled_help, holds_every_page_as_it_was_written) {
   const HelpFile file(ODMIENNIK_COMPILED_HELP);
-  const std::vector<std::string> names = tools::pageNames(kSources / "strony");
+  const std::vector<std::string> names = tools::namesIn(kSources / "strony", ".htm");
   ASSERT_GE(names.size(), 18U);
   for (const std::string& name : names)
     EXPECT_EQ(file.content("/strony/" + name), tools::builtPage(pageSource(name))) << name;
@@ -56,6 +56,14 @@ TEST(compiled_help, holds_the_style_sheets) {
   const HelpFile file(ODMIENNIK_COMPILED_HELP);
   for (const char* sheet : tools::kStyleSheets)
     EXPECT_EQ(file.content(std::string("/") + sheet), tools::readFile(kSources / sheet)) << sheet;
+}
+
+TEST(compiled_help, holds_the_pictures_byte_for_byte) {
+  const HelpFile file(ODMIENNIK_COMPILED_HELP);
+  const std::vector<std::string> names = tools::namesIn(kSources / "obrazy", ".png");
+  ASSERT_GE(names.size(), 2U);
+  for (const std::string& name : names)
+    EXPECT_EQ(file.content("/obrazy/" + name), tools::readFile(kSources / "obrazy" / name)) << name;
 }
 
 TEST(compiled_help, holds_the_table_of_contents_and_the_index) {

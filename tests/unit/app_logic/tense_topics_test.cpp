@@ -60,8 +60,11 @@ TEST(tense_topics, deliberate_of_all_boxes_only_that_of_the_infinitive_has_no_pa
   for (int slot = 0; slot <= 100; ++slot) EXPECT_EQ(topicOfSlot(slot).has_value(), slot != 96);
 }
 
-TEST(tense_topics, the_list_has_its_page_and_other_windows_have_none) {
+TEST(tense_topics, a_window_has_its_page_and_the_main_window_none) {
   EXPECT_EQ(topicOfWindow("frmLista"), "strony\\Lista.htm");
+  EXPECT_EQ(topicOfWindow("frmZnajdź"), "strony\\OdFormy.htm");
+  EXPECT_EQ(topicOfWindow("frmSkąd"), "strony\\OdFormy.htm");
+  EXPECT_EQ(topicOfWindow("frmZapisListy"), "strony\\ZapisOdmiany.htm");
   EXPECT_FALSE(topicOfWindow("frmCzasowniki"));
 }
 

@@ -98,6 +98,7 @@ void HelpKeySuite::f1OpensThePageOfEveryWindow_data() {
     QTest::newRow(window) << QString::fromUtf8(item) << window << page;
   };
   row("mnuEdycjaLista", "frmLista", "Lista.htm");
+  row("mnuCzasownikZnajdź", "frmZnajdź", "OdFormy.htm");
   row("mnuWidokKolory", "frmKolory", "Litery.htm");
   row("mnuPlikUstawieniaDrukarki", "dlgCommonDialog", "Drukowanie.htm");
   row("mnuPomocPoradaDnia", "frmTip", "default.htm");

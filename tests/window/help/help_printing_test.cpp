@@ -36,6 +36,7 @@ class HelpPrintingSuite : public QObject {
   void everySheetHasTitleAndNumber();
   void onlyTheChosenSheetsArePrinted();
   void paperIsLightInADarkTheme();
+  void picturesAreOnPaperInTheirSize();
 
  private:
   void print(const QString& page);
@@ -196,6 +197,17 @@ void HelpPrintingSuite::paperIsLightInADarkTheme() {
     }
   QVERIFY(dark > 100);
   QVERIFY(white > sheet.width() * sheet.height() / 2);
+}
+
+// 96 points of a picture are an inch of paper, whatever the printer's resolution.
+void HelpPrintingSuite::picturesAreOnPaperInTheirSize() {
+  print("OdFormy.htm");
+  const QString images = outputOf("pdfimages", {"-list", server_->document(kQueue)});
+  const auto found =
+      QRegularExpression("image +(\\d+) +(\\d+) .* (\\d+) +(\\d+) +[\\d.]+[BK] ").match(images);
+  QVERIFY2(found.hasMatch(), qPrintable(images));
+  QCOMPARE(found.captured(1).toInt(), 422);
+  QVERIFY2(std::abs(found.captured(3).toInt() - 96) <= 1, qPrintable(images));
 }
 
 std::unique_ptr<QObject> helpPrintingSuite() { return std::make_unique<HelpPrintingSuite>(); }

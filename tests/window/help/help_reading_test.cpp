@@ -42,6 +42,8 @@ class HelpReadingSuite : public QObject {
   void thePageFollowsADarkTheme();
   void theOpenPageFollowsAChangeOfTheTheme();
   void noWordInATableIsBroken();
+  void aPictureStandsOnThePageInItsSize();
+  void aPictureGrowsWithThePage();
   void aFormUnderThePointerShowsNoMarkOfItsMaker();
 
  private:
@@ -271,6 +273,37 @@ void HelpReadingSuite::aFormUnderThePointerShowsNoMarkOfItsMaker() {
   QHelpEvent event(QEvent::ToolTip, place, pages().viewport()->mapToGlobal(place));
   QCoreApplication::sendEvent(pages().viewport(), &event);
   QCOMPARE(QToolTip::text(), "");
+}
+
+// The pictures of the page as they are laid out.
+QList<QSize> picturesOf(QTextBrowser& pages) {
+  QList<QSize> sizes;
+  for (QTextCursor place(pages.document()); !place.atEnd();
+       place.movePosition(QTextCursor::Right)) {
+    const QTextImageFormat picture = place.charFormat().toImageFormat();
+    if (!picture.isValid() || place.atBlockStart()) continue;
+    const QUrl name = pages.source().resolved(QUrl(picture.name()));
+    sizes += pages.document()->resource(QTextDocument::ImageResource, name).value<QImage>().size();
+  }
+  return sizes;
+}
+
+void HelpReadingSuite::aPictureStandsOnThePageInItsSize() {
+  help_->viewer().open("strony\\OdFormy.htm");
+  QTRY_COMPARE(pages().source().fileName(), "OdFormy.htm");
+  const QList<QSize> sizes = picturesOf(pages());
+  QCOMPARE(sizes.size(), 2);
+  QCOMPARE(sizes.front(), QSize(422, 215));
+  QVERIFY(pages().document()->idealWidth() >= 422);
+}
+
+void HelpReadingSuite::aPictureGrowsWithThePage() {
+  help_->viewer().open("strony\\OdFormy.htm");
+  QTRY_COMPARE(pages().source().fileName(), "OdFormy.htm");
+  const int height = pages().document()->size().toSize().height();
+  help_->window.findChild<app::HelpBrowser*>()->setZoom(200);
+  QCOMPARE(picturesOf(pages()).front(), QSize(844, 430));
+  QVERIFY(pages().document()->size().toSize().height() > height * 3 / 2);
 }
 
 std::unique_ptr<QObject> helpReadingSuite() { return std::make_unique<HelpReadingSuite>(); }

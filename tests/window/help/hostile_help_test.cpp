@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Help files that were made to do harm: nothing crashes, hangs, or is read from outside the file.
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
@@ -9,6 +10,7 @@
 
 #include "app/help/help_browser.h"
 #include "app/help/help_file_check.h"
+#include "app/help/page_picture.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/window/suites.h"
 
@@ -70,10 +72,13 @@ class HostileHelpSuite : public QObject {
   void buffersThatDoNotFitAreRefused();
   void filesWithWrongBytesAreReadOrRefused();
   void aPageReadsNothingFromOutside();
+  void aPictureOfTheFileIsShown();
+  void aPictureThatIsNoneOrTooLargeIsATransparentPoint();
   void aLinkOutOfTheFileIsNotFollowed();
 
  private:
   // A help file of one page, made with the compiler that makes the program's own.
+  // The page and, where there is one, red.png of the folder; nothing without a compiler.
   [[nodiscard]] QString compile(const QByteArray& page) const;
 
   scratch::ScratchFolder folder_;
@@ -83,8 +88,10 @@ QString HostileHelpSuite::compile(const QByteArray& page) const {
   const QString compiler = QStandardPaths::findExecutable("chmcmd");
   if (compiler.isEmpty()) return {};
   std::ofstream(folder_.path() / "a.htm") << page.toStdString();
+  const bool hasPicture = std::filesystem::exists(folder_.path() / "red.png");
   std::ofstream(folder_.path() / "a.hhp")
-      << "[OPTIONS]\nCompiled file=a.chm\nDefault topic=a.htm\n[FILES]\na.htm\n";
+      << "[OPTIONS]\nCompiled file=a.chm\nDefault topic=a.htm\n[FILES]\na.htm\n"
+      << (hasPicture ? "red.png\n" : "");
   QProcess compiling;
   compiling.setWorkingDirectory(QString::fromStdString(folder_.path().string()));
   compiling.start(compiler, {"--no-html-scan", "a.hhp"});
@@ -200,6 +207,45 @@ void HostileHelpSuite::aPageReadsNothingFromOutside() {
   browser.setSource(app::helpAddress("a.htm"));
   QVERIFY(browser.toPlainText().startsWith("Strona"));
   QVERIFY(!hasRedPixel(browser));
+}
+
+void HostileHelpSuite::aPictureOfTheFileIsShown() {
+  QImage red(60, 60, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  QVERIFY(red.save(QString::fromStdString((folder_.path() / "red.png").string())));
+  const QString compiled = compile("<html><body><h1>Strona</h1><img src='red.png'></body></html>");
+  if (compiled.isEmpty()) QSKIP("chmcmd (package fp-utils) is missing");
+  app::HelpBook book({compiled});
+  QVERIFY(book.open());
+  app::HelpBrowser browser(book, nullptr);
+  browser.setSource(app::helpAddress("a.htm"));
+  QVERIFY(hasRedPixel(browser));
+}
+
+// A PNG of that size whose points all have one colour: few bytes, much memory.
+QByteArray plainPng(QSize size) {
+  QImage picture(size, QImage::Format_Mono);
+  picture.fill(0);
+  QByteArray png;
+  QBuffer bytes(&png);
+  picture.save(&bytes, "png");
+  return png;
+}
+
+void HostileHelpSuite::aPictureThatIsNoneOrTooLargeIsATransparentPoint() {
+  const auto isPoint = [](const QByteArray& bytes) {
+    const QImage picture = app::pagePicture(bytes, 200);
+    return picture.size() == QSize(1, 1) && picture.pixelColor(0, 0).alpha() == 0;
+  };
+  const QByteArray sound = plainPng({40, 30});
+  QCOMPARE(app::pagePicture(sound, 200).size(), QSize(80, 60));
+  QVERIFY(isPoint({}));
+  QVERIFY(isPoint("<svg xmlns='http://www.w3.org/2000/svg' width='40' height='30'/>"));
+  QVERIFY(isPoint(plainPng({20'000, 20'000})));
+  for (qsizetype size = 0; size < 33; ++size) QVERIFY(isPoint(sound.left(size)));
+  QByteArray lying = sound;
+  lying.replace(16, 8, QByteArray::fromHex("7fffffff7fffffff"));
+  QVERIFY(isPoint(lying));
 }
 
 void HostileHelpSuite::aLinkOutOfTheFileIsNotFollowed() {

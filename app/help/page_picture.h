@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The pictures of the help's pages.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+namespace odmiennik::app {
+
+// A picture (PNG) as it stands on a page that is shown in so many percent of its size. What is no
+// PNG, is damaged, or larger than a page becomes a transparent point: nothing is seen, and where
+// nothing is given the text view would look for a local file. Example:
+// pagePicture(book.part(helpAddress("obrazy/znajdz-forme.png")), 150)
+[[nodiscard]] QImage pagePicture(const QByteArray& png, int percent);
+
+}  // namespace odmiennik::app
