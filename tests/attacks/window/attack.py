@@ -33,8 +33,9 @@ def inside(executable, module, *arguments):
     from program import Program
     signal.alarm(LIMIT)
     signal.signal(signal.SIGALRM, give_up)
-    with window_manager():
+    with window_manager() as manager:
         program = Program(executable, os.environ["HOME"])
+        program.window_manager = manager
         try:
             importlib.import_module(module).run(program, *arguments)
         finally:

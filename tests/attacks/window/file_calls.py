@@ -271,6 +271,7 @@ class WindowSweep:
             fall = self._fall(action, case, point, calls)
             if fall:  # a busy machine misses a window; what is broken falls twice
                 self.again += 1
+                self.window.program.window_manager.renew()
                 fall = self._fall(action, case, point, calls)
             if fall:
                 self.fallen.append(f"FALLEN {name}, {case.name}, call {point} "

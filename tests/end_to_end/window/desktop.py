@@ -61,14 +61,37 @@ def home(display):
             "QT_QPA_PLATFORM": "xcb", "NO_AT_BRIDGE": "0"}
 
 
+class WindowManager:
+    """The window manager of the screen in DISPLAY: it gives each new window the focus."""
+
+    def __init__(self):
+        self._ready = pathlib.Path(os.environ["HOME"], "window manager is ready")
+        self._start()
+
+    def _start(self):
+        self._ready.unlink(missing_ok=True)
+        self._process = subprocess.Popen(["openbox", "--startup", f"touch '{self._ready}'"],
+                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(self._ready.exists, "the window manager")
+
+    def renew(self):
+        """Another one that knows no window.
+
+        When a program is killed while its window comes, the window manager may keep that window for
+        ever; the next program's has the same number and is never shown.
+        """
+        self.end()
+        self._start()
+
+    def end(self):
+        ended(self._process)
+
+
 @contextlib.contextmanager
 def window_manager():
-    """The window manager of the screen in DISPLAY, ready: it gives each new window the focus."""
-    ready = pathlib.Path(os.environ["HOME"], "window manager is ready")
-    manager = subprocess.Popen(["openbox", "--startup", f"touch '{ready}'"],
-                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    """The window manager, ready; it ends with the block."""
+    manager = WindowManager()
     try:
-        wait_for(ready.exists, "the window manager")
-        yield
+        yield manager
     finally:
-        ended(manager)
+        manager.end()

@@ -26,6 +26,7 @@ class Program:
     def __init__(self, executable, home):
         self.executable = executable
         self.reader = None  # Orca, in scenarios that ask for it
+        self.window_manager = None  # for attacks, which may need another one
         self.environment = {}  # what the program shall see otherwise: {"PATH": "/tmp"}
         self.wrapper = []  # what starts it: ["sh", "-c", 'exec "$@"', "sh"]
         self.is_told_its_folder = True
