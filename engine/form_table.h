@@ -42,9 +42,12 @@ class FormTable {
 // Sets `target` to the parts in a row; no part may be a view of `target`.
 template <typename... Parts>
 void setTo(std::string& target, const Parts&... parts) {
-  target.resize((parts.size() + ...));
-  char* end = target.data();
-  ((end = copyLetters(end, parts)), ...);
+  const std::size_t size = (parts.size() + ...);
+  // Not the size that is handed over: the library of GCC 12 hands over the capacity instead.
+  target.resize_and_overwrite(size, [&](char* end, std::size_t /*capacity*/) {
+    ((end = copyLetters(end, parts)), ...);
+    return size;
+  });
 }
 
 // `text` without its last `count` letters; a shorter text gives nothing: less("parler", 2) ->
