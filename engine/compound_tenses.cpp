@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bitset>
 #include <string>
 
 #include "engine/norm.h"
@@ -20,8 +19,7 @@ enum Number : std::uint8_t { one, several, either };
 struct CompoundSlot {
   std::int8_t slot;
   std::int8_t auxiliaryIndex;
-  Number number;
-  Number numberInNorm;
+  Number number[2];  // in the system, in the norm
 };
 
 constexpr auto kCompoundSlots = [] {
@@ -41,11 +39,11 @@ constexpr auto kCompoundSlots = [] {
   // deliberate: the system's single forms carry no plural s, not even the imperative's nous and
   // vous.
   constexpr CompoundSlot kSingles[] = {
-      {slot::kPastInfinitive, auxiliary_index::kInfinitive, one, either},
-      {slot::kCompoundParticiple, auxiliary_index::kPresentParticiple, one, either},
-      {slot::kPastImperative, auxiliary_index::kPresentSubjunctive, one, one},
-      {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, one, several},
-      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, one, either},  // vous
+      {slot::kPastInfinitive, auxiliary_index::kInfinitive, {one, either}},
+      {slot::kCompoundParticiple, auxiliary_index::kPresentParticiple, {one, either}},
+      {slot::kPastImperative, auxiliary_index::kPresentSubjunctive, {one, one}},
+      {slot::kPastImperative + 1, auxiliary_index::kPresentSubjunctive + 3, {one, several}},
+      {slot::kPastImperative + 2, auxiliary_index::kPresentSubjunctive + 4, {one, either}},  // vous
   };
   std::array<CompoundSlot, std::size(kTensesOfSix) * kPersonCount + std::size(kSingles)> rows{};
   auto row = rows.begin();
@@ -54,8 +52,8 @@ constexpr auto kCompoundSlots = [] {
       constexpr int kVous = 4;  // one or several, as whoever is spoken to
       const Number number = person < 3 ? one : several;
       *row++ = {static_cast<std::int8_t>(tense.firstSlot + person),
-                static_cast<std::int8_t>(tense.firstIndex + person), number,
-                person == kVous ? either : number};
+                static_cast<std::int8_t>(tense.firstIndex + person),
+                {number, person == kVous ? either : number}};
     }
   std::copy(std::begin(kSingles), std::end(kSingles), row);
   return rows;
@@ -88,49 +86,47 @@ Tails tailsOf(std::string& tail, std::string_view base, std::uint8_t auxiliary,
   return tailsOfSystem(tail, bare, agreement == Agreement::none ? kAvoir : auxiliary);
 }
 
-// The forms of one auxiliary in the norm. Which of them it changes is asked once: at every slot it
-// would take a fifth of the answer.
-class AuxiliaryFormsOfNorm {
- public:
-  explicit AuxiliaryFormsOfNorm(std::uint8_t auxiliary)
-      : auxiliary_(auxiliary), first_((auxiliary + 1) * text_id::kAuxiliary) {
-    for (const NormText& text : normTextsBetween(first_, first_ + text_id::kAuxiliary))
-      isOfNorm_.set(static_cast<std::size_t>(text.identifier - first_));
-  }
+using AuxiliaryForms = std::array<std::string_view, kAuxiliaryFormCount>;
 
-  std::string_view operator[](int index) const {
-    if (isOfNorm_[static_cast<std::size_t>(index)]) return normTextOf(first_ + index);
-    return auxiliaryForm(auxiliary_, index);
-  }
+AuxiliaryForms formsOfAuxiliary(std::uint8_t auxiliary, bool isNorm) {
+  AuxiliaryForms forms;
+  for (int index = 0; index < kAuxiliaryFormCount; ++index)
+    forms[static_cast<std::size_t>(index)] = auxiliaryForm(auxiliary, index);
+  if (!isNorm) return forms;
+  const int first = (auxiliary + 1) * text_id::kAuxiliary;
+  for (const NormText& text : normTextsBetween(first, first + kAuxiliaryFormCount))
+    forms[static_cast<std::size_t>(text.identifier - first)] = text.text;
+  return forms;
+}
 
- private:
-  std::uint8_t auxiliary_;
-  int first_;
-  std::bitset<64> isOfNorm_;  // of 44 forms
-};
+// The participle as it stands in a dictionary, of several the first: "béni" of "béni, bénit".
+std::string_view firstParticiple(std::string_view stored) {
+  return stored.substr(0, stored.find_first_of(";/,"));
+}
 
 }  // namespace
 
 template <typename Forms>
 void buildCompoundTenses(Forms& forms, std::uint8_t auxiliary, CompoundOptions options) {
-  const std::string_view stored = forms[slot::kPastParticiple];
-  const std::string_view base = stored.substr(0, stored.find_first_of(";/,"));
+  const std::string_view base = firstParticiple(forms[slot::kPastParticiple]);
   if (base.empty()) return;
   std::string tail;
   const Tails tails = tailsOf(tail, base, auxiliary, options.agreement);
   const bool isNorm = options.agreement != Agreement::system;
+  const AuxiliaryForms auxiliaryForms = formsOfAuxiliary(auxiliary, isNorm);
   const bool placeholdersOnly = options.placeholdersOnly || forms.isPlaceholder(slot::kPerfect);
-  const AuxiliaryFormsOfNorm ofNorm(auxiliary);
+  const bool allSlots = !placeholdersOnly && !options.keepsEmptySlots;
+  const auto isWanted = [&](const std::string& form) {
+    return !(options.keepsEmptySlots && form.empty()) &&
+           (!placeholdersOnly || form == kPlaceholder);
+  };
   noteStep(forms, {}, false, false);
   noteMaker(forms, Maker::compound);
   noteOrigin(forms, slot::kPastParticiple);
   for (const CompoundSlot& row : kCompoundSlots) {
-    const std::string& form = forms[row.slot];
-    if (options.keepsEmptySlots && form.empty()) continue;
-    if (placeholdersOnly && form != kPlaceholder) continue;
-    putCompound(forms, row.slot,
-                isNorm ? ofNorm[row.auxiliaryIndex] : auxiliaryForm(auxiliary, row.auxiliaryIndex),
-                row.auxiliaryIndex, tails[isNorm ? row.numberInNorm : row.number], base);
+    if (!allSlots && !isWanted(forms[row.slot])) continue;
+    putCompound(forms, row.slot, auxiliaryForms[static_cast<std::size_t>(row.auxiliaryIndex)],
+                row.auxiliaryIndex, tails[row.number[isNorm ? 1 : 0]], base);
   }
 }
 

@@ -22,10 +22,9 @@ void dropPersons(Forms& forms, Stays stays, Lack lack) {
     if (!stays(slot)) lose(forms, slot, lack);
 }
 
-std::string_view boxText(int slot, std::string_view form, bool isPronominal, bool isEditing) {
-  if (form.empty()) return isEditing ? std::string_view{} : kShownMissing;
-  const bool isBare = isPronominal || !mayCarryReflexive(slot, form);
-  return isBare ? form : withoutOwnReflexive(slot, form);
+// Of a verb that is not conjugated pronominally.
+std::string_view bareForm(int slot, std::string_view form) {
+  return mayCarryReflexive(slot, form) ? withoutOwnReflexive(slot, form) : form;
 }
 
 }  // namespace
@@ -35,9 +34,12 @@ void display(Forms& forms, const EngineFlags& flags, bool isEditing, Display& sh
   if (flags.isImpersonal) dropPersons(forms, staysImpersonal, Lack::impersonal);
   if (flags.isOfThirdPersonOnly) dropPersons(forms, staysInThirdPerson, Lack::thirdPersonOnly);
   shown.isPronominal = flags.isPronominal;
+  const bool isPronominal = flags.isPronominal;
+  const std::string_view none = isEditing ? std::string_view{} : kShownMissing;
   for (int slot = 0; slot < kSlotCount; ++slot) {
-    std::string_view& box = shown.boxes[static_cast<std::size_t>(slot)];
-    box = boxText(slot, forms[slot], flags.isPronominal, isEditing);
+    const std::string_view form = forms[slot].empty() ? none : forms[slot];
+    const std::string_view box = isPronominal ? form : bareForm(slot, form);
+    shown.boxes[static_cast<std::size_t>(slot)] = box;
     noteShown(forms, slot, box);
   }
   chooseSubjectPronouns(tableOf(forms), flags.hAspirate, shown.pronouns, flags.variety);

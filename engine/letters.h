@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Copying of a few letters: forms are short, and a call for each piece would cost more than the
-// copy: 8 % of an answer's instructions, 3 % where it is written as JSON.
+// copy: 11 % of an answer's instructions, 4 % where it is written as JSON.
 #pragma once
 
 #include <cstdint>
@@ -21,14 +21,18 @@ inline char* copyLetters(char* to, std::string_view text) {
     std::memcpy(to, &first, sizeof first);
     std::memcpy(to + length - sizeof last, &last, sizeof last);
   };
-  if (length > 16)
-    std::memcpy(to, from, length);
-  else if (length >= 8)
-    copyEnds(std::uint64_t{});
-  else if (length >= 4)
+  if (length >= 8) {
+    if (length > 16)
+      std::memcpy(to, from, length);
+    else
+      copyEnds(std::uint64_t{});
+  } else if (length >= 4) {
     copyEnds(std::uint32_t{});
-  else
-    for (std::size_t i = 0; i < length; ++i) to[i] = from[i];
+  } else if (length >= 2) {
+    copyEnds(std::uint16_t{});
+  } else if (length == 1) {
+    *to = *from;
+  }
   return to + length;
 }
 

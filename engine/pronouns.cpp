@@ -51,8 +51,8 @@ constexpr bool isImperative(int slot) {
 }
 
 bool takesReflexive(int slot, const std::string& form) {
-  return !form.empty() && form != kPlaceholder &&
-         withoutOwnReflexive(slot, form).size() == form.size();
+  if (form.empty() || form == kPlaceholder) return false;
+  return !mayCarryReflexive(slot, form) || withoutOwnReflexive(slot, form).size() == form.size();
 }
 
 constexpr int kThirdPerson = 2;

@@ -47,15 +47,15 @@ void addReflexivePronouns(Forms& forms, bool hAspirate);
 template <typename Forms>
 void addReflexivePronounsOfNorm(Forms& forms, const EngineFlags& flags);
 
-// Whether `form` may carry a reflexive pronoun: "me ", "m'", "nous " and their like end in a blank
-// or an apostrophe at one of three places. A glance that settles most forms; only the imperative's
-// pronoun stands behind.
+// Whether `form` may carry a reflexive pronoun: "m'", "me ", "nous " and their like stand before
+// it, the imperative's behind a hyphen. A glance that settles most forms.
 [[nodiscard]] inline bool mayCarryReflexive(int slot, std::string_view form) {
-  if (slot >= slot::kImperative && slot < slot::kPastImperative) return true;
-  if (form.size() < 2) return false;
-  const char first = form[0];
-  if (first != 's' && first != 'm' && first != 't' && first != 'n' && first != 'v') return false;
-  return form[1] == '\'' || form.size() < 5 || form[2] == ' ' || form[4] == ' ';
+  const bool isImperative = slot >= slot::kImperative && slot < slot::kPastImperative;
+  if (isImperative && form.find('-') != std::string_view::npos) return true;
+  if (form.size() < 3) return form.size() == 2 && form[1] == '\'';
+  if (form[1] == 'e') return form[2] == ' ';
+  if (form[1] == 'o') return (form[0] == 'n' || form[0] == 'v') && form[2] == 'u';
+  return form[1] == '\'';
 }
 
 // The form of `slot` without the reflexive pronoun that it carries, as a view of `form`:

@@ -44,6 +44,7 @@ inline constexpr int kPresentConditional = 36;
 inline constexpr int kInfinitive = 42;
 inline constexpr int kPresentParticiple = 43;
 }  // namespace auxiliary_index
+inline constexpr int kAuxiliaryFormCount = 44;
 
 // Form `index` (0 to 43) of the auxiliary: auxiliaryForm(0, 42) -> "être".
 [[nodiscard]] inline std::string_view auxiliaryForm(int auxiliary, int index) {
