@@ -4,8 +4,8 @@
 
 #include "dictionary/verb_index.h"
 #include "engine/french.h"
-#include "engine/initial_letter.h"
 #include "engine/normalization.h"
+#include "engine/plain_letters.h"
 
 namespace odmiennik::dictionary {
 namespace {
@@ -14,25 +14,11 @@ namespace {
 constexpr std::string_view kReformed = "oir";
 constexpr std::string_view kTraditional = "eoir";
 
-using engine::operator""_fr;
-
-constexpr char kLigature = "œ"_fr[0];
-
-std::string withoutAccents(std::string_view text) {
-  std::string plain;
-  for (const char letter : text) {
-    const char unaccented = engine::initialLetter(letter);
-    plain.push_back(unaccented == 0 ? letter : unaccented);
-    if (letter == kLigature) plain.push_back('e');
-  }
-  return plain;
-}
-
 std::string_view verbLike(std::string_view plain) {
   if (plain.empty()) return {};
   const char letter = plain.front();
   for (int k = 1; k <= verbCount(letter); ++k)
-    if (withoutAccents(verbOfLetter(letter, k)) == plain) return verbOfLetter(letter, k);
+    if (engine::withoutAccents(verbOfLetter(letter, k)) == plain) return verbOfLetter(letter, k);
   return {};
 }
 
@@ -42,7 +28,7 @@ std::string otherSpelling(std::string_view infinitive) {
   std::string typed;
   engine::normalize(infinitive, typed);
   const std::string_view bare = engine::withoutReflexivePrefix(typed);
-  std::string plain = withoutAccents(bare);
+  std::string plain = engine::withoutAccents(bare);
   std::string_view verb = verbLike(plain);
   if (verb.empty() && plain.ends_with(kReformed))
     verb = verbLike(plain.replace(plain.size() - kReformed.size(), kReformed.size(), kTraditional));

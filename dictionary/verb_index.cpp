@@ -4,7 +4,7 @@
 
 #include "dictionary/compiled_texts.h"
 #include "dictionary/verb_index_data.h"
-#include "engine/initial_letter.h"
+#include "engine/plain_letters.h"
 
 namespace odmiennik::dictionary {
 namespace {

@@ -10,22 +10,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-char8_t lowerCased(char8_t letter) {
-  return letter >= u8'A' && letter <= u8'Z' ? static_cast<char8_t>(letter + 0x20) : letter;
-}
-
-bool isSameName(std::u8string_view left, std::u8string_view right) {
-  return std::ranges::equal(left, right, {}, lowerCased, lowerCased);
+Utf8Text textOf(const fs::path& name) {
+  const std::u8string text = name.u8string();
+  return {text.begin(), text.end()};
 }
 
 // The first in the order of the alphabet, so that the choice does not depend on the disk.
 FoundFile anySpellingOf(const fs::path& wanted, FileSystem& files) {
   const auto names = files.names(folderOf(wanted));
   if (!names) return {Presence::unknown, wanted};
-  const std::u8string name = wanted.filename().u8string();
+  const Utf8Text name = textOf(wanted.filename());
   std::optional<fs::path> found;
   for (const fs::path& other : *names)
-    if (isSameName(other.u8string(), name) && (!found || other < *found)) found = other;
+    if (isSameButForCase(textOf(other), name) && (!found || other < *found)) found = other;
   if (!found) return {Presence::notThere, wanted};
   return {Presence::there, wanted.parent_path() / *found};
 }

@@ -2,6 +2,7 @@
 // UTF-8 text as a type of its own, so that it is never taken for French text (Windows-1252).
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,16 @@ using Utf8Text = std::basic_string<char, Utf8Traits>;
 [[nodiscard]] constexpr std::string_view bytesOf(Utf8View utf8) {
   return {utf8.data(), utf8.size()};
 }
+
+// Whether the texts differ at most in the case of A to Z, as names of files may on one system or
+// another: isSameButForCase("czas.DAT", "Czas.dat").
+[[nodiscard]] constexpr bool isSameButForCase(Utf8View left, Utf8View right) {
+  const auto small = [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  };
+  return std::ranges::equal(left, right, {}, small, small);
+}
+static_assert(isSameButForCase("czas.DAT", "Czas.dat") && !isSameButForCase("Ł", "ł"));
 
 // decimal(-12) -> "-12"
 template <typename Number>

@@ -75,12 +75,17 @@ bool isInNormOf(const Reading& reading) {
   return !isImperative(reading.slot) && (personOf(reading.slot) & 4) != 0;
 }
 
+// Of a verb that is pronominal alone, every form is.
+bool isReflexive(const Phrase& phrase, const Candidate& word) {
+  return phrase.isReflexive || word.facts.isPronominal;
+}
+
 // A reading at the end of the others, which finish() lets stand or takes back.
 Reading& begin(const Phrase& phrase, const Candidate& word, int number, Readings& readings) {
   Reading& reading = readings.emplace_back();
   reading.verb = word.verb;
   reading.slot = static_cast<std::int16_t>(number);
-  reading.isReflexive = phrase.isReflexive || word.facts.isPronominal;
+  reading.isReflexive = isReflexive(phrase, word);
   reading.isOwn = word.isOwn;
   reading.adverb = phrase.adverb;
   reading.rank = word.rank;
@@ -130,8 +135,8 @@ bool has(Places places, int place) { return (places & bitOf(place)) != 0; }
 void appendAt(const CompoundForm& compound, int auxiliaryPlace, int number, int participlePlace,
               Readings& readings) {
   const Candidate& word = compound.participle;
-  const bool isReflexive = compound.phrase.isReflexive || word.facts.isPronominal;
-  if (isReflexive && (!compound.isEtre || isImperative(number))) return;
+  const bool mayBeReflexive = compound.isEtre && !isImperative(number);
+  if (!mayBeReflexive && isReflexive(compound.phrase, word)) return;
   Reading& reading = begin(compound.phrase, word, number, readings);
   reading.agreed = agreedOfPlace(participlePlace);
   reading.hasParticiple = true;

@@ -10,9 +10,9 @@ std::string_view Folded::fold(std::string_view word) {
   word = word.substr(0, kLongestWord + 1);
   char* next = letters_.data();
   for (const char letter : word) {
-    *next++ = detail::kPlain[static_cast<unsigned char>(letter)];
+    *next++ = engine::plainLetter(letter);
     *next = 'e';
-    next += detail::isTwoLetters(letter) ? 1 : 0;
+    next += engine::isTwoLetters(letter) ? 1 : 0;
   }
   return {letters_.data(), static_cast<std::size_t>(next - letters_.data())};
 }

@@ -7,39 +7,12 @@
 #include <cstdint>
 #include <string_view>
 
-#include "engine/french.h"
+#include "engine/plain_letters.h"
 
 namespace odmiennik::finder {
 
 // The longest word that is looked for, in letters without accents; no form comes near it.
 inline constexpr std::size_t kLongestWord = 48;
-
-namespace detail {
-
-using engine::operator""_fr;
-
-// The letter of every byte without its accent; of œ and æ the first of two.
-inline constexpr std::array<char, 256> kPlain = [] {
-  std::array<char, 256> plain{};
-  for (std::size_t byte = 0; byte < plain.size(); ++byte) plain[byte] = static_cast<char>(byte);
-  struct Accented {
-    char letter;
-    std::string_view accented;
-  };
-  constexpr Accented kAccented[] = {{'a', "àáâãäåæ"_fr}, {'c', "ç"_fr}, {'e', "èéêë"_fr},
-                                    {'i', "ìíîï"_fr},    {'n', "ñ"_fr}, {'o', "òóôõöœ"_fr},
-                                    {'u', "ùúûü"_fr},    {'y', "ýÿ"_fr}};
-  for (const Accented& row : kAccented)
-    for (const char letter : row.accented) plain[static_cast<unsigned char>(letter)] = row.letter;
-  return plain;
-}();
-
-// An e follows: œ is oe, æ is ae.
-[[nodiscard]] constexpr bool isTwoLetters(char letter) {
-  return letter == "œ"_fr[0] || letter == "æ"_fr[0];
-}
-
-}  // namespace detail
 
 // A word without accents, in place: no memory is asked for while one types.
 class Folded {
@@ -66,9 +39,8 @@ class Folded {
 [[nodiscard]] constexpr bool takeOff(std::string_view word, std::string_view& folded) {
   std::size_t at = 0;
   for (const char letter : word) {
-    if (at == folded.size() || folded[at++] != detail::kPlain[static_cast<unsigned char>(letter)])
-      return false;
-    if (detail::isTwoLetters(letter) && (at == folded.size() || folded[at++] != 'e')) return false;
+    if (at == folded.size() || folded[at++] != engine::plainLetter(letter)) return false;
+    if (engine::isTwoLetters(letter) && (at == folded.size() || folded[at++] != 'e')) return false;
   }
   folded.remove_prefix(at);
   return true;

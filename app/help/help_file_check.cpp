@@ -8,10 +8,12 @@
 #include <optional>
 #include <vector>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::app {
 namespace {
 
-constexpr std::string_view kControlData = "::DataSpace/Storage/MSCompressed/ControlData";
+constexpr Utf8View kControlData = "::DataSpace/Storage/MSCompressed/ControlData";
 constexpr std::size_t kLongestName = 512;  // libchm's buffer for a name
 constexpr int kDeepest = 8;
 constexpr std::uint32_t kSmallestPage = 256;
@@ -51,12 +53,7 @@ std::optional<std::string_view> takeName(std::string_view& bytes) {
 }
 
 // libchm tells names apart without regard to case.
-bool isControlData(std::string_view name) {
-  const auto small = [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-  };
-  return std::ranges::equal(name, kControlData, {}, small, small);
-}
+bool isControlData(std::string_view name) { return isSameButForCase(asUtf8(name), kControlData); }
 
 constexpr std::uint64_t kBlock = 0x8000;
 

@@ -30,21 +30,13 @@ constexpr Ending kEndings[] = {{SavedKind::pdf, ".pdf"},
 // Names of devices on Windows, whatever suffix follows.
 constexpr Utf8View kDevices[] = {"con", "prn", "aux", "nul"};
 
-constexpr char lower(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool isSame(Utf8View left, Utf8View right) {
-  return std::ranges::equal(left, right, {}, lower, lower);
-}
-
 // Only behind a name: a file that is called ".csv" has no suffix.
 std::optional<Ending> endingOf(Utf8View path) {
   for (const Ending& ending : kEndings) {
     if (path.size() <= ending.suffix.size()) continue;
     const std::size_t start = path.size() - ending.suffix.size();
     const bool hasName = path[start - 1] != '/' && path[start - 1] != '\\';
-    if (hasName && isSame(path.substr(start), ending.suffix)) return ending;
+    if (hasName && isSameButForCase(path.substr(start), ending.suffix)) return ending;
   }
   return std::nullopt;
 }
@@ -91,7 +83,7 @@ Utf8Text fileNameFor(Utf8View text) {
   std::ranges::replace_if(
       name, [](char letter) { return !mayStand(letter); }, '_');
   if (name.empty()) return Utf8Text(kNameless);
-  const auto isName = [&](Utf8View device) { return isSame(name, device); };
+  const auto isName = [&](Utf8View device) { return isSameButForCase(name, device); };
   if (std::ranges::any_of(kDevices, isName)) name.push_back('_');
   return name;
 }

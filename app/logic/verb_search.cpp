@@ -2,26 +2,27 @@
 // Typing into the list.
 #include "app/logic/verb_search.h"
 
-#include "engine/french.h"
-#include "engine/initial_letter.h"
 #include "engine/normalization.h"
+#include "engine/plain_letters.h"
 
 namespace odmiennik::app {
 namespace {
 
-using namespace engine::literals;
 using Entries = std::vector<std::string>;
 
-// Two letters in one: searching for "oe" finds œuvrer.
-constexpr char kJoinedOE = "œ"_fr[0];
-constexpr char kJoinedAE = "æ"_fr[0];
+// In lower case too: "Éteindre" -> "eteindre".
+std::string plain(std::string_view french) {
+  std::string lower(french);
+  engine::lowerCase(lower);
+  return engine::withoutAccents(lower);
+}
 
 // The first entry from `start` on that begins so, going round the end.
 std::optional<std::size_t> firstFrom(std::size_t start, std::string_view beginning,
                                      const Entries& entries) {
   for (std::size_t step = 0; step < entries.size(); ++step) {
     const std::size_t entry = (start + step) % entries.size();
-    if (withoutAccents(entries[entry]).starts_with(beginning)) return entry;
+    if (plain(entries[entry]).starts_with(beginning)) return entry;
   }
   return std::nullopt;
 }
@@ -32,25 +33,13 @@ bool isOneLetterRepeated(std::string_view typed) {
 
 }  // namespace
 
-std::string withoutAccents(std::string_view french) {
-  std::string lower(french);
-  engine::lowerCase(lower);
-  std::string plain;
-  for (const char letter : lower) {
-    const char initial = engine::initialLetter(letter);
-    plain += initial == 0 ? letter : initial;
-    if (letter == kJoinedOE || letter == kJoinedAE) plain += 'e';
-  }
-  return plain;
-}
-
 std::optional<std::size_t> VerbSearch::type(std::string_view key, bool isContinued,
                                             const Entries& entries,
                                             std::optional<std::size_t> current) {
   if (!isContinued) typed_.clear();
   const std::size_t next = current ? *current + 1 : 0;
   const std::size_t start = typed_.empty() ? next : current.value_or(0);
-  typed_ += withoutAccents(key);
+  typed_ += plain(key);
   if (typed_.empty()) return std::nullopt;
   const auto found = firstFrom(start, typed_, entries);
   if (found || !isOneLetterRepeated(typed_)) return found;

@@ -10,10 +10,6 @@
 
 namespace odmiennik::app {
 
-// The letters of a French text without their accents, in lower case: "Éteindre" -> "eteindre",
-// "œuvrer" -> "oeuvrer".
-[[nodiscard]] std::string withoutAccents(std::string_view french);
-
 class VerbSearch {
  public:
   // The entry that one more key leads to, accents and case aside; `isContinued` when it followed

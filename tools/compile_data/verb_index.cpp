@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/initial_letter.h"
+#include "engine/plain_letters.h"
 #include "tools/compile_data/emit.h"
 #include "tools/compile_data/generators.h"
 #include "tools/compile_data/line_reader.h"

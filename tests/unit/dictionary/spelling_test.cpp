@@ -23,6 +23,7 @@ TEST(other_spelling, finds_a_verb_written_without_its_accents) {
 
 TEST(other_spelling, finds_a_verb_written_with_the_wrong_accents) {
   EXPECT_EQ(meant("ètre"), "être");
+  EXPECT_EQ(meant("áller"), "aller");
 }
 
 TEST(other_spelling, finds_the_traditional_spelling_behind_that_of_1990) {
