@@ -26,11 +26,10 @@ void writeTense(Forms& forms, int firstSlot, std::string_view base, const Ending
     put(forms, firstSlot + person, stem(base), ending(endings[static_cast<std::size_t>(person)]));
 }
 
-// Each variant of `text` ("a/b") loses `cut` letters and takes the ending. Not inlined: the rare
-// case would cost the common one registers.
+// Each variant of `text` ("a/b") loses `cut` letters and takes the ending.
 template <typename Forms>
-[[gnu::noinline]] void putVariants(Forms& forms, int slot, std::string_view text, std::size_t cut,
-                                   std::string_view end) {
+void putVariants(Forms& forms, int slot, std::string_view text, std::size_t cut,
+                 std::string_view end) {
   beginForm(forms, slot);
   for (auto slash = text.find('/'); slash != std::string_view::npos; slash = text.find('/')) {
     append(forms, slot, stem(less(text.substr(0, slash), cut)));

@@ -43,10 +43,9 @@ void appendForm(int slot, std::string_view text, const RunningModel<Forms>& run)
   append(run.forms, slot, {PieceKind::text, text.substr(mark + 1)});
 }
 
-// Every form of "a/b" or "a, b" gets the stem, but for the text that stands for a missing one. Not
-// inlined: the rare case would cost the common one registers.
+// Every form of "a/b" or "a, b" gets the stem, but for the text that stands for a missing one.
 template <typename Forms>
-[[gnu::noinline]] void writeForms(int slot, std::string_view text, const RunningModel<Forms>& run) {
+void writeForms(int slot, std::string_view text, const RunningModel<Forms>& run) {
   beginForm(run.forms, slot);
   for (;;) {
     const auto end = text.find_first_of("/,");
