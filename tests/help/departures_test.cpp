@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/help/help_page.h"
+#include "tests/support/utf8_printing.h"
 #include "tools/build_help/departures_page.h"
 
 namespace odmiennik::help {
@@ -24,7 +25,7 @@ const std::vector<Departure>& departures() {
   return read;
 }
 
-DepartureGroup groupOfVerb(const std::string& verb, const std::string& title) {
+DepartureGroup groupOfVerb(const Utf8Text& verb, const Utf8Text& title) {
   return {.name = title, .title = title, .reason = "Bo tak.", .conditions = {.verbs = {verb}}};
 }
 
@@ -49,7 +50,8 @@ TEST(departures_page, tells_of_mark_and_tick_first_and_then_of_every_group) {
   ASSERT_NE(page, nullptr);
   EXPECT_EQ(page->sections().front().heading, "Znak w polu i jedno zaznaczenie");
   for (const DepartureGroup& group : groups())
-    EXPECT_NE(page->markup.find("<h3>" + group.title + "</h3>"), std::string::npos) << group.name;
+    EXPECT_NE(asUtf8(page->markup).find("<h3>" + group.title + "</h3>"), Utf8View::npos)
+        << group.name;
 }
 
 TEST(departures_page, the_pages_on_agreement_and_the_welcome_point_to_it) {
@@ -76,13 +78,13 @@ TEST(departures_page, conditions_look_at_box_form_and_norm) {
 TEST(departures_page, a_group_shows_its_counts_verbs_and_examples) {
   DepartureGroup group = groupOfVerb("-lire", "Lire");
   group.examples = {{"lire", {2}}};
-  const std::string markup = departuresMarkup(
+  const Utf8Text markup = departuresMarkup(
       {group}, {{"élire", 2, "il élir", "il élit"}, {"lire", 2, "il lir", "il lit"}});
   EXPECT_NE(markup.find("Czasowników: 2, form: 2: <i lang=\"fr\">élire, lire</i>."),
-            std::string::npos);
+            Utf8Text::npos);
   EXPECT_NE(
       markup.find("il <b class=\"f\" title=\"lire 2\">lir</b></td><td><i lang=\"fr\">il lit</i>"),
-      std::string::npos);
+      Utf8Text::npos);
 }
 
 TEST(departures_page, a_form_without_a_group_stops_the_build) {

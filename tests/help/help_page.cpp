@@ -49,10 +49,11 @@ std::string withEntitiesResolved(std::string text) {
 
 // A page as a reader meets it: with what the build puts in.
 std::string pageSource(const std::filesystem::path& path) {
-  static const std::string departures = tools::departuresMarkup(
+  static const Utf8Text departures = tools::departuresMarkup(
       tools::readDepartureGroups(ODMIENNIK_SOURCE_DIR "/help/odstepstwa.txt"),
       tools::readDepartures(ODMIENNIK_DEPARTURES));
-  return tools::withDepartures(tools::readFile(path), departures);
+  const Utf8Text typed(asUtf8(tools::readFile(path)));
+  return std::string(bytesOf(tools::withDepartures(typed, departures)));
 }
 
 std::vector<HelpPage> readPages() {

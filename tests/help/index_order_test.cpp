@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "engine/windows1252.h"
+#include "tests/support/utf8_printing.h"
 #include "tools/build_help/contents.h"
 
 namespace odmiennik::help {
@@ -23,12 +24,12 @@ char32_t plainLetter(char32_t letter) {
 }
 
 // Blanks, then numbers by their value, then letters; other signs do not count.
-std::vector<std::size_t> orderOf(std::string_view keyword) {
+std::vector<std::size_t> orderOf(Utf8View keyword) {
   constexpr std::size_t kLetters = 1000;
   std::vector<std::size_t> order;
   bool isNumber = false;
   while (!keyword.empty()) {
-    const engine::DecodedCodePoint read = engine::decodeUtf8(asUtf8(keyword));
+    const engine::DecodedCodePoint read = engine::decodeUtf8(keyword);
     keyword.remove_prefix(static_cast<std::size_t>(std::max(read.length, 1)));
     const bool isDigit = read.value >= U'0' && read.value <= U'9';
     const auto letter = kAlphabet.find(plainLetter(read.value));

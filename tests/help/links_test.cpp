@@ -7,6 +7,7 @@
 #include <set>
 
 #include "tests/help/help_page.h"
+#include "tests/support/utf8_printing.h"
 #include "tools/build_help/contents.h"
 #include "tools/build_help/files.h"
 
@@ -117,19 +118,19 @@ TEST(help_pictures, a_picture_is_small) {
 TEST(help_contents, every_page_stands_in_the_table_of_contents) {
   std::set<std::string> listed;
   for (const tools::ContentsEntry& entry : tools::readHelpContents(kHelpFolder).contents)
-    listed.insert(entry.page);
+    listed.emplace(bytesOf(entry.page));
   EXPECT_EQ(listed, allNames());
 }
 
 TEST(help_contents, every_page_but_the_welcome_stands_in_the_index) {
   std::set<std::string> listed{"default.htm"};
   for (const tools::IndexEntry& entry : tools::readHelpContents(kHelpFolder).index)
-    listed.insert(entry.page);
+    listed.emplace(bytesOf(entry.page));
   EXPECT_EQ(listed, allNames());
 }
 
 TEST(help_contents, no_keyword_of_the_index_stands_twice) {
-  std::set<std::string> keywords;
+  std::set<Utf8Text> keywords;
   for (const tools::IndexEntry& entry : tools::readHelpContents(kHelpFolder).index)
     EXPECT_TRUE(keywords.insert(entry.keyword).second) << entry.keyword;
 }

@@ -5,19 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::tools {
 
 // A line of the table of contents: "2 | Présent | PresentIndicatif.htm".
 struct ContentsEntry {
-  int level = 1;      // 1 is the outermost
-  std::string title;  // UTF-8
-  std::string page;   // the page's name in strony/
+  int level = 1;  // 1 is the outermost
+  Utf8Text title;
+  Utf8Text page;  // the page's name in strony/
 };
 
 // A line of the index: "liczba mnoga | Uzgodnienie.htm".
 struct IndexEntry {
-  std::string keyword;  // UTF-8
-  std::string page;
+  Utf8Text keyword;
+  Utf8Text page;
 };
 
 struct HelpContents {

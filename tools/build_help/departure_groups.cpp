@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <stdexcept>
 
 #include "tools/build_help/files.h"
 #include "tools/compile_data/line_reader.h"
@@ -14,7 +13,7 @@ namespace odmiennik::tools {
 namespace {
 
 constexpr int kLastSlot = 100;
-constexpr std::string_view kMissing = "--";
+constexpr Utf8View kMissing = "--";
 
 enum class Part { group, title, reason, verbs, slots, system, norm, without, example };
 constexpr std::array<Named<Part>, 9> kParts{{{"group", Part::group},
@@ -27,12 +26,12 @@ constexpr std::array<Named<Part>, 9> kParts{{{"group", Part::group},
                                              {"without", Part::without},
                                              {"example", Part::example}}};
 
-bool isVerb(const std::string& verb, const std::string& known) {
+bool isVerb(const Utf8Text& verb, const Utf8Text& known) {
   return known.starts_with('-') ? verb.ends_with(known.substr(1)) : verb == known;
 }
 
-bool isNorm(const std::string& norm, const std::string& part) {
-  return part == kMissing ? norm.empty() : norm.find(part) != std::string::npos;
+bool isNorm(const Utf8Text& norm, const Utf8Text& part) {
+  return part == kMissing ? norm.empty() : norm.find(part) != Utf8Text::npos;
 }
 
 template <typename Item, typename Holds>
@@ -40,7 +39,7 @@ bool isEmptyOrAny(const std::vector<Item>& items, Holds holds) {
   return items.empty() || std::ranges::any_of(items, holds);
 }
 
-void takeTexts(LineReader& line, char separator, std::vector<std::string>& texts) {
+void takeTexts(LineReader& line, char separator, std::vector<Utf8Text>& texts) {
   while (!line.isAtEnd())
     texts.emplace_back(line.takePart(separator).takeRest("a text is expected"));
 }
@@ -49,7 +48,7 @@ void takeSlots(LineReader& line, std::vector<int>& slots) {
   while (!line.isAtEnd()) slots.push_back(line.takeNumber(0, kLastSlot));
 }
 
-void takeText(LineReader& line, std::string& text) {
+void takeText(LineReader& line, Utf8Text& text) {
   if (!text.empty()) text += '\n';
   text += line.takeRest("a text is expected");
 }
@@ -87,34 +86,34 @@ void takePart(Part part, LineReader& line, DepartureGroup& group) {
 }
 
 // "lire\t2\tmood\ttense\tperson\til lir\til lit"
-Departure departureOf(std::string_view line) {
-  std::array<std::string_view, 7> fields;
+Departure departureOf(Utf8View line) {
+  std::array<Utf8View, 7> fields;
   std::size_t count = 0;
-  for (auto end = line.find('\t'); count + 1 < fields.size() && end != std::string_view::npos;
+  for (auto end = line.find('\t'); count + 1 < fields.size() && end != Utf8View::npos;
        end = line.find('\t')) {
     fields[count++] = line.substr(0, end);
     line.remove_prefix(end + 1);
   }
   fields[count] = line;
-  Departure departure{std::string(fields[0]), -1, std::string(fields[5]), std::string(fields[6])};
+  Departure departure{Utf8Text(fields[0]), -1, Utf8Text(fields[5]), Utf8Text(fields[6])};
   std::from_chars(fields[1].data(), fields[1].data() + fields[1].size(), departure.slot);
   const bool isWhole = count + 1 == fields.size() && departure.slot >= 0;
-  if (!isWhole) throw std::runtime_error("no departure: " + std::string(fields[0]));
+  if (!isWhole) throw fault("no departure: " + Utf8Text(fields[0]));
   return departure;
 }
 
 }  // namespace
 
 bool holds(const GroupConditions& conditions, const Departure& departure) {
-  const auto isInSystem = [&](const std::string& part) {
-    return departure.system.find(part) != std::string::npos;
+  const auto isInSystem = [&](const Utf8Text& part) {
+    return departure.system.find(part) != Utf8Text::npos;
   };
   return isEmptyOrAny(conditions.verbs,
-                      [&](const std::string& known) { return isVerb(departure.verb, known); }) &&
+                      [&](const Utf8Text& known) { return isVerb(departure.verb, known); }) &&
          isEmptyOrAny(conditions.slots, [&](int slot) { return slot == departure.slot; }) &&
          isEmptyOrAny(conditions.system, isInSystem) &&
          isEmptyOrAny(conditions.norm,
-                      [&](const std::string& part) { return isNorm(departure.norm, part); }) &&
+                      [&](const Utf8Text& part) { return isNorm(departure.norm, part); }) &&
          std::ranges::none_of(conditions.without, isInSystem);
 }
 
@@ -129,7 +128,7 @@ std::vector<Departure> readDepartures(const std::string& path) {
   std::vector<Departure> departures;
   for (std::size_t begin = text.find('\n') + 1; begin < text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size());
-    departures.push_back(departureOf(std::string_view(text).substr(begin, end - begin)));
+    departures.push_back(departureOf(asUtf8(text).substr(begin, end - begin)));
     begin = end + 1;
   }
   return departures;

@@ -3,40 +3,41 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::tools {
 
-// A form of a verb in the two varieties, with its pronoun; all texts are UTF-8, as the command
-// tells them: lire, 2, "il lir", "il lit". A form that the norm lacks is the empty text.
+// A form of a verb in the two varieties, with its pronoun; as the command tells them:
+// lire, 2, "il lir", "il lit". A form that the norm lacks is the empty text.
 struct Departure {
-  std::string verb;
+  Utf8Text verb;
   int slot = 0;
-  std::string system;
-  std::string norm;
+  Utf8Text system;
+  Utf8Text norm;
 };
 
 // What a form must be to belong to a group: each list that is not empty has to hold one thing that
 // is so.
 struct GroupConditions {
-  std::vector<std::string> verbs;  // "lire", or "-uire": all that end so
+  std::vector<Utf8Text> verbs;  // "lire", or "-uire": all that end so
   std::vector<int> slots;
-  std::vector<std::string> system;   // stands in the system's form
-  std::vector<std::string> norm;     // stands in the norm's; "--": the norm has no such form
-  std::vector<std::string> without;  // does not stand in the system's form
+  std::vector<Utf8Text> system;   // stands in the system's form
+  std::vector<Utf8Text> norm;     // stands in the norm's; "--": the norm has no such form
+  std::vector<Utf8Text> without;  // does not stand in the system's form
 };
 
 // A line of a group's table: the verb and the forms that are shown of it.
 struct GroupExample {
-  std::string verb;
+  Utf8Text verb;
   std::vector<int> slots;
 };
 
 struct DepartureGroup {
-  std::string name;    // for faults
-  std::string title;   // markup
-  std::string reason;  // markup, written by hand
+  Utf8Text name;    // for faults
+  Utf8Text title;   // markup
+  Utf8Text reason;  // markup, written by hand
   GroupConditions conditions;
   std::vector<GroupExample> examples;
 };

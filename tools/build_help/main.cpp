@@ -17,14 +17,16 @@
 namespace {
 
 namespace fs = std::filesystem;
+using namespace odmiennik;
 using namespace odmiennik::tools;
 
 void copyPages(const fs::path& from, const fs::path& to, const std::vector<std::string>& pages,
-               const std::string& departures) {
+               Utf8View departures) {
   for (const std::string& page : pages) {
     const fs::path name = fs::path(std::u8string(page.begin(), page.end()));
     try {
-      writeFile(to / name, builtPage(withDepartures(readFile(from / name), departures)));
+      const Utf8Text typed(asUtf8(readFile(from / name)));
+      writeFile(to / name, builtPage(bytesOf(withDepartures(typed, departures))));
     } catch (const std::exception& error) {
       throw std::runtime_error(page + ": " + error.what());
     }
@@ -41,9 +43,8 @@ std::vector<std::string> copyPictures(const fs::path& from, const fs::path& to) 
 void buildHelp(const fs::path& help, const fs::path& output) {
   const HelpContents contents = readHelpContents(help.string());
   const std::vector<std::string> pages = namesIn(help / "strony", ".htm");
-  const std::string markup =
-      departuresMarkup(readDepartureGroups((help / "odstepstwa.txt").string()),
-                       readDepartures((output / "departures.tsv").string()));
+  const Utf8Text markup = departuresMarkup(readDepartureGroups((help / "odstepstwa.txt").string()),
+                                           readDepartures((output / "departures.tsv").string()));
   fs::remove_all(output / "strony");
   fs::remove_all(output / "obrazy");
   copyPages(help / "strony", output / "strony", pages, markup);

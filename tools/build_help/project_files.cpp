@@ -15,7 +15,7 @@ constexpr const char* kFoot = "</BODY></HTML>\r\n";
 
 // Names of pages have French letters, which the project's Polish encoding lacks: the link to such a
 // page is percent-encoded, as in the pages themselves.
-std::string percentEncoded(const std::string& name) {
+std::string percentEncoded(Utf8View name) {
   constexpr const char* kDigits = "0123456789ABCDEF";
   std::string link;
   for (const char letter : name) {
@@ -29,7 +29,7 @@ std::string percentEncoded(const std::string& name) {
   return link;
 }
 
-std::string object(const std::string& title, const std::string& page) {
+std::string object(Utf8View title, Utf8View page) {
   return "<LI><OBJECT type=\"text/sitemap\">\r\n<param name=\"Name\" value=\"" +
          windows1250Markup(title) + "\">\r\n<param name=\"Local\" value=\"strony/" +
          percentEncoded(page) + "\">\r\n</OBJECT>\r\n";

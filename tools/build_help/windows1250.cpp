@@ -50,8 +50,8 @@ std::string_view entityOfMarkup(char32_t letter) {
 }
 
 // Takes the first letter off the text.
-char32_t takeLetter(std::string_view& utf8) {
-  const engine::DecodedCodePoint letter = engine::decodeUtf8(asUtf8(utf8));
+char32_t takeLetter(Utf8View& utf8) {
+  const engine::DecodedCodePoint letter = engine::decodeUtf8(utf8);
   if (letter.length == 0) throw std::runtime_error("a text is not UTF-8");
   utf8.remove_prefix(static_cast<std::size_t>(letter.length));
   return letter.value;
@@ -59,7 +59,7 @@ char32_t takeLetter(std::string_view& utf8) {
 
 }  // namespace
 
-std::string windows1250(std::string_view utf8) {
+std::string windows1250(Utf8View utf8) {
   std::string bytes;
   while (!utf8.empty()) {
     const char32_t letter = takeLetter(utf8);
@@ -72,7 +72,7 @@ std::string windows1250(std::string_view utf8) {
   return bytes;
 }
 
-std::string windows1250Markup(std::string_view utf8) {
+std::string windows1250Markup(Utf8View utf8) {
   std::string bytes;
   while (!utf8.empty()) {
     const char32_t letter = takeLetter(utf8);

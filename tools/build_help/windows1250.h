@@ -3,16 +3,17 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+
+#include "engine/utf8.h"
 
 namespace odmiennik::tools {
 
-// "Łaciński é" (UTF-8) -> the same text in Windows-1250. Throws std::runtime_error that names the
+// "Łaciński é" -> the same text in Windows-1250. Throws std::runtime_error that names the
 // letter when the encoding has none for it ("û") and when the text is no UTF-8.
-[[nodiscard]] std::string windows1250(std::string_view utf8);
+[[nodiscard]] std::string windows1250(Utf8View utf8);
 
 // The same for text inside markup: a letter that the encoding lacks becomes a numeric entity, and
 // & < > " become entities as well. "forêt" -> "for&#234;t".
-[[nodiscard]] std::string windows1250Markup(std::string_view utf8);
+[[nodiscard]] std::string windows1250Markup(Utf8View utf8);
 
 }  // namespace odmiennik::tools

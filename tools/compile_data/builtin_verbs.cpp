@@ -21,23 +21,22 @@ class Reader {
 
  private:
   // The next line, with `name` taken off its front.
-  LineReader takeNamed(std::string_view name) {
+  LineReader takeNamed(Utf8View name) {
     if (next_ == file_.lines.size())
-      file_.fail(file_.lines.back(),
-                 "the last verb is cut short: no \"" + std::string(name) + "\"");
+      file_.fail(file_.lines.back(), "the last verb is cut short: no " + inQuotes(name));
     LineReader line(file_, file_.lines[next_++]);
-    if (!line.take(name)) line.fail("\"" + std::string(name) + "\" is expected");
+    if (!line.take(name)) line.fail(inQuotes(name) + " is expected");
     return line;
   }
 
-  [[nodiscard]] bool isNext(std::string_view name) const {
+  [[nodiscard]] bool isNext(Utf8View name) const {
     return next_ < file_.lines.size() && LineReader(file_, file_.lines[next_]).take(name);
   }
 
   BuiltinVerb readVerb() {
     BuiltinVerb verb;
     LineReader head = takeNamed("verb");
-    const std::string name(head.takeRest("an infinitive is expected"));
+    const Utf8View name = head.takeRest("an infinitive is expected");
     once_.note(head, name);
     verb.infinitive = head.french(name);
     LineReader auxiliary = takeNamed("auxiliary");
@@ -56,11 +55,11 @@ class Reader {
 
   void readTense(const SourceTense& tense, BuiltinVerb& verb) {
     LineReader line = takeNamed(tense.sourceName());
-    std::vector<std::string> forms = split(line.takeRest("forms are expected"), '|');
+    std::vector<Utf8Text> forms = split(line.takeRest("forms are expected"), '|');
     const auto count = static_cast<std::size_t>(tense.formCount);
     if (forms.size() == 1 && (forms[0] == "*" || forms[0] == "@")) forms.resize(count, forms[0]);
     if (forms.size() != count) line.fail("a form for every person is expected");
-    for (const std::string& form : forms) {
+    for (const Utf8Text& form : forms) {
       if (form.empty()) line.fail("an empty form; write \"@\" where there is none");
       verb.forms.push_back(line.french(form));
     }

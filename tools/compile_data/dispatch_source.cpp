@@ -16,10 +16,10 @@ constexpr std::array<Named<Claim>, 2> kClaims{
 constexpr int kLastOrder = 255;
 
 std::size_t positionOf(LineReader& line, const std::vector<SourceModel>& models) {
-  const std::string_view name = line.takeWord("a model is expected");
+  const Utf8View name = line.takeWord("a model is expected");
   const auto found = std::find_if(models.begin(), models.end(),
                                   [&](const SourceModel& model) { return model.name == name; });
-  if (found == models.end()) line.fail("no model is called \"" + std::string(name) + "\"");
+  if (found == models.end()) line.fail("no model is called " + inQuotes(name));
   return static_cast<std::size_t>(found - models.begin());
 }
 
@@ -46,10 +46,10 @@ void readClaim(LineReader& line, const std::vector<SourceModel>& models, SourceR
 void checkOrder(const LineReader& line, const std::vector<SourceRow>& rows, const SourceRow& row) {
   for (const SourceRow& earlier : rows)
     if (row.ending.ends_with(earlier.ending))
-      line.fail("never reached: row " + std::to_string(earlier.order) + " claims this ending");
+      line.fail("never reached: row " + decimal(earlier.order) + " claims this ending");
   const int before = rows.empty() ? 0 : rows.back().order;
   if (row.order != before + 1 && (row.order != before || rows.empty()))
-    line.fail("the number before it is " + std::to_string(before));
+    line.fail("the number before it is " + decimal(before));
 }
 
 }  // namespace

@@ -26,8 +26,8 @@ std::string literal(std::string_view bytes) {
   return text + "\"";
 }
 
-std::string viewLiteral(std::string_view bytes) {
-  return "std::string_view(" + literal(bytes) + ", " + std::to_string(bytes.size()) + ")";
+std::string viewLiteral(std::string_view french) {
+  return "std::string_view(" + literal(french) + ", " + std::to_string(french.size()) + ")";
 }
 
 int TextBlock::add(std::string_view text) {

@@ -8,14 +8,20 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::tools {
 
 // A C++ string literal of exactly these bytes; letters beyond ASCII in octal, which cannot run into
 // a digit that follows.
 [[nodiscard]] std::string literal(std::string_view bytes);
 
-// The same as a std::string_view that may hold any byte: std::string_view("…", n).
-[[nodiscard]] std::string viewLiteral(std::string_view bytes);
+// A text that stays UTF-8.
+[[nodiscard]] inline std::string literal(Utf8View text) { return literal(bytesOf(text)); }
+
+// A French text (Windows-1252) as a std::string_view that may hold any byte:
+// std::string_view("…", n).
+[[nodiscard]] std::string viewLiteral(std::string_view french);
 
 // Texts in one block of bytes with the offset of each: no pointers, so nothing to relocate when the
 // program starts.

@@ -21,7 +21,7 @@ void writePhrases(const SourceFile& file, std::ostream& out) {
     if (line.take("part")) {
       part = line.takeIdentifier();
       line.finish();
-      once.note(line, "part " + part);
+      once.note(line, asUtf8("part " + part));
       parts << "  " << part << ",\n";
       continue;
     }
@@ -29,7 +29,7 @@ void writePhrases(const SourceFile& file, std::ostream& out) {
     LineReader first = line.takePart('|');
     const std::string name = first.takeIdentifier();
     first.finish();
-    once.note(line, name);
+    once.note(line, asUtf8(name));
     names << "  " << name << ",\n";
     texts << "    {PhrasePart::" << part << ", " << literal(line.takeRest("a text is expected"))
           << "},\n";
@@ -48,7 +48,7 @@ void writeModelVerbs(const SourceFile& file, std::ostream& out) {
     LineReader line(file, source);
     out << "    {";
     for (int column = 0; column < 3; ++column) {
-      const std::string_view text = line.takePart('|').takeRest("a text is expected");
+      const Utf8View text = line.takePart('|').takeRest("a text is expected");
       if (column == 0) once.note(line, text);
       out << literal(text) << ", ";
     }

@@ -17,7 +17,7 @@ void generateHints(const Paths& sources, std::ostream& out) {
     LineReader first = line.takePart('|');
     const std::string name = first.takeIdentifier();
     first.finish();
-    once.note(line, name);
+    once.note(line, asUtf8(name));
     names << "  " << name << ",\n";
     texts << "    " << literal(line.takeRest("a text is expected")) << ",\n";
   }

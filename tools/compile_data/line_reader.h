@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/utf8.h"
 #include "tools/compile_data/source_file.h"
 
 namespace odmiennik::tools {
@@ -15,7 +16,7 @@ namespace odmiennik::tools {
 // A word of a source and what it stands for.
 template <typename Value>
 struct Named {
-  std::string_view word;
+  Utf8View word;
   Value value;
 };
 
@@ -24,20 +25,20 @@ class LineReader {
   LineReader(const SourceFile& file, const SourceLine& line)
       : file_(&file), line_(&line), rest_(line.text) {}
 
-  [[noreturn]] void fail(std::string_view reason) const { file_->fail(*line_, reason); }
+  [[noreturn]] void fail(Utf8View reason) const { file_->fail(*line_, reason); }
 
   // A reader of a part of the line, told with the line's place.
-  [[nodiscard]] LineReader at(std::string_view part) const {
+  [[nodiscard]] LineReader at(Utf8View part) const {
     LineReader reader = *this;
     reader.rest_ = part;
     return reader;
   }
 
   // Takes these words if they stand next, each whole: "cut" is not taken off "cutter".
-  bool take(std::string_view words);
+  bool take(Utf8View words);
 
   // The next word; `expected` is the fault told where there is none.
-  std::string_view takeWord(std::string_view expected);
+  Utf8View takeWord(Utf8View expected);
 
   // The next word as a name for the code: letters and digits, a letter first.
   std::string takeIdentifier();
@@ -50,46 +51,46 @@ class LineReader {
   LineReader takePart(char separator);
 
   // `"me "` -> "me ": the text between quotes, blanks kept.
-  std::string_view takeQuoted();
+  Utf8View takeQuoted();
 
   // All that is left, at least one letter of it.
-  std::string_view takeRest(std::string_view expected);
+  Utf8View takeRest(Utf8View expected);
 
   // The next word, one of a table's.
   template <typename Value, std::size_t Count>
   Value takeNamed(const std::array<Named<Value>, Count>& known) {
-    const std::string_view word = takeWord("a word is expected");
+    const Utf8View word = takeWord("a word is expected");
     for (const Named<Value>& row : known)
       if (row.word == word) return row.value;
-    fail("\"" + std::string(word) + "\" is not known here");
+    fail(inQuotes(word) + " is not known here");
   }
 
-  [[nodiscard]] std::string_view rest() const { return rest_; }
+  [[nodiscard]] Utf8View rest() const { return rest_; }
   [[nodiscard]] bool isAtEnd() const { return rest_.empty(); }
 
   // Fails if anything is left over.
   void finish() const;
 
   // The text in Windows-1252; a letter outside it is a fault.
-  [[nodiscard]] std::string french(std::string_view utf8) const {
+  [[nodiscard]] std::string french(Utf8View utf8) const {
     return tools::french(*file_, *line_, utf8);
   }
 
  private:
   const SourceFile* file_;
   const SourceLine* line_;
-  std::string_view rest_;
+  Utf8View rest_;
 };
 
 // What may stand only once in a block or in a file.
 class Once {
  public:
   // Fails at the reader's line when `what` has been noted before.
-  void note(const LineReader& reader, std::string_view what);
-  [[nodiscard]] bool has(std::string_view what) const { return noted_.contains(what); }
+  void note(const LineReader& reader, Utf8View what);
+  [[nodiscard]] bool has(Utf8View what) const { return noted_.contains(what); }
 
  private:
-  std::set<std::string, std::less<>> noted_;
+  std::set<Utf8Text, std::less<>> noted_;
 };
 
 }  // namespace odmiennik::tools

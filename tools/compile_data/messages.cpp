@@ -31,7 +31,8 @@ struct SourceMessage {
   LineReader head;  // the block's first line, for faults of the whole block
   std::string name;
   std::string_view icon, byDefault;
-  std::string buttons, title, text;
+  std::string buttons;
+  Utf8Text title, text;
   Once once;
 };
 
@@ -41,7 +42,7 @@ void readButtons(LineReader& line, SourceMessage& message) {
   do {
     const bool isMarked = line.rest().substr(0, line.rest().find(' ')).ends_with('*');
     const std::string_view button = line.takeNamed(kButtons);
-    once.note(line, button);
+    once.note(line, asUtf8(button));
     if (isMarked) once.note(line, "*");
     if (isMarked || message.byDefault.empty()) message.byDefault = button;
     message.buttons.append(message.buttons.empty() ? "" : " | ").append(button);
@@ -49,7 +50,7 @@ void readButtons(LineReader& line, SourceMessage& message) {
 }
 
 void readLine(LineReader& line, SourceMessage& message) {
-  const std::string key(LineReader(line).takeWord("icon, buttons, title or text is expected"));
+  const Utf8View key = LineReader(line).takeWord("icon, buttons, title or text is expected");
   message.once.note(line, key);
   if (line.take("icon"))
     message.icon = line.takeNamed(kIcons), line.finish();
@@ -65,7 +66,7 @@ void readLine(LineReader& line, SourceMessage& message) {
 
 void checkComplete(const SourceMessage& message) {
   for (const char* key : {"icon", "buttons", "text"})
-    if (!message.once.has(key)) message.head.fail(std::string("\"") + key + "\" is missing");
+    if (!message.once.has(key)) message.head.fail(inQuotes(key) + " is missing");
 }
 
 std::vector<SourceMessage> readMessages(const SourceFile& file) {
@@ -82,7 +83,7 @@ std::vector<SourceMessage> readMessages(const SourceFile& file) {
     if (!messages.empty()) checkComplete(messages.back());
     const std::string name = line.takeIdentifier();
     line.finish();
-    names.note(line, name);
+    names.note(line, asUtf8(name));
     messages.push_back({.head = head, .name = name});
   }
   checkComplete(messages.back());

@@ -43,7 +43,7 @@ bool hasConditions(const SourceModel& model) {
 void readVerbs(LineReader& line, ModelBlock& block) {
   while (!line.isAtEnd()) {
     LineReader verb = line.takePart(',');
-    const std::string_view text = verb.takeRest("a verb is expected");
+    const Utf8View text = verb.takeRest("a verb is expected");
     block.once.note(line, text);
     block.model.verbs.push_back(line.french(text));
   }
@@ -57,9 +57,9 @@ void readCut(LineReader& line, ModelBlock& block) {
 }
 
 // The words of a line up to its forms, as what may stand only once in a model.
-std::string keyOf(const LineReader& whole, const LineReader& behindTense) {
+Utf8Text keyOf(const LineReader& whole, const LineReader& behindTense) {
   const std::size_t taken = whole.rest().size() - behindTense.rest().size();
-  return std::string(trim(whole.rest().substr(0, taken)));
+  return Utf8Text(trim(whole.rest().substr(0, taken)));
 }
 
 // "none TENSE": the verb has no such forms.
@@ -90,7 +90,7 @@ void readStep(LineReader& line, const RuleTenses& tenses, ModelBlock& block) {
 
 bool isBuilderLine(const LineReader& line, const RuleTense& tense) {
   return (tense.builder == Action::future || tense.builder == Action::pastHistoric) &&
-         line.rest().find('|') == std::string_view::npos;
+         line.rest().find('|') == Utf8View::npos;
 }
 
 // A line of a table: forms, or what the tense is built from, or "none", or "then" and forms.
@@ -181,9 +181,9 @@ class ModelReader {
   void beginBlock(LineReader line) {
     finishBlock();
     const LineReader head = line;
-    const std::string name(line.takeRest("a name is expected"));
+    const Utf8Text name(line.takeRest("a name is expected"));
     for (const SourceModel& model : models_)
-      if (model.name == name) line.fail("\"" + name + "\" stands twice");
+      if (model.name == name) line.fail(inQuotes(name) + " stands twice");
     blocks_.push_back({{.name = name}, head, {}});
   }
 

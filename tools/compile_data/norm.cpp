@@ -22,7 +22,7 @@ void writeTexts(std::ostream& out, const std::string& path) {
     int identifier = line.takeNumber(0, kLastIdentifier);
     do {
       if (!texts.emplace(identifier, line.french(line.takeQuoted())).second)
-        line.fail("identifier " + std::to_string(identifier) + " stands twice");
+        line.fail("identifier " + decimal(identifier) + " stands twice");
       ++identifier;
     } while (!line.isAtEnd());
   }
@@ -94,9 +94,9 @@ constexpr std::array<Named<Claimed>, 2> kClaimed{
     {{"ending", Claimed::ending}, {"verb", Claimed::verb}}};
 
 std::size_t positionOf(LineReader& line, const std::vector<SourceModel>& models) {
-  const std::string_view name = line.takeRest("a model is expected");
+  const Utf8View name = line.takeRest("a model is expected");
   const auto found = std::ranges::find(models, name, &SourceModel::name);
-  if (found == models.end()) line.fail("no model is called \"" + std::string(name) + "\"");
+  if (found == models.end()) line.fail("no model is called " + inQuotes(name));
   return static_cast<std::size_t>(found - models.begin());
 }
 
@@ -120,10 +120,10 @@ void generateNormModels(const Paths& sources, std::ostream& out) {
   for (const SourceLine& source : file.lines) {
     LineReader line(file, source);
     const bool isVerb = line.takeNamed(kClaimed) == Claimed::verb;
-    const std::string ending = line.french(line.takeWord("a verb or its end is expected"));
+    const Utf8View ending = line.takeWord("a verb or its end is expected");
     once.note(line, ending);
-    out << "    {" << viewLiteral(ending) << ", " << (isVerb ? "true" : "false") << ", "
-        << positionOf(line, models) << "},\n";
+    out << "    {" << viewLiteral(line.french(ending)) << ", " << (isVerb ? "true" : "false")
+        << ", " << positionOf(line, models) << "},\n";
   }
   out << "};\n}\n";
 }

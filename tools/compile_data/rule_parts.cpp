@@ -20,12 +20,12 @@ constexpr std::array<Named<Endings>, 3> kEndings{
 constexpr int kLongestCut = 20;
 
 // The text of a form: the group's mark set, a missing variant spelled as it is shown.
-std::string formText(const LineReader& line, std::string text) {
-  constexpr std::string_view kGroup = "{g}";
+std::string formText(const LineReader& line, Utf8Text text) {
+  constexpr Utf8View kGroup = "{g}";
   if (text.empty()) line.fail("an empty form; \"-\" leaves a person as it is");
-  if (const auto at = text.find(kGroup); at != std::string::npos)
+  if (const auto at = text.find(kGroup); at != Utf8Text::npos)
     text.replace(at, kGroup.size(), 1, groups::kGroupMark);
-  if (text.find_first_of("{}") != std::string::npos) line.fail("\"{g}\" is the only mark, once");
+  if (text.find_first_of("{}") != Utf8Text::npos) line.fail("\"{g}\" is the only mark, once");
   if (text.starts_with("--/")) text.replace(0, 2, " -- ");
   return line.french(text);
 }
@@ -64,13 +64,13 @@ const RuleTense& takeTense(LineReader& line, const RuleTenses& tenses) {
 
 void takeForms(LineReader& line, const RuleTense& tense, Action action, Condition condition,
                SourceModel& model) {
-  const std::vector<std::string> texts = split(line.takeRest("forms are expected"), '|');
+  const std::vector<Utf8Text> texts = split(line.takeRest("forms are expected"), '|');
   if (texts.size() != static_cast<std::size_t>(tense.formCount))
     line.fail("a form for every person is expected");
   const std::size_t before = model.steps.size();
   if (tense.builder == Action::pastParticiple) action = Action::pastParticiple;
   for (int person = 0; person < tense.formCount; ++person) {
-    const std::string& text = texts[static_cast<std::size_t>(person)];
+    const Utf8Text& text = texts[static_cast<std::size_t>(person)];
     if (text == "-") continue;
     model.steps.push_back({.action = action,
                            .condition = condition,

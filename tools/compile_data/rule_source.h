@@ -23,7 +23,7 @@ struct SourceStep {
 };
 
 struct SourceModel {
-  std::string name;  // UTF-8
+  Utf8Text name;
   int cut = 0;
   bool takesGroup = false;
   std::vector<SourceStep> steps;

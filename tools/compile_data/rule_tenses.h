@@ -13,7 +13,7 @@ namespace odmiennik::tools {
 // A tense that a line of a model may name: where its forms go, which builder makes it, and what
 // that builder can be told.
 struct RuleTense {
-  std::string name;
+  Utf8Text name;
   int firstSlot = 0;
   int formCount = 0;
   groups::Action builder{};

@@ -9,26 +9,32 @@
 
 namespace odmiennik::tools {
 
-SourceError::SourceError(std::string_view file, int line, std::string_view reason)
+SourceError::SourceError(std::string_view file, int line, Utf8View reason)
     : std::runtime_error(std::string(file) + ":" + std::to_string(line) + ": " +
-                         std::string(reason)) {}
+                         std::string(bytesOf(reason))) {}
 
-void SourceFile::fail(const SourceLine& line, std::string_view reason) const {
+std::runtime_error fault(Utf8View reason) {
+  return std::runtime_error(std::string(bytesOf(reason)));
+}
+
+void SourceFile::fail(const SourceLine& line, Utf8View reason) const {
   throw SourceError(name, line.number, reason);
 }
 
-std::string_view trim(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
+Utf8View trim(Utf8View text) {
+  constexpr Utf8View kBlanks = " \t\r";
   const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
+  if (first == Utf8View::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
+Utf8Text inQuotes(Utf8View text) { return Utf8Text("\"").append(text).append("\""); }
+
 namespace {
 
-bool isUtf8(std::string_view text) {
+bool isUtf8(Utf8View text) {
   while (!text.empty()) {
-    const int length = engine::decodeUtf8(asUtf8(text)).length;
+    const int length = engine::decodeUtf8(text).length;
     if (length == 0) return false;
     text.remove_prefix(static_cast<std::size_t>(length));
   }
@@ -43,17 +49,17 @@ SourceFile readSource(const std::string& path) {
   SourceFile file{path, {}};
   std::string text;
   for (int number = 1; std::getline(in, text); ++number) {
-    const std::string_view line = trim(text);
+    const Utf8View line = trim(asUtf8(text));
     if (!isUtf8(line)) throw SourceError(path, number, "bytes that are no UTF-8");
-    if (!line.empty() && line.front() != '#') file.lines.push_back({std::string(line), number});
+    if (!line.empty() && line.front() != '#') file.lines.push_back({Utf8Text(line), number});
   }
   if (file.lines.empty()) throw SourceError(path, 1, "nothing stands in it");
   return file;
 }
 
-std::vector<std::string> split(std::string_view text, char separator) {
-  std::vector<std::string> parts;
-  for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+std::vector<Utf8Text> split(Utf8View text, char separator) {
+  std::vector<Utf8Text> parts;
+  for (auto end = text.find(separator); end != Utf8View::npos; end = text.find(separator)) {
     parts.emplace_back(trim(text.substr(0, end)));
     text.remove_prefix(end + 1);
   }
@@ -61,10 +67,10 @@ std::vector<std::string> split(std::string_view text, char separator) {
   return parts;
 }
 
-std::string french(const SourceFile& file, const SourceLine& line, std::string_view utf8) {
-  const engine::FromUtf8 converted = engine::fromUtf8(asUtf8(utf8));
+std::string french(const SourceFile& file, const SourceLine& line, Utf8View utf8) {
+  const engine::FromUtf8 converted = engine::fromUtf8(utf8);
   if (converted.fault != engine::Utf8Fault::none)
-    file.fail(line, "a letter outside Windows-1252 in \"" + std::string(utf8) + "\"");
+    file.fail(line, "a letter outside Windows-1252 in " + inQuotes(utf8));
   return converted.text;
 }
 

@@ -7,36 +7,43 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/utf8.h"
+
 namespace odmiennik::tools {
 
 // A fault in a source; what() is "file:line: reason", the form that editors jump to.
 class SourceError : public std::runtime_error {
  public:
-  SourceError(std::string_view file, int line, std::string_view reason);
+  SourceError(std::string_view file, int line, Utf8View reason);
 };
 
+// A fault of a source that has no line.
+[[nodiscard]] std::runtime_error fault(Utf8View reason);
+
 struct SourceLine {
-  std::string text;  // UTF-8, without line end and without surrounding blanks
-  int number = 0;    // from 1
+  Utf8Text text;   // without line end and without surrounding blanks
+  int number = 0;  // from 1
 };
 
 struct SourceFile {
   std::string name;
   std::vector<SourceLine> lines;  // neither comments ("#" first) nor empty lines
 
-  [[noreturn]] void fail(const SourceLine& line, std::string_view reason) const;
+  [[noreturn]] void fail(const SourceLine& line, Utf8View reason) const;
 };
 
 // Reads a whole source; throws when it can't be read, is no UTF-8, or holds nothing.
 [[nodiscard]] SourceFile readSource(const std::string& path);
 
 // "a | b" -> {"a", "b"}, each without surrounding blanks.
-[[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
+[[nodiscard]] std::vector<Utf8Text> split(Utf8View text, char separator);
 
-[[nodiscard]] std::string_view trim(std::string_view text);
+[[nodiscard]] Utf8View trim(Utf8View text);
+
+// A piece of a source as a fault names it: inQuotes("cut x") -> "\"cut x\"".
+[[nodiscard]] Utf8Text inQuotes(Utf8View text);
 
 // The text in Windows-1252; a letter outside it is a fault of the line.
-[[nodiscard]] std::string french(const SourceFile& file, const SourceLine& line,
-                                 std::string_view utf8);
+[[nodiscard]] std::string french(const SourceFile& file, const SourceLine& line, Utf8View utf8);
 
 }  // namespace odmiennik::tools

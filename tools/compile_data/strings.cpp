@@ -17,7 +17,7 @@ namespace text_id = engine::text_id;
 
 void addText(Texts& texts, int identifier, std::string_view text, const LineReader& line) {
   if (!texts.emplace(identifier, text).second)
-    line.fail("identifier " + std::to_string(identifier) + " stands twice");
+    line.fail("identifier " + decimal(identifier) + " stands twice");
 }
 
 // `1 "me " "te "`: texts of consecutive identifiers.
@@ -37,7 +37,7 @@ void addTips(Texts& texts, const std::string& path) {
   int identifier = text_id::kTipCount;
   texts[identifier] = std::to_string(file.lines.size());
   for (const SourceLine& line : file.lines)
-    addText(texts, ++identifier, line.text, LineReader(file, line));
+    addText(texts, ++identifier, bytesOf(line.text), LineReader(file, line));
 }
 
 void addBuiltinVerbs(Texts& texts, const std::vector<BuiltinVerb>& verbs) {

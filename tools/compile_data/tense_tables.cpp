@@ -25,8 +25,8 @@ void writeConstants(std::ostream& out, std::string_view name, const TenseTable& 
 std::vector<const SourceTense*> numberedHeadings(const TenseTable& tenses) {
   std::map<int, const SourceTense*> headings;
   for (const SourceTense& tense : tenses.rows())
-    if (const auto bar = tense.heading.rfind('_'); bar != std::string::npos)
-      headings[std::stoi(tense.heading.substr(bar + 1))] = &tense;
+    if (const auto bar = tense.heading.rfind('_'); bar != Utf8Text::npos)
+      headings[std::stoi(std::string(bytesOf(tense.heading).substr(bar + 1)))] = &tense;
   std::vector<const SourceTense*> inOrder;
   for (const auto& [number, tense] : headings) inOrder.push_back(tense);
   return inOrder;
@@ -58,8 +58,8 @@ void generateTenseHelp(const Paths& sources, std::ostream& out) {
       << "struct TenseHeading {\n  Utf8View page;\n  int firstSlot;\n};\n"
       << "inline constexpr std::array<TenseHeading, " << headings.size() << "> kTenseTopics{{\n";
   for (const SourceTense* tense : headings)
-    out << "    {" << literal(tense->isHeadingLink ? tense->page : "") << ", " << tense->firstSlot
-        << "},\n";
+    out << "    {" << literal(tense->isHeadingLink ? tense->page : Utf8Text()) << ", "
+        << tense->firstSlot << "},\n";
   out << "}};\n// By tense: the page that F1 opens in its boxes.\ninline constexpr "
          "Utf8View kTensePages[] = {\n";
   for (const SourceTense& tense : tenses.rows()) out << "    " << literal(tense.page) << ",\n";

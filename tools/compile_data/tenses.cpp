@@ -7,7 +7,7 @@
 namespace odmiennik::tools {
 namespace {
 
-constexpr std::string_view kMoodWithoutName = "Indicatif";
+constexpr Utf8View kMoodWithoutName = "Indicatif";
 
 SourceMood readMood(LineReader& line) {
   SourceMood mood;
@@ -41,9 +41,9 @@ SourceTense readTense(LineReader& line, const SourceMood& mood) {
 
 }  // namespace
 
-std::string SourceTense::sourceName() const {
+Utf8Text SourceTense::sourceName() const {
   if (mood.name == kMoodWithoutName) return name;
-  std::string whole = mood.name + " " + name;
+  Utf8Text whole = mood.name + " " + name;
   whole[0] = static_cast<char>(whole[0] - 'A' + 'a');
   return whole;
 }
@@ -61,8 +61,8 @@ TenseTable::TenseTable(const std::string& path) : file_(readSource(path)) {
     if (mood.name.empty()) line.fail("a mood is expected first");
     SourceTense tense = readTense(line, mood);
     tense.firstSlot = slotCount();
-    for (const std::string& only : {tense.constant, tense.sourceName(), tense.heading})
-      once.note(whole, only);
+    once.note(whole, asUtf8(tense.constant));
+    for (const Utf8Text& only : {tense.sourceName(), tense.heading}) once.note(whole, only);
     rows_.push_back(std::move(tense));
   }
 }
@@ -74,7 +74,7 @@ int TenseTable::slotCount() const {
 const SourceTense& TenseTable::of(std::string_view constant) const {
   for (const SourceTense& tense : rows_)
     if (tense.constant == constant) return tense;
-  file_.fail(file_.lines.back(), "no tense is called \"" + std::string(constant) + "\"");
+  file_.fail(file_.lines.back(), "no tense is called " + inQuotes(asUtf8(constant)));
 }
 
 }  // namespace odmiennik::tools

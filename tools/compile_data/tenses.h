@@ -11,9 +11,9 @@
 namespace odmiennik::tools {
 
 struct SourceMood {
-  std::string name;
-  std::string caption;
-  std::string control;  // its heading in the main window
+  Utf8Text name;
+  Utf8Text caption;
+  Utf8Text control;  // its heading in the main window
 };
 
 struct SourceTense {
@@ -21,14 +21,14 @@ struct SourceTense {
   SourceMood mood;
   int firstSlot = 0;
   int formCount = 0;
-  std::string name;
-  std::string caption;
-  std::string heading;  // a control of the main window
-  std::string page;     // empty where there is none
+  Utf8Text name;
+  Utf8Text caption;
+  Utf8Text heading;  // a control of the main window
+  Utf8Text page;     // empty where there is none
   bool isHeadingLink = false;
 
   // What the other sources call it: "subjonctif passé", in the indicative "présent".
-  [[nodiscard]] std::string sourceName() const;
+  [[nodiscard]] Utf8Text sourceName() const;
 };
 
 class TenseTable {

@@ -13,12 +13,13 @@ namespace odmiennik::tools {
 namespace {
 
 struct Index {
-  std::vector<std::string> verbs, records;
+  std::vector<std::string> verbs;
+  std::vector<Utf8Text> records;  // letters and digits alone
   std::vector<std::uint32_t> recordOfVerb;
   std::array<std::uint32_t, 27> firstOfLetter{};
 };
 
-std::uint32_t recordNumber(Index& index, const std::string& record) {
+std::uint32_t recordNumber(Index& index, const Utf8Text& record) {
   const auto found = std::find(index.records.begin(), index.records.end(), record);
   if (found == index.records.end()) index.records.push_back(record);
   return static_cast<std::uint32_t>(std::find(index.records.begin(), index.records.end(), record) -
@@ -26,23 +27,23 @@ std::uint32_t recordNumber(Index& index, const std::string& record) {
 }
 
 // A field that is one digit from 1 on.
-void checkDigit(const LineReader& line, const std::string& field, char last, const char* name) {
+void checkDigit(const LineReader& line, const Utf8Text& field, char last, Utf8View name) {
   if (field.size() != 1 || field[0] < '1' || field[0] > last)
-    line.fail("\"" + field + "\" is no " + name);
+    line.fail(inQuotes(field) + " is no " + Utf8Text(name));
 }
 
 // "h|1|1|2|1|0": perhaps "h"; group, transitive, intransitive, auxiliary; perhaps flags.
-void checkRecord(const LineReader& line, const std::string& record) {
-  const std::vector<std::string> fields = split(record, '|');
+void checkRecord(const LineReader& line, const Utf8Text& record) {
+  const std::vector<Utf8Text> fields = split(record, '|');
   if (fields.size() != 5 && fields.size() != 6) line.fail("a record has four fields or five");
   if (!fields[0].empty() && fields[0] != "h") line.fail("only \"h\" stands before the record");
   checkDigit(line, fields[1], '4', "group");
   checkDigit(line, fields[2], '4', "use");
   checkDigit(line, fields[3], '4', "use");
   checkDigit(line, fields[4], '3', "auxiliary");
-  const std::string flags = fields.size() == 6 ? fields[5] : "none";
+  const Utf8Text flags = fields.size() == 6 ? fields[5] : "none";
   if (flags != "none" && flags != "0" && flags != "1" && flags != "2")
-    line.fail("\"" + flags + "\" is no flag");
+    line.fail(inQuotes(flags) + " is no flag");
   // The engine looks for the "h" only where flags follow.
   if (fields[0] == "h" && flags != "0") line.fail("behind \"h\" the flags are 0");
 }
@@ -53,7 +54,7 @@ Index readIndex(const SourceFile& file) {
   char letter = 'a';
   for (const SourceLine& source : file.lines) {
     LineReader line(file, source);
-    const std::vector<std::string> fields = split(source.text, '\t');
+    const std::vector<Utf8Text> fields = split(source.text, '\t');
     if (fields.size() != 2) line.fail("a verb, a tab and a record are expected");
     once.note(line, fields[0]);
     checkRecord(line, fields[1]);
@@ -72,10 +73,11 @@ Index readIndex(const SourceFile& file) {
   return index;
 }
 
-void writeTexts(std::ostream& out, const std::vector<std::string>& texts, const char* offsets,
+template <typename Text>
+void writeTexts(std::ostream& out, const std::vector<Text>& texts, const char* offsets,
                 const char* bytes) {
   TextBlock block;
-  for (const std::string& text : texts) block.add(text);
+  for (const Text& text : texts) block.add({text.data(), text.size()});
   block.write(out, offsets, bytes);
 }
 

@@ -15,7 +15,7 @@ namespace {
 enum Column { kind, name, caption, left, top, width, height, font, state, tag, tab };
 constexpr std::size_t kColumnCount = 11;
 
-using Cells = std::vector<std::string>;
+using Cells = std::vector<Utf8Text>;
 
 using Word = Named<std::string_view>;
 constexpr std::array<Word, 9> kKinds{{{"window", "window"},
@@ -32,10 +32,10 @@ constexpr std::array<Word, 4> kStates{
 
 constexpr int kLargest = 100000;  // twips: more than any screen
 constexpr int kTwipsFromBoxToBox = 315;
-constexpr std::string_view kBoxArray = "txtCzasownik";
-constexpr std::string_view kTenseArray = "lblCzas";
+constexpr Utf8View kBoxArray = "txtCzasownik";
+constexpr Utf8View kTenseArray = "lblCzas";
 
-int number(const LineReader& line, std::string_view text, int least, int most) {
+int number(const LineReader& line, Utf8View text, int least, int most) {
   LineReader cell = line.at(text);
   const int value = cell.takeNumber(least, most);
   cell.finish();
@@ -43,30 +43,30 @@ int number(const LineReader& line, std::string_view text, int least, int most) {
 }
 
 // "8.25 bold" -> "825, true": hundredths of a point, so that the table holds whole numbers only.
-std::string fontCells(const LineReader& line, std::string_view text) {
+std::string fontCells(const LineReader& line, Utf8View text) {
   if (text.empty()) return "0, false";
   LineReader cell = line.at(text);
-  const std::string size(cell.takeWord("a number is expected"));
+  const Utf8Text size(cell.takeWord("a number is expected"));
   const bool isBold = cell.take("bold");
   cell.finish();
   const auto point = size.find('.');
-  std::string decimals = point == std::string::npos ? "" : size.substr(point + 1);
-  if (decimals.size() > 2) line.fail("\"" + size + "\" has more than two decimals");
+  Utf8Text decimals = point == Utf8Text::npos ? "" : size.substr(point + 1);
+  if (decimals.size() > 2) line.fail(inQuotes(size) + " has more than two decimals");
   decimals.resize(2, '0');
   const int hundredths = number(line, size.substr(0, point) + decimals, 1, kLargest);
   return std::to_string(hundredths) + (isBold ? ", true" : ", false");
 }
 
 // "txtCzasownik_96" -> "\"txtCzasownik\", 96"; a name without a number is no element of an array.
-std::string nameCells(const LineReader& line, const std::string& text) {
+std::string nameCells(const LineReader& line, Utf8View text) {
   const auto bar = text.rfind('_');
-  if (bar == std::string::npos) return literal(text) + ", -1";
-  const int index = number(line, std::string_view(text).substr(bar + 1), 0, kLargest);
+  if (bar == Utf8View::npos) return literal(text) + ", -1";
+  const int index = number(line, text.substr(bar + 1), 0, kLargest);
   return literal(text.substr(0, bar)) + ", " + std::to_string(index);
 }
 
 // A row of the table; boxes have an accessible name beside what the source says.
-std::string rowOf(const LineReader& line, const Cells& cells, const std::string& spokenName = {}) {
+std::string rowOf(const LineReader& line, const Cells& cells, Utf8View spokenName = {}) {
   std::ostringstream row;
   row << "    {ControlKind::" << line.at(cells[kind]).takeNamed(kKinds) << ", "
       << nameCells(line, cells[name]) << ", " << literal(cells[caption]);
@@ -80,10 +80,10 @@ std::string rowOf(const LineReader& line, const Cells& cells, const std::string&
   return row.str();
 }
 
-std::string arrayOf(const std::string& control) { return control.substr(0, control.rfind('_')); }
+Utf8Text arrayOf(const Utf8Text& control) { return control.substr(0, control.rfind('_')); }
 
-std::string rowOfHeading(const LineReader& line, Cells cells, const std::string& control,
-                         const std::string& text, const std::string& moving) {
+std::string rowOfHeading(const LineReader& line, Cells cells, const Utf8Text& control,
+                         const Utf8Text& text, const Utf8Text& moving) {
   cells[kind] = "label";
   cells[name] = control;
   cells[caption] = text;
@@ -95,22 +95,22 @@ std::string rowOfMood(const LineReader& line, const Cells& cells, const TenseTab
   for (const SourceTense& tense : tenses.rows())
     if (const SourceMood& mood = tense.mood; mood.name == cells[name])
       return rowOfHeading(line, cells, mood.control, mood.caption, arrayOf(mood.control));
-  line.fail("no mood is called \"" + cells[name] + "\"");
+  line.fail("no mood is called " + inQuotes(cells[name]));
 }
 
 // A heading that opens a page has it as its tag.
 std::string rowOfTense(const LineReader& line, const Cells& cells, const SourceTense& tense) {
   return rowOfHeading(line, cells, tense.heading, tense.caption,
-                      tense.isHeadingLink ? tense.page : std::string(kTenseArray));
+                      tense.isHeadingLink ? tense.page : Utf8Text(kTenseArray));
 }
 
 // "Subjonctif plus-que-parfait, nous"
-std::string spokenNameOf(const SourceTense& tense, int form) {
-  constexpr std::string_view kSix[] = {"je", "tu", "il", "nous", "vous", "ils"};
-  constexpr std::string_view kThree[] = {"tu", "nous", "vous"};
-  const std::string whole = tense.mood.name + " " + tense.name;
+Utf8Text spokenNameOf(const SourceTense& tense, int form) {
+  constexpr Utf8View kSix[] = {"je", "tu", "il", "nous", "vous", "ils"};
+  constexpr Utf8View kThree[] = {"tu", "nous", "vous"};
+  const Utf8Text whole = tense.mood.name + " " + tense.name;
   if (tense.formCount == 1) return whole;
-  return whole + ", " + std::string(tense.formCount == 6 ? kSix[form] : kThree[form]);
+  return whole + ", " + Utf8Text(tense.formCount == 6 ? kSix[form] : kThree[form]);
 }
 
 std::string rowsOfForms(const LineReader& line, Cells cells, const SourceTense& tense) {
@@ -120,19 +120,19 @@ std::string rowsOfForms(const LineReader& line, Cells cells, const SourceTense& 
   cells[tag] = kBoxArray;
   std::string rows;
   for (int form = 0; form < tense.formCount; ++form) {
-    cells[name] = std::string(kBoxArray) + "_" + std::to_string(tense.firstSlot + form);
-    cells[top] = std::to_string(firstTop + form * kTwipsFromBoxToBox);
-    cells[tab] = std::to_string(firstTab + form);
+    cells[name] = Utf8Text(kBoxArray) + "_" + decimal(tense.firstSlot + form);
+    cells[top] = decimal(firstTop + form * kTwipsFromBoxToBox);
+    cells[tab] = decimal(firstTab + form);
     rows += rowOf(line, cells, spokenNameOf(tense, form));
   }
   return rows;
 }
 
-const SourceTense& tenseNamed(const LineReader& line, const std::string& name,
+const SourceTense& tenseNamed(const LineReader& line, const Utf8Text& name,
                               const TenseTable& tenses) {
   for (const SourceTense& tense : tenses.rows())
     if (tense.sourceName() == name) return tense;
-  line.fail("no tense has the name \"" + name + "\"");
+  line.fail("no tense has the name " + inQuotes(name));
 }
 
 std::string rowsOf(const LineReader& line, const Cells& cells, const TenseTable& tenses) {

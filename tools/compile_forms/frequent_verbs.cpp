@@ -18,11 +18,11 @@ std::vector<std::uint32_t> ranksOfVerbs(const std::string& path) {
   const SourceFile file = readSource(path);
   std::uint32_t rank = 0;
   for (const SourceLine& line : file.lines)
-    for (const std::string& name : split(line.text, ' ')) {
+    for (const Utf8Text& name : split(line.text, ' ')) {
       const auto verb = positions.find(french(file, line, name));
-      if (verb == positions.end()) file.fail(line, "\"" + name + "\" is no verb of the index");
+      if (verb == positions.end()) file.fail(line, inQuotes(name) + " is no verb of the index");
       std::uint32_t& rankOfVerb = ranks[verb->second];
-      if (rankOfVerb != finder::kUnranked) file.fail(line, "\"" + name + "\" stands twice");
+      if (rankOfVerb != finder::kUnranked) file.fail(line, inQuotes(name) + " stands twice");
       rankOfVerb = rank++;
     }
   return ranks;

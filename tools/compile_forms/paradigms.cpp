@@ -38,7 +38,8 @@ class Conjugator {
   const engine::Conjugation& conjugate(std::string_view infinitive, Variety variety) {
     conjugation_.variety = variety;
     if (driver_.conjugate(conjugation_, infinitive) != engine::Outcome::conjugated)
-      throw std::runtime_error(std::string(bytesOf(engine::toUtf8(infinitive))) + ": cannot be conjugated");
+      throw std::runtime_error(std::string(bytesOf(engine::toUtf8(infinitive))) +
+                               ": cannot be conjugated");
     return conjugation_;
   }
 

@@ -19,11 +19,12 @@ namespace {
 const std::filesystem::path kSources = std::filesystem::path(ODMIENNIK_SOURCE_DIR) / "help";
 
 std::string pageSource(const std::string& name) {
-  static const std::string departures =
+  static const Utf8Text departures =
       tools::departuresMarkup(tools::readDepartureGroups((kSources / "odstepstwa.txt").string()),
                               tools::readDepartures(ODMIENNIK_DEPARTURES));
-  return tools::withDepartures(
-      tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end())), departures);
+  const Utf8Text typed(
+      asUtf8(tools::readFile(kSources / "strony" / std::u8string(name.begin(), name.end()))));
+  return std::string(bytesOf(tools::withDepartures(typed, departures)));
 }
 
 // The number at a place of a binary table, least significant byte first.
