@@ -11,6 +11,7 @@
 #include <QTextBlock>
 #include <QTextDocumentFragment>
 #include <QWheelEvent>
+#include <QtMath>
 
 #include "app/common/announcement.h"
 #include "app/common/colours.h"
@@ -60,11 +61,36 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
 // file of that name.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   const QUrl address = name.isRelative() ? page_.resolved(name) : name;
-  if (type == QTextDocument::ImageResource) return pagePicture(book_.part(address), zoom_);
+  if (type == QTextDocument::ImageResource) return picture(address);
   if (type == QTextDocument::StyleSheetResource)
     return inFontOf(*this, sheetAt(sheet(address), zoom_));
   page_ = address;
+  widestPicture_ = 0;
   return book_.page(address);
+}
+
+// No wider than the view, so that nobody has to scroll a picture from side to side.
+QImage HelpBrowser::picture(const QUrl& address) {
+  roomOfPictures_ = room();
+  const QImage picture = pagePicture(book_.part(address), zoom_, roomOfPictures_);
+  widestPicture_ = std::max(widestPicture_, picture.width());
+  return picture;
+}
+
+// Every paragraph has the margins of the page's body.
+int HelpBrowser::room() const {
+  const QTextBlockFormat body = document()->begin().blockFormat();
+  const qreal margins = 2 * document()->documentMargin() + body.leftMargin() + body.rightMargin();
+  return viewport()->width() - qCeil(margins);
+}
+
+// The page is read anew where a picture has no longer room, or was fitted into less. Pictures
+// further down may be read for the first time while the page is laid out.
+void HelpBrowser::resizeEvent(QResizeEvent* event) {
+  const int widest = widestPicture_, before = roomOfPictures_;
+  QTextBrowser::resizeEvent(event);
+  const bool wasFitted = widest > 0 && widest == before;
+  if (widest > room() || (wasFitted && room() > before)) readAnew();
 }
 
 // Laid out once, when its headings have their sizes: each change would lay out the page anew.

@@ -44,16 +44,22 @@ class HelpBrowser final : public QTextBrowser {
   bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
  private:
   [[nodiscard]] QString sheet(const QUrl& address) const;
+  [[nodiscard]] QImage picture(const QUrl& address);
+  [[nodiscard]] int room() const;
   void readAnew();
   void markAll(const QString& typed);
   void sayPage();
 
   const HelpBook& book_;
   QUrl page_;  // to which the addresses inside a page are relative
+  // Of the pictures that the page shows the widest, and the room when it was read.
+  int widestPicture_ = 0;
+  int roomOfPictures_ = 0;
   int zoom_ = kNormalZoom;
   QString marked_;
 };

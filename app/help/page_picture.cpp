@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <algorithm>
 
 namespace odmiennik::app {
 namespace {
@@ -28,13 +29,14 @@ QImage readPng(QByteArray png) {
 
 }  // namespace
 
-QImage pagePicture(const QByteArray& png, int percent) {
+QImage pagePicture(const QByteArray& png, int percent, std::optional<int> widest) {
   constexpr int kWhole = 100;
   const QImage picture = readPng(png);
   if (picture.isNull()) return transparentPoint();
-  if (percent == kWhole) return picture;
-  return picture.scaled(picture.size() * percent / kWhole, Qt::IgnoreAspectRatio,
-                        Qt::SmoothTransformation);
+  const int wanted = picture.width() * percent / kWhole;
+  const int width = std::max(1, std::min(wanted, widest.value_or(wanted)));
+  return width == picture.width() ? picture
+                                  : picture.scaledToWidth(width, Qt::SmoothTransformation);
 }
 
 }  // namespace odmiennik::app

@@ -44,6 +44,7 @@ class HelpReadingSuite : public QObject {
   void noWordInATableIsBroken();
   void aPictureStandsOnThePageInItsSize();
   void aPictureGrowsWithThePage();
+  void aPictureIsNeverWiderThanTheView();
   void aFormUnderThePointerShowsNoMarkOfItsMaker();
 
  private:
@@ -291,6 +292,7 @@ QList<QSize> picturesOf(QTextBrowser& pages) {
 void HelpReadingSuite::aPictureStandsOnThePageInItsSize() {
   help_->viewer().open("strony\\OdFormy.htm");
   QTRY_COMPARE(pages().source().fileName(), "OdFormy.htm");
+  help_->widget<QDialog>("frmPomoc").resize(1400, 800);
   const QList<QSize> sizes = picturesOf(pages());
   QCOMPARE(sizes.size(), 2);
   QCOMPARE(sizes.front(), QSize(422, 215));
@@ -300,10 +302,25 @@ void HelpReadingSuite::aPictureStandsOnThePageInItsSize() {
 void HelpReadingSuite::aPictureGrowsWithThePage() {
   help_->viewer().open("strony\\OdFormy.htm");
   QTRY_COMPARE(pages().source().fileName(), "OdFormy.htm");
+  help_->widget<QDialog>("frmPomoc").resize(1400, 800);
   const int height = pages().document()->size().toSize().height();
   help_->window.findChild<app::HelpBrowser*>()->setZoom(200);
   QCOMPARE(picturesOf(pages()).front(), QSize(844, 430));
   QVERIFY(pages().document()->size().toSize().height() > height * 3 / 2);
+}
+
+void HelpReadingSuite::aPictureIsNeverWiderThanTheView() {
+  help_->viewer().open("strony\\OdFormy.htm");
+  QTRY_COMPARE(pages().source().fileName(), "OdFormy.htm");
+  for (const int zoom : {200, 100}) {
+    help_->window.findChild<app::HelpBrowser*>()->setZoom(zoom);
+    pages().resize(1400, 800);
+    QCOMPARE(picturesOf(pages()).front(), QSize(422, 215) * zoom / 100);
+    pages().resize(400, 400);
+    QVERIFY(picturesOf(pages()).front().width() < pages().viewport()->width());
+    QVERIFY(picturesOf(pages()).front().width() > 300);
+  }
+  QCOMPARE(pages().horizontalScrollBar()->maximum(), 0);
 }
 
 std::unique_ptr<QObject> helpReadingSuite() { return std::make_unique<HelpReadingSuite>(); }
