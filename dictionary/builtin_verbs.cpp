@@ -2,8 +2,6 @@
 // Look-up in the built-in verbs.
 #include "dictionary/builtin_verbs.h"
 
-#include <charconv>
-
 #include "dictionary/builtin_verbs_data.h"
 #include "dictionary/compiled_texts.h"
 #include "engine/string_table.h"
@@ -21,13 +19,6 @@ bool BuiltinVerbTable::load(std::string_view key, engine::FormTable& forms) cons
     forms[slot].assign(form == engine::kMissing ? std::string_view{} : form);
   }
   return true;
-}
-
-int builtinVerbCount() {
-  const std::string_view text = engine::textOf(engine::text_id::kBuiltinCount);
-  int count = 0;
-  std::from_chars(text.data(), text.data() + text.size(), count);
-  return count;
 }
 
 }  // namespace odmiennik::dictionary

