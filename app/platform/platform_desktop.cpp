@@ -74,27 +74,36 @@ void layOver(QWindow& window, const WindowPlace& place) {
 }
 
 // A maximised window has a thinner frame, and which one it gets when it no longer is, the system
-// tells only with the new size: then the window is laid over its place once more.
+// tells a while after: then the window is laid over its place once more. Qt learns of the new frame
+// without an event, on a busy machine behind the last change of the size.
 class AwaitedFrame final : public QObject {
  public:
   AwaitedFrame(QWindow& window, const WindowPlace& place)
       : QObject(&window), window_(window), place_(place), margins_(window.frameMargins()) {
-    constexpr std::chrono::seconds kLongEnough(2);
+    constexpr std::chrono::milliseconds kPause(50);
+    constexpr std::chrono::seconds kLongEnough(5);
+    QObject::connect(&again_, &QTimer::timeout, this, [this] { follow(); });
+    again_.start(kPause);
     window.installEventFilter(this);
     QTimer::singleShot(kLongEnough, this, &QObject::deleteLater);
   }
 
   bool eventFilter(QObject* /*window*/, QEvent* event) override {
-    if (event->type() != QEvent::Resize || window_.frameMargins() == margins_) return false;
-    margins_ = window_.frameMargins();
-    layOver(window_, place_);
+    if (event->type() == QEvent::Resize) follow();
     return false;
   }
 
  private:
+  void follow() {
+    if (window_.frameMargins() == margins_) return;
+    margins_ = window_.frameMargins();
+    layOver(window_, place_);
+  }
+
   QWindow& window_;
   WindowPlace place_;
   QMargins margins_;
+  QTimer again_;
 };
 
 }  // namespace
