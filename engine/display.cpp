@@ -22,11 +22,6 @@ void dropPersons(Forms& forms, Stays stays, Lack lack) {
     if (!stays(slot)) lose(forms, slot, lack);
 }
 
-// Of a verb that is not conjugated pronominally.
-std::string_view bareForm(int slot, std::string_view form) {
-  return mayCarryReflexive(slot, form) ? withoutOwnReflexive(slot, form) : form;
-}
-
 }  // namespace
 
 template <typename Forms>
@@ -38,7 +33,7 @@ void display(Forms& forms, const EngineFlags& flags, bool isEditing, Display& sh
   const std::string_view none = isEditing ? std::string_view{} : kShownMissing;
   for (int slot = 0; slot < kSlotCount; ++slot) {
     const std::string_view form = forms[slot].empty() ? none : forms[slot];
-    const std::string_view box = isPronominal ? form : bareForm(slot, form);
+    const std::string_view box = isPronominal ? form : withoutOwnReflexive(slot, form);
     shown.boxes[static_cast<std::size_t>(slot)] = box;
     noteShown(forms, slot, box);
   }

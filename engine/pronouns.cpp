@@ -51,8 +51,8 @@ constexpr bool isImperative(int slot) {
 }
 
 bool takesReflexive(int slot, const std::string& form) {
-  if (form.empty() || form == kPlaceholder) return false;
-  return !mayCarryReflexive(slot, form) || withoutOwnReflexive(slot, form).size() == form.size();
+  return !form.empty() && form != kPlaceholder &&
+         withoutOwnReflexive(slot, form).size() == form.size();
 }
 
 constexpr int kThirdPerson = 2;
@@ -133,7 +133,7 @@ Elision elisionBefore(std::string_view form, bool hAspirate, Variety variety) {
   return judge<Elision>(form, hAspirate, variety);
 }
 
-std::string_view withoutOwnReflexive(int slot, std::string_view form) {
+std::string_view detail::withoutReflexiveLookedFor(int slot, std::string_view form) {
   if (isImperative(slot)) {
     const std::string_view bare = withoutEnclitic(slot, form);
     if (bare.size() != form.size()) return bare;

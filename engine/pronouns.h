@@ -47,6 +47,8 @@ void addReflexivePronouns(Forms& forms, bool hAspirate);
 template <typename Forms>
 void addReflexivePronounsOfNorm(Forms& forms, const EngineFlags& flags);
 
+namespace detail {
+
 // Whether `form` may carry a reflexive pronoun: "m'", "me ", "nous " and their like stand before
 // it, the imperative's behind a hyphen. A glance that settles most forms.
 [[nodiscard]] inline bool mayCarryReflexive(int slot, std::string_view form) {
@@ -58,10 +60,17 @@ void addReflexivePronounsOfNorm(Forms& forms, const EngineFlags& flags);
   return form[1] == '\'';
 }
 
+[[nodiscard]] std::string_view withoutReflexiveLookedFor(int slot, std::string_view form);
+
+}  // namespace detail
+
 // The form of `slot` without the reflexive pronoun that it carries, as a view of `form`:
 // (0, "me lave") -> "lave", (90, "lave-toi") -> "lave", (96, "se laver") -> "laver". An "en" or "y"
 // behind the imperative's pronoun goes with it: (90, "va-t'en") -> "va".
-[[nodiscard]] std::string_view withoutOwnReflexive(int slot, std::string_view form);
+[[nodiscard]] inline std::string_view withoutOwnReflexive(int slot, std::string_view form) {
+  return detail::mayCarryReflexive(slot, form) ? detail::withoutReflexiveLookedFor(slot, form)
+                                               : form;
+}
 
 using SubjectPronouns = std::array<std::string_view, kPersonalSlotCount>;
 using SubjunctiveCaptions = std::array<std::string_view, 4>;
